@@ -1,0 +1,62 @@
+// The places every job works in (TempRoot, WorkFolder, ScratchFolder, ProgramFolder), the fixed
+// file names in them, and the small file helpers that the jobs rely on.
+#pragma once
+
+#include <QString>
+
+namespace quovara {
+
+// How paths are joined. Paths are built by plain concatenation of the separator and a name;
+// the separator is a parameter so that command lines can be produced for either style.
+struct PathStyle {
+    QChar sep;
+    static PathStyle host();    // '/' here, '\' on Windows
+    static PathStyle windows(); // '\'
+    QString join(const QString& a, const QString& b) const { return a + sep + b; }
+};
+
+// Fixed file names in the WorkFolder (and the engine's temporary archive beside a target).
+namespace names {
+inline constexpr char WorkFolderName[] = "Corvana";
+inline constexpr char ScratchFolderName[] = "Tessimo";
+inline constexpr char ListScript[] = "Apri.bat";
+inline constexpr char AddScript[] = "Archivia.bat";
+inline constexpr char ExtractScript[] = "Estrai.bat";
+inline constexpr char TestScript[] = "Testing.bat";
+inline constexpr char SingleScript[] = "EstraiSingolo.bat";
+inline constexpr char ListLog[] = "uharc.log";
+inline constexpr char ConsoleOutput[] = "das.txt";
+inline constexpr char Placeholder[] = "Prova.xt";
+inline constexpr char EngineTempArchive[] = "UHA$0000.$$$";
+inline constexpr char SfxStub[] = "SFX.exe";
+} // namespace names
+
+// The user's temporary folder, asked afresh every time (honours TMPDIR).
+QString TempRoot();
+// TempRoot + sep + "Corvana".
+QString WorkFolder();
+// TempRoot + sep + "Corvana" + sep + "Tessimo".
+QString ScratchFolder();
+// WorkFolder + sep + name.
+QString WorkFile(const char* name);
+
+// The folder holding the engine: QUOVARA_PROGRAM_DIR when set; else the executable's folder
+// when it holds an engine file; else the per-user data folder (created on demand).
+QString ProgramFolder();
+
+// Deletes the WorkFolder with everything in it when it exists; does not create it again.
+// A WorkFolder that is a symbolic link is unlinked, never followed.
+void CleanWorkFolder();
+
+// Makes one folder; an existing folder or a failure is no error (failures are logged).
+void MakeDir(const QString& path);
+
+// True when the file's length can be read and is not zero: a missing file, a bad path and an
+// empty file all answer false.
+bool FileExists(const QString& path);
+
+// The long form of a path. Linux has no short (8.3) names, so the long form is the path
+// itself; the empty string when the path cannot be resolved (as the platform call gives).
+QString LongPath(const QString& path);
+
+} // namespace quovara

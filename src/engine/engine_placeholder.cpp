@@ -1,0 +1,2 @@
+// Replaced as the engine layer grows.
+namespace quovara { int engineLayerAnchor() { return 0; } } // namespace quovara
