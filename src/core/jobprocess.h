@@ -1,0 +1,56 @@
+// One running JobScript. Without a batch interpreter the script is read back and its command
+// is started directly, never through a shell: the preamble's variables go into the engine's
+// environment, "> target" sends standard output to that file, the engine starts at the lowest
+// scheduling priority, and a Windows engine runs through the launcher (wine) with a
+// pseudo-terminal as its console.
+#pragma once
+
+#include "scriptexec.h"
+
+#include <QObject>
+#include <QProcess>
+#include <QString>
+
+class QSocketNotifier;
+
+namespace quovara {
+
+class JobProcess : public QObject {
+    Q_OBJECT
+public:
+    explicit JobProcess(QObject* parent = nullptr);
+    ~JobProcess() override;
+
+    // Starts the script. `workingFolder` empty: the script's own folder. False when the script
+    // cannot be read, names no command, its program is missing, or a Windows program has no
+    // launcher; errorText() then says why.
+    bool start(const QString& scriptPath, const QString& workingFolder = QString());
+
+    bool isRunning() const;
+    qint64 processId() const;
+    QString errorText() const { return error_; }
+    // The program and arguments actually started (after launcher translation), for tests and logs.
+    QString program() const { return program_; }
+    QStringList arguments() const { return arguments_; }
+
+    // Ends the process at once (used when the window that owns the job closes).
+    void kill();
+
+signals:
+    void finished(int exitCode);
+
+private:
+    void closeTerminal();
+
+    QProcess* process_ = nullptr;
+    int ptyMaster_ = -1;
+    QSocketNotifier* ptyNotifier_ = nullptr;
+    QString error_;
+    QString program_;
+    QStringList arguments_;
+};
+
+// Finds the launcher for Windows programs: QUOVARA_WINE when set, else "wine" on the PATH.
+QString LauncherPath();
+
+} // namespace quovara

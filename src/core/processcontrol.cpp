@@ -1,0 +1,93 @@
+#include "processcontrol.h"
+
+#include "logging.h"
+#include "prompter.h"
+
+#include <QFile>
+#include <QList>
+#include <algorithm>
+
+#ifdef Q_OS_UNIX
+#include <dirent.h>
+#include <signal.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+namespace quovara {
+
+namespace {
+
+QString baseName(const QString& path) {
+    const int cut =
+        std::max(path.lastIndexOf(QLatin1Char('/')), path.lastIndexOf(QLatin1Char('\\')));
+    return path.mid(cut + 1);
+}
+
+QByteArray readProcFile(qint64 pid, const char* name) {
+    QFile f(QStringLiteral("/proc/%1/%2").arg(pid).arg(QLatin1String(name)));
+    if (!f.open(QIODevice::ReadOnly))
+        return QByteArray();
+    return f.read(4096);
+}
+
+} // namespace
+
+qint64 TerminateProcessByName(const QString& name, Prompter* prompter) {
+#ifdef Q_OS_UNIX
+    DIR* dir = ::opendir("/proc");
+    if (!dir) {
+        qCDebug(lcRunner) << "no process list";
+        return 0;
+    }
+    QList<qint64> pids;
+    while (dirent* entry = ::readdir(dir)) {
+        bool ok = false;
+        const qint64 pid = QByteArray(entry->d_name).toLongLong(&ok);
+        if (ok && pid > 0)
+            pids.append(pid);
+    }
+    std::sort(pids.begin(), pids.end());
+
+    const QString wanted = name.toUpper();
+    const uid_t me = ::getuid();
+    const qint64 self = ::getpid();
+    qint64 ended = 0;
+    for (qint64 pid : pids) {
+        if (pid == self)
+            continue;
+        struct stat st;
+        const QByteArray procPath = QByteArray("/proc/") + QByteArray::number(pid);
+        if (::stat(procPath.constData(), &st) != 0 || st.st_uid != me)
+            continue;
+        const QString comm = QString::fromLocal8Bit(readProcFile(pid, "comm")).trimmed();
+        const QByteArray cmdline = readProcFile(pid, "cmdline");
+        const QString argv0 = baseName(QString::fromLocal8Bit(cmdline.left(cmdline.indexOf('\0'))));
+        if (comm.toUpper() != wanted && argv0.toUpper() != wanted)
+            continue;
+        if (::kill(static_cast<pid_t>(pid), SIGKILL) == 0)
+            qCDebug(lcRunner) << "ended process" << pid << comm;
+        else
+            qCDebug(lcRunner) << "could not end process" << pid << comm;
+        ended = pid;
+        break;
+    }
+    if (::closedir(dir) != 0 && prompter)
+        prompter->plain(QStringLiteral("Couldn't terminate process"));
+    return ended;
+#else
+    Q_UNUSED(name);
+    Q_UNUSED(prompter);
+    return 0;
+#endif
+}
+
+void SetIdlePriority() {
+#ifdef Q_OS_UNIX
+    if (::setpriority(PRIO_PROCESS, 0, 19) != 0)
+        qCDebug(lcRunner) << "could not lower the program's priority";
+#endif
+}
+
+} // namespace quovara

@@ -1,0 +1,67 @@
+#include "runner.h"
+
+#include "jobprocess.h"
+#include "logging.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QPointer>
+#include <QTime>
+#include <QTimer>
+#include <cmath>
+
+namespace quovara {
+
+qint64 SecondsSinceMidnight() {
+    return std::llround(QTime::currentTime().msecsSinceStartOfDay() / 1000.0);
+}
+
+bool DeadlineReached(qint64 now, qint64 start, qint64 deadline, bool wrapped) {
+    if (now < deadline)
+        return false;
+    return !wrapped || now < start;
+}
+
+bool RunAndWait(const QString& scriptPath, qint16 timeoutSeconds, const QString& workingFolder,
+                const std::function<qint64()>& clock, QString* startError) {
+    const auto now = clock ? clock : std::function<qint64()>(SecondsSinceMidnight);
+    const qint64 start = now();
+    qint64 deadline = 0;
+    bool wrapped = false;
+    if (timeoutSeconds > 0) {
+        deadline = start + timeoutSeconds;
+        if (deadline >= 86400) {
+            deadline -= 86400;
+            wrapped = true;
+        }
+    }
+
+    // The job belongs to the application, not to this call: after a time-out it runs on and
+    // cleans itself up when it ends.
+    auto* job = new JobProcess(QCoreApplication::instance());
+    if (!job->start(scriptPath, workingFolder)) {
+        if (startError)
+            *startError = job->errorText();
+        job->deleteLater();
+        return false;
+    }
+    QPointer<JobProcess> guard(job);
+    QEventLoop loop;
+    QObject::connect(job, &JobProcess::finished, &loop, &QEventLoop::quit);
+    QObject::connect(job, &JobProcess::finished, job, &QObject::deleteLater);
+    QTimer deadlineTimer;
+    if (timeoutSeconds > 0) {
+        QObject::connect(&deadlineTimer, &QTimer::timeout, &loop, [&] {
+            if (DeadlineReached(now(), start, deadline, wrapped)) {
+                qCDebug(lcRunner) << "time-out reached; the job goes on by itself";
+                loop.quit();
+            }
+        });
+        deadlineTimer.start(100);
+    }
+    if (guard && guard->isRunning())
+        loop.exec();
+    return true;
+}
+
+} // namespace quovara

@@ -1,0 +1,30 @@
+#include "workspace.h"
+
+#include "enginefiles.h"
+#include "logging.h"
+#include "places.h"
+#include "prompter.h"
+
+namespace quovara {
+
+void StartupEngineSwap(const QString& programFolder) {
+    const PathStyle host = PathStyle::host();
+    if (!FileExists(host.join(programFolder, QStringLiteral("Uharc0.6.fns"))))
+        return;
+    RenameEngineFile(programFolder, QStringLiteral("Uharc.exe"), QStringLiteral("Uharc0.4.fns"));
+    RenameEngineFile(programFolder, QStringLiteral("Uharc0.6.fns"), QStringLiteral("UHARC.EXE"));
+}
+
+bool PrepareWorkspace(Prompter& prompter) {
+    CleanWorkFolder();
+    MakeDir(WorkFolder());
+    const QString program = ProgramFolder();
+    if (!FileExists(PathStyle::host().join(program, QStringLiteral("Uharc.exe")))) {
+        prompter.critical(QString::fromLatin1(kEngineMissingText));
+        return false;
+    }
+    StartupEngineSwap(program);
+    return true;
+}
+
+} // namespace quovara

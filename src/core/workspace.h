@@ -1,0 +1,22 @@
+// Start-up preparation of the work folder and the engine files.
+#pragma once
+
+#include <QString>
+
+namespace quovara {
+
+class Prompter;
+
+// The start-up message when no engine is found.
+inline constexpr char kEngineMissingText[] = "Uharc 0.4 not detected, program will be end";
+
+// Deletes the previous run's WorkFolder and makes it again, checks that the engine is present
+// (an empty file counts as missing: the message is shown and false returned, the program must
+// end), then makes engine 0.6 active when its stored copy is present.
+bool PrepareWorkspace(Prompter& prompter);
+
+// When "Uharc0.6.fns" is present: "uharc.exe" becomes "Uharc0.4.fns" and "Uharc0.6.fns"
+// becomes the active engine. This also repairs a switch left over by a crash.
+void StartupEngineSwap(const QString& programFolder);
+
+} // namespace quovara

@@ -1,0 +1,201 @@
+#include "core/codepage.h"
+#include "core/desktop.h"
+#include "core/enginefiles.h"
+#include "core/places.h"
+#include "core/singleinstance.h"
+#include "core/workspace.h"
+#include "recording_prompter.h"
+#include "test_support.h"
+
+#include <QLockFile>
+#include <gtest/gtest.h>
+
+using namespace quovara;
+using namespace quovara::testing;
+
+TEST(Places, FoldersAreBuiltFromTheTemporaryFolderAskedAfresh) {
+    ScopedPlaces places;
+    EXPECT_EQ(TempRoot(), places.tempRoot());
+    EXPECT_EQ(WorkFolder(), places.tempRoot() + "/Corvana");
+    EXPECT_EQ(ScratchFolder(), places.tempRoot() + "/Corvana/Tessimo");
+    EXPECT_EQ(WorkFile(names::ConsoleOutput), places.tempRoot() + "/Corvana/das.txt");
+    EXPECT_EQ(ProgramFolder(), places.programFolder());
+    {
+        ScopedPlaces other;
+        EXPECT_EQ(WorkFolder(), other.tempRoot() + "/Corvana");
+    }
+}
+
+TEST(FileExists, EmptyAndMissingFilesCountAsAbsent) {
+    QTemporaryDir dir;
+    writeFile(dir.filePath("empty.txt"), "");
+    writeFile(dir.filePath("full.txt"), "x");
+    EXPECT_FALSE(FileExists(dir.filePath("empty.txt")));
+    EXPECT_FALSE(FileExists(dir.filePath("missing.txt")));
+    EXPECT_FALSE(FileExists(""));
+    EXPECT_FALSE(FileExists(dir.path()));
+    EXPECT_TRUE(FileExists(dir.filePath("full.txt")));
+}
+
+TEST(FileExists, EngineNamesAnswerWhateverTheirCase) {
+    QTemporaryDir dir;
+    writeFile(dir.filePath("uharc.exe"), "engine");
+    writeFile(dir.filePath("uharc0.4.FNS"), "old engine");
+    EXPECT_TRUE(FileExists(dir.filePath("Uharc.exe")));
+    EXPECT_TRUE(FileExists(dir.filePath("UHARC.EXE")));
+    EXPECT_TRUE(FileExists(dir.filePath("Uharc0.4.fns")));
+    // Other names keep their case.
+    writeFile(dir.filePath("readme.txt"), "x");
+    EXPECT_FALSE(FileExists(dir.filePath("README.TXT")));
+}
+
+TEST(RenameEngineFile, EverySpellingOfTheEngineBecomesOneFile) {
+    QTemporaryDir dir;
+    writeFile(dir.filePath("Uharc0.6.fns"), "six");
+    EXPECT_TRUE(RenameEngineFile(dir.path(), "Uharc0.6.fns", "UHARC.EXE"));
+    EXPECT_EQ(readAll(dir.filePath("uharc.exe")), QByteArray("six"));
+    EXPECT_FALSE(QFile::exists(dir.filePath("UHARC.EXE")));
+    EXPECT_TRUE(RenameEngineFile(dir.path(), "Uharc.exe", "Uharc0.6.fns"));
+    EXPECT_EQ(readAll(dir.filePath("Uharc0.6.fns")), QByteArray("six"));
+}
+
+TEST(RenameEngineFile, ExistingTargetOrMissingSourceLeavesFilesAsTheyWere) {
+    QTemporaryDir dir;
+    writeFile(dir.filePath("uharc.exe"), "active");
+    writeFile(dir.filePath("Uharc0.4.fns"), "stored");
+    EXPECT_FALSE(RenameEngineFile(dir.path(), "uharc.exe", "UHARC0.4.FNS"));
+    EXPECT_EQ(readAll(dir.filePath("uharc.exe")), QByteArray("active"));
+    EXPECT_FALSE(RenameEngineFile(dir.path(), "Uharc0.9.fns", "uharc.exe"));
+}
+
+TEST(CleanWorkFolder, DeletesEverythingAndDoesNotRecreate) {
+    ScopedPlaces places;
+    QDir().mkpath(ScratchFolder() + "/deep/er");
+    writeFile(WorkFile(names::ListLog), "old log");
+    CleanWorkFolder();
+    EXPECT_FALSE(QFileInfo::exists(WorkFolder()));
+    CleanWorkFolder(); // nothing there: no error
+    EXPECT_FALSE(QFileInfo::exists(WorkFolder()));
+}
+
+TEST(CleanWorkFolder, ALinkInPlaceOfTheWorkFolderIsRemovedNotFollowed) {
+    ScopedPlaces places;
+    QTemporaryDir victim;
+    writeFile(victim.filePath("precious.txt"), "keep me");
+    ASSERT_TRUE(QFile::link(victim.path(), WorkFolder()));
+    CleanWorkFolder();
+    EXPECT_FALSE(QFileInfo(WorkFolder()).isSymLink());
+    EXPECT_EQ(readAll(victim.filePath("precious.txt")), QByteArray("keep me"));
+}
+
+TEST(PrepareWorkspace, EmptyEngineCountsAsMissing) {
+    ScopedPlaces places;
+    writeFile(places.programFolder() + "/uharc.exe", "");
+    RecordingPrompter prompter;
+    EXPECT_FALSE(PrepareWorkspace(prompter));
+    EXPECT_EQ(prompter.shown,
+              QStringList({"critical: Uharc 0.4 not detected, program will be end"}));
+}
+
+TEST(PrepareWorkspace, MissingEngineEndsTheProgram) {
+    ScopedPlaces places;
+    RecordingPrompter prompter;
+    EXPECT_FALSE(PrepareWorkspace(prompter));
+    ASSERT_EQ(prompter.shown.size(), 1);
+}
+
+TEST(PrepareWorkspace, CleansAndMakesTheWorkFolder) {
+    ScopedPlaces places;
+    writeFile(places.programFolder() + "/uharc.exe", "engine");
+    QDir().mkpath(ScratchFolder() + "/old");
+    RecordingPrompter prompter;
+    EXPECT_TRUE(PrepareWorkspace(prompter));
+    EXPECT_TRUE(QFileInfo(WorkFolder()).isDir());
+    EXPECT_FALSE(QFileInfo::exists(ScratchFolder()));
+    EXPECT_TRUE(prompter.shown.isEmpty());
+}
+
+TEST(PrepareWorkspace, SwapsToTheStoredSixEngine) {
+    ScopedPlaces places;
+    const QString p = places.programFolder();
+    writeFile(p + "/Uharc.exe", "engine 0.4");
+    writeFile(p + "/Uharc0.6.fns", "engine 0.6");
+    RecordingPrompter prompter;
+    EXPECT_TRUE(PrepareWorkspace(prompter));
+    EXPECT_EQ(readAll(p + "/uharc.exe"), QByteArray("engine 0.6"));
+    EXPECT_EQ(readAll(p + "/Uharc0.4.fns"), QByteArray("engine 0.4"));
+    EXPECT_FALSE(QFile::exists(p + "/Uharc0.6.fns"));
+    EXPECT_EQ(QDir(p).entryList(QDir::Files).size(), 2);
+}
+
+TEST(PrepareWorkspace, NormalStateIsLeftAlone) {
+    ScopedPlaces places;
+    const QString p = places.programFolder();
+    writeFile(p + "/uharc.exe", "engine 0.6");
+    writeFile(p + "/Uharc0.4.fns", "engine 0.4");
+    RecordingPrompter prompter;
+    EXPECT_TRUE(PrepareWorkspace(prompter));
+    EXPECT_EQ(readAll(p + "/uharc.exe"), QByteArray("engine 0.6"));
+    EXPECT_EQ(readAll(p + "/Uharc0.4.fns"), QByteArray("engine 0.4"));
+}
+
+TEST(ShellOpenFailureText, ItalianTextsWithTwoCarriageReturns) {
+    EXPECT_EQ(ShellOpenFailureText(31, ""),
+              "Il sistema in uso non presenta alcuna associazione per questo tipo di file\r\r");
+    EXPECT_EQ(ShellOpenFailureText(31, "  -a b  "),
+              "Il sistema in uso non presenta alcuna associazione per questo tipo di file\r\r"
+              "Parametri: '-a b'");
+    EXPECT_EQ(ShellOpenFailureText(0, ""), "Memoria o risorse del sistema esaurite. \r\r");
+    EXPECT_EQ(ShellOpenFailureText(2, ""), "Impossibile trovare il file. \r\r");
+    EXPECT_EQ(ShellOpenFailureText(3, ""), "Impossibile trovare la cartella. \r\r");
+    EXPECT_EQ(ShellOpenFailureText(11, ""),
+              QString::fromUtf8("Il formato del file non \u00e8 valido. \r\r"));
+    EXPECT_EQ(ShellOpenFailureText(5, "x"), "");
+    EXPECT_EQ(ShellOpenFailureText(42, ""), "");
+}
+
+TEST(ShellOpenReport, ReportsFailuresAndStaysQuietOnSuccess) {
+    QStringList opened;
+    int answer = 31;
+    SetDesktopOpener([&](const QString& target, const QString&, const QString&) {
+        opened << target;
+        return answer;
+    });
+    RecordingPrompter prompter;
+    EXPECT_EQ(ShellOpenReport(prompter, "/t/a.xyz", "", "", 1), 31);
+    ASSERT_EQ(prompter.shown.size(), 1);
+    EXPECT_TRUE(prompter.shown[0].startsWith("critical: Il sistema in uso"));
+    answer = 5; // no text for this value: nothing is shown
+    ShellOpenReport(prompter, "/t/b.xyz", "", "", 1);
+    answer = 42;
+    ShellOpenReport(prompter, "/t/c.xyz", "", "", 1);
+    EXPECT_EQ(prompter.shown.size(), 1);
+    EXPECT_EQ(opened, QStringList({"/t/a.xyz", "/t/b.xyz", "/t/c.xyz"}));
+    SetDesktopOpener({});
+}
+
+TEST(DesktopOpen, DefaultOpenerMapsMissingFileAndFolder) {
+    QTemporaryDir dir;
+    EXPECT_EQ(DesktopOpen(dir.filePath("missing.txt")), 2);
+    EXPECT_EQ(DesktopOpen(dir.filePath("no-folder/missing.txt")), 3);
+}
+
+TEST(AnotherInstanceRunning, SecondHolderIsRefused) {
+    QTemporaryDir dir;
+    const QString path = dir.filePath("quovara.lock");
+    QLockFile other(path);
+    ASSERT_TRUE(other.tryLock(0));
+    EXPECT_TRUE(AnotherInstanceRunning(path));
+    other.unlock();
+    EXPECT_FALSE(AnotherInstanceRunning(path));
+    // This copy now holds it; asking again does not refuse itself.
+    EXPECT_FALSE(AnotherInstanceRunning(path));
+    QLockFile third(path);
+    EXPECT_FALSE(third.tryLock(0));
+}
+
+TEST(FromCp437, DecodesTheHighHalf) {
+    EXPECT_EQ(FromCp437("abc"), "abc");
+    EXPECT_EQ(FromCp437("\x82t\x82"), QString::fromUtf8("\u00e9t\u00e9"));
+    EXPECT_EQ(FromCp437("\xc4\xb3"), QString::fromUtf8("\u2500\u2502"));
+}
