@@ -19,13 +19,21 @@ PathStyle PathStyle::host() {
 #endif
 }
 
-PathStyle PathStyle::windows() { return PathStyle{QLatin1Char('\\')}; }
+PathStyle PathStyle::windows() {
+    return PathStyle{QLatin1Char('\\')};
+}
 
-QString TempRoot() { return QDir::toNativeSeparators(QDir::tempPath()); }
+QString TempRoot() {
+    return QDir::toNativeSeparators(QDir::tempPath());
+}
 
-QString WorkFolder() { return PathStyle::host().join(TempRoot(), names::WorkFolderName); }
+QString WorkFolder() {
+    return PathStyle::host().join(TempRoot(), names::WorkFolderName);
+}
 
-QString ScratchFolder() { return PathStyle::host().join(WorkFolder(), names::ScratchFolderName); }
+QString ScratchFolder() {
+    return PathStyle::host().join(WorkFolder(), names::ScratchFolderName);
+}
 
 QString WorkFile(const char* name) {
     return PathStyle::host().join(WorkFolder(), QString::fromLatin1(name));

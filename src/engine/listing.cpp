@@ -1,0 +1,380 @@
+#include "listing.h"
+
+#include "core/codepage.h"
+#include "core/jobscript.h"
+#include "core/logging.h"
+#include "core/prompter.h"
+#include "core/runner.h"
+#include "core/vbtext.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSet>
+
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+namespace quovara {
+
+QString ListingSeparator() {
+    return QString(79, QLatin1Char('-'));
+}
+
+QString sGivePath(const QString& s) {
+    const int cut = s.lastIndexOf(QLatin1Char('\\'));
+    return cut < 0 ? QString() : s.left(cut);
+}
+
+QString sGiveFile(const QString& s) {
+    const int cut = s.lastIndexOf(QLatin1Char('\\'));
+    // A separator at the first position counts as none: "\c.txt" stays whole.
+    return cut <= 0 ? s : s.mid(cut + 1);
+}
+
+int Tipo(const QString& s) {
+    if (Like(s, QStringLiteral("*:\\*")))
+        return 1;
+    if (Like(s, QStringLiteral("*\\*")))
+        return 2;
+    return 0;
+}
+
+QStringList SplitEngineLines(const QString& text) {
+    QStringList lines;
+    qsizetype start = 0;
+    const qsizetype n = text.size();
+    for (qsizetype i = 0; i < n; ++i) {
+        if (text[i] == QLatin1Char('\r')) {
+            lines.append(text.mid(start, i - start));
+            if (i + 1 < n && text[i + 1] == QLatin1Char('\n'))
+                ++i;
+            start = i + 1;
+        }
+    }
+    if (start < n)
+        lines.append(text.mid(start));
+    return lines;
+}
+
+QStringList ReadEngineLines(const QString& path, bool* opened) {
+    QFile file(path);
+    const bool ok = file.open(QIODevice::ReadOnly);
+    if (opened)
+        *opened = ok;
+    if (!ok)
+        return {};
+    return SplitEngineLines(FromCp437(file.readAll()));
+}
+
+QStringList ListScriptPieces(const PathStyle& style, const QString& programFolder,
+                             const QString& workFolder, const QString& password,
+                             const QString& archivePath) {
+    const QString quote = QStringLiteral("\"");
+    QStringList pieces;
+    pieces << quote + style.join(programFolder, QStringLiteral("uharc.exe")) + quote;
+    pieces << QStringLiteral(" l -d2 -y+ -lg");
+    pieces << style.join(workFolder, QString::fromLatin1(names::ListLog)) + QStringLiteral(" ");
+    if (!password.isEmpty())
+        pieces << QStringLiteral("-pw") + quote + password + quote + QStringLiteral(" ");
+    pieces << quote + archivePath + quote;
+    return pieces;
+}
+
+QString ScanListingErrors(const QStringList& lines) {
+    QString message;
+    for (const QString& line : lines) {
+        if (!Like(line, QStringLiteral("ERROR:*")))
+            continue;
+        QString m = line.mid(6);
+        if (Like(m, QStringLiteral("*--> use UHARC version*")))
+            return m;
+        if (Like(m, QStringLiteral("*-->*"))) {
+            // Cut the message before its first "--".
+            while (Like(m, QStringLiteral("*--*")))
+                m.chop(1);
+            if (Like(m, QStringLiteral("*-")))
+                m.chop(1);
+        }
+        message = m;
+    }
+    return message;
+}
+
+namespace {
+
+// Creates folders and placeholder files strictly below one root. Components that could climb
+// out ("", ".", ".."), drive prefixes and links are never followed.
+class MirrorWriter {
+public:
+    explicit MirrorWriter(const QString& root) : root_(QDir::cleanPath(root)) {
+        root_ok_ = ensureDir(QFile::encodeName(root_));
+    }
+
+    bool rootOk() const { return root_ok_; }
+
+    // Makes the folder path (components separated by "\" or "/") and returns its host path.
+    QByteArray makeFolder(const QString& folder) {
+        QByteArray current = QFile::encodeName(root_);
+        qsizetype start = 0;
+        for (qsizetype i = 0; i <= folder.size(); ++i) {
+            if (i == folder.size() || folder[i] == QLatin1Char('\\') ||
+                folder[i] == QLatin1Char('/')) {
+                const QString component = folder.mid(start, i - start);
+                start = i + 1;
+                if (!usable(component))
+                    continue;
+                const QByteArray next = current + '/' + QFile::encodeName(component);
+                if (!ensureDir(next))
+                    return QByteArray(); // could not make it safely: the entry is skipped
+                current = next;
+            }
+        }
+        return current;
+    }
+
+    // Writes an empty placeholder (a copy of the empty Prova.xt) named `file` into `folder`.
+    void placeholder(const QByteArray& folder, const QString& file) {
+        // The name may still hold separators ("\c.txt"): only its last usable part counts.
+        QString name;
+        const QStringList parts =
+            QString(file).replace(QLatin1Char('/'), QLatin1Char('\\')).split(QLatin1Char('\\'));
+        for (const QString& part : parts) {
+            if (usable(part))
+                name = part;
+        }
+        if (name.isEmpty() || folder.isEmpty())
+            return;
+        const QByteArray path = folder + '/' + QFile::encodeName(name);
+#ifdef Q_OS_UNIX
+        const int fd =
+            ::open(path.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW | O_CLOEXEC, 0644);
+        if (fd < 0) {
+            qCDebug(lcListing) << "could not create placeholder" << path;
+            return;
+        }
+        ::close(fd);
+#else
+        QFile f(QFile::decodeName(path));
+        if (!f.open(QIODevice::WriteOnly | QIODevice::Truncate))
+            qCDebug(lcListing) << "could not create placeholder" << path;
+#endif
+    }
+
+private:
+    static bool usable(const QString& component) {
+        return !component.isEmpty() && component != QLatin1String(".") &&
+               component != QLatin1String("..") && !component.contains(QChar(0));
+    }
+
+    // Makes a real folder (not a link) at `path`; folders already checked are remembered so
+    // that each is created or checked once.
+    bool ensureDir(const QByteArray& path) {
+        if (known_.contains(path))
+            return true;
+#ifdef Q_OS_UNIX
+        if (::mkdir(path.constData(), 0755) != 0) {
+            struct stat st;
+            if (::lstat(path.constData(), &st) != 0 || !S_ISDIR(st.st_mode)) {
+                qCDebug(lcListing) << "not a folder, or a link; left alone:" << path;
+                return false;
+            }
+        }
+#else
+        const QString p = QFile::decodeName(path);
+        if (!QFileInfo(p).isDir() && !QDir().mkdir(p)) {
+            qCDebug(lcListing) << "could not create folder" << p;
+            return false;
+        }
+#endif
+        known_.insert(path);
+        return true;
+    }
+
+    QString root_;
+    bool root_ok_ = false;
+    QSet<QByteArray> known_;
+};
+
+} // namespace
+
+bool BuildMirrorTree(const QStringList& lines, const QString& scratchFolder) {
+    MirrorWriter writer(scratchFolder);
+    if (!writer.rootOk())
+        return false;
+    const QString separator = ListingSeparator();
+    qsizetype next = 9; // nine header lines are skipped unread
+    QString name;
+    // The test comes before the read, so the separator itself is handled as a last entry (its
+    // "detail line" being the first totals line); its placeholder is removed afterwards.
+    while (name != separator) {
+        if (next >= lines.size()) {
+            qCDebug(lcListing) << "listing ends before its separator line";
+            return false;
+        }
+        name = lines[next].trimmed();
+        next += 2;
+        QString folder = sGivePath(name);
+        if (Tipo(folder) == 1)
+            folder = folder.mid(2);
+        const QString file = sGiveFile(name);
+        writer.placeholder(writer.makeFolder(folder), file);
+    }
+    const QString artefact = QDir(scratchFolder).filePath(separator);
+    if (!QFile::remove(artefact))
+        qCDebug(lcListing) << "could not remove" << artefact;
+    return true;
+}
+
+std::optional<ArchiveTotals> ReadTotals(const QStringList& lines) {
+    const QString separator = ListingSeparator();
+    qsizetype i = 9;
+    while (i < lines.size() && lines[i] != separator)
+        ++i;
+    if (i + 1 >= lines.size())
+        return std::nullopt;
+    const QString line1 = lines[i + 1];
+    const QString line2 = i + 2 < lines.size() ? lines[i + 2] : QString();
+
+    ArchiveTotals t;
+    const QString count = line1.left(20).trimmed();
+    t.fileCountText = count.left(std::max<qsizetype>(0, count.size() - 6));
+    auto mb = [](const QString& field) {
+        QString s = field;
+        while (!s.isEmpty() && s.front() == QLatin1Char(' '))
+            s.remove(0, 1);
+        return NumberText(RoundHalfEven(Val(s) / 1048576.0, 2));
+    };
+    t.normalSizeMB = mb(line1.mid(20));
+    t.packedSizeMB = mb(line2.left(40));
+
+    QString field;
+    QString ratioText;
+    if (!line2.contains(QLatin1String("LZP")) && !line2.contains(QLatin1String("PPM"))) {
+        field = line2.mid(49, 5);
+        ratioText = line2.mid(68);
+    } else {
+        field = line2.mid(49, 3);
+        ratioText = line2.mid(66);
+    }
+    if (field.contains(QLatin1Char('3')))
+        t.modeText = QStringLiteral("ALZ Best");
+    else if (field.contains(QLatin1Char('2')))
+        t.modeText = QStringLiteral("ALZ Normal");
+    else if (field.contains(QLatin1Char('1')))
+        t.modeText = QStringLiteral("ALZ Fast");
+    else
+        t.modeText = field;
+    ratioText.chop(1); // the per-cent sign
+    if (const auto ratio = ToInt16(Val(ratioText)))
+        t.ratio = *ratio;
+    else
+        qCDebug(lcListing) << "ratio out of range:" << ratioText;
+    return t;
+}
+
+ArchiveLister::ArchiveLister(Prompter& prompter, EngineSwitchState& engineSwitch)
+    : prompter_(prompter), switch_(engineSwitch) {}
+
+void ArchiveLister::Batch() {
+    const QString log = WorkFile(names::ListLog);
+    if (FileExists(log) && !QFile::remove(log))
+        qCDebug(lcListing) << "could not delete" << log;
+    const QString script = WorkFile(names::ListScript);
+    WriteJobScript(script, Preamble::List,
+                   ListScriptPieces(PathStyle::host(), ProgramFolder(), WorkFolder(),
+                                    listing_.password, listing_.archivePath));
+    startError_.clear();
+    if (!RunAndWait(script, 0, WorkFolder(), {}, &startError_))
+        qCDebug(lcListing) << "list job not started:" << startError_;
+    if (!QFileInfo::exists(log)) {
+        // No log: the engine did not run. The listing fails without a message.
+        listing_.status = ListStatus::Failed;
+        return;
+    }
+    listing_.status = SpecificaErrore(Errore());
+}
+
+QString ArchiveLister::Errore() const {
+    return ScanListingErrors(ReadEngineLines(WorkFile(names::ListLog)));
+}
+
+ListStatus ArchiveLister::SpecificaErrore(const QString& message) {
+    const QString log = WorkFile(names::ListLog);
+    if (IsVersionRequest(message, switch_)) {
+        if (!QFile::remove(log))
+            qCDebug(lcListing) << "could not delete" << log;
+        SwitchEngine(switch_, ProgramFolder(), message);
+        return ListStatus::EngineSwitched;
+    }
+    const QString t = message.trimmed();
+    if (t == QLatin1String("Archive requires a password to access")) {
+        if (!QFile::remove(log))
+            qCDebug(lcListing) << "could not delete" << log;
+        return ListStatus::PasswordRequired;
+    }
+    if (!t.isEmpty()) {
+        prompter_.critical(t);
+        return ListStatus::Failed;
+    }
+    return ListStatus::Opened;
+}
+
+ListStatus ArchiveLister::FileInArchivio(const QString& selectedPath) {
+    for (;;) {
+        QFile placeholder(WorkFile(names::Placeholder));
+        if (!placeholder.open(QIODevice::WriteOnly | QIODevice::Truncate))
+            qCDebug(lcListing) << "could not create" << placeholder.fileName();
+        placeholder.close();
+
+        listing_.archivePath = selectedPath;
+        Batch();
+        switch (listing_.status) {
+        case ListStatus::PasswordRequired:
+            // Only a right password leads out: an empty or cancelled answer lists again
+            // without one and asks again.
+            listing_.password = prompter_.askPassword(QStringLiteral("Insert Password"));
+            continue;
+        case ListStatus::EngineSwitched:
+            return listing_.status;
+        case ListStatus::Failed:
+            listing_.password.clear();
+            UndoEngineSwitch(switch_, ProgramFolder());
+            return listing_.status;
+        case ListStatus::Opened:
+            if (!BuildMirrorTree(ReadEngineLines(WorkFile(names::ListLog)), ScratchFolder())) {
+                listing_.status = ListStatus::Failed;
+                listing_.password.clear();
+                UndoEngineSwitch(switch_, ProgramFolder());
+            }
+            return listing_.status;
+        }
+    }
+}
+
+bool ArchiveLister::OpenSelectedArchive(const QString& path) {
+    // The extension as the file system reports it: the text after the last dot of the name.
+    const QString name = QFileInfo(path).fileName();
+    const int dot = name.lastIndexOf(QLatin1Char('.'));
+    if (dot < 0 || name.mid(dot + 1) != QLatin1String("uha"))
+        return false;
+    for (;;) {
+        MirrorWriter scratch(ScratchFolder());
+        if (!scratch.rootOk())
+            qCDebug(lcListing) << "could not make the scratch folder" << ScratchFolder();
+        if (FileInArchivio(path) != ListStatus::EngineSwitched)
+            return true;
+        // The engine was switched: list the same archive again with the other version.
+    }
+}
+
+std::optional<ArchiveTotals> ArchiveLister::Info() const {
+    if (listing_.status == ListStatus::Failed || listing_.status == ListStatus::EngineSwitched)
+        return std::nullopt;
+    return ReadTotals(ReadEngineLines(WorkFile(names::ListLog)));
+}
+
+} // namespace quovara

@@ -1,0 +1,115 @@
+// Listing an archive: the list JobScript, the engine's listing log (errors, entries, totals),
+// the password prompt loop, and the mirror tree: an empty placeholder file for every entry,
+// laid out in the ScratchFolder in the archive's own folder structure, so that the archive can
+// be browsed as ordinary folders and files.
+#pragma once
+
+#include "versionswitch.h"
+
+#include "core/places.h"
+
+#include <QString>
+#include <QStringList>
+#include <optional>
+
+namespace quovara {
+
+class Prompter;
+
+enum class ListStatus { PasswordRequired = 0, Failed = 1, Opened = 2, EngineSwitched = 3 };
+
+// The totals of a listing, as values and as the texts of the details group.
+struct ArchiveTotals {
+    QString fileCountText;
+    QString normalSizeMB; // bytes / 1048576, rounded to 2 decimals, as text
+    QString packedSizeMB;
+    QString modeText;
+    qint16 ratio = 0;
+
+    QString filesLabel() const { return QStringLiteral("Files: ") + fileCountText; }
+    QString normalSizeLabel() const {
+        return QStringLiteral("Normal size: ") + normalSizeMB + QStringLiteral(" MB");
+    }
+    QString packedSizeLabel() const {
+        return QStringLiteral("Packed size: ") + packedSizeMB + QStringLiteral(" MB");
+    }
+    QString modeLabel() const { return QStringLiteral("Mode: ") + modeText; }
+};
+
+struct ArchiveListing {
+    QString archivePath;
+    QString password;
+    ListStatus status = ListStatus::Failed;
+    QString previousFolder;
+};
+
+// The 79 dashes that end the entries of a listing log.
+QString ListingSeparator();
+
+// Text before the last "\" (empty when there is none).
+QString sGivePath(const QString& s);
+// Text after the last "\"; the whole text when there is none or the only one is the first
+// character ("\c.txt" stays "\c.txt").
+QString sGiveFile(const QString& s);
+// 1 when the text holds a drive ("*:\*"), 2 when it holds a separator ("*\*"), else 0.
+int Tipo(const QString& s);
+
+// Splits engine text into lines: a line ends at CR or CR LF, never at a lone LF; the last,
+// unfinished line counts too.
+QStringList SplitEngineLines(const QString& text);
+// Reads a log or console file written by the engine (code page 437) into lines.
+QStringList ReadEngineLines(const QString& path, bool* opened = nullptr);
+
+// The command pieces of the list script, for WriteJobScript with the list preamble.
+QStringList ListScriptPieces(const PathStyle& style, const QString& programFolder,
+                             const QString& workFolder, const QString& password,
+                             const QString& archivePath);
+
+// The error message in the listing log's lines: the last "ERROR:" line's text (cut before its
+// first "--"), or an engine version request, which ends the scan. Empty when there is none.
+QString ScanListingErrors(const QStringList& lines);
+
+// Builds the mirror tree from the log's lines under `scratchFolder`. False when the log ends
+// before the separator line. No entry name ("..", drives, leading separators, links) can make
+// it create or touch anything outside `scratchFolder`.
+bool BuildMirrorTree(const QStringList& lines, const QString& scratchFolder);
+
+// The totals of the log's lines; empty when the log has no separator and totals.
+std::optional<ArchiveTotals> ReadTotals(const QStringList& lines);
+
+class ArchiveLister {
+public:
+    ArchiveLister(Prompter& prompter, EngineSwitchState& engineSwitch);
+
+    ArchiveListing& listing() { return listing_; }
+    const ArchiveListing& listing() const { return listing_; }
+
+    // Writes and runs the list script, then classifies the log.
+    void Batch();
+    // The error message of uharc.log, or empty.
+    QString Errore() const;
+    // Turns the message into a status; switches the engine for a version request, shows any
+    // other error with the critical icon.
+    ListStatus SpecificaErrore(const QString& message);
+    // Lists the archive and builds the mirror tree, asking for the password until the engine
+    // accepts one. Returns the status; EngineSwitched asks the caller to open the item again.
+    ListStatus FileInArchivio(const QString& selectedPath);
+    // The totals of the last successful listing; empty when it failed or switched the engine.
+    std::optional<ArchiveTotals> Info() const;
+
+    // The open-selected-item procedure for an archive: only a ".uha" extension in lower case is
+    // listed (false otherwise: the caller hands the item to the desktop). Makes the
+    // ScratchFolder, lists, and lists again with the other engine after a switch.
+    bool OpenSelectedArchive(const QString& path);
+
+    // Why the last list job could not be started (empty when it started).
+    QString startError() const { return startError_; }
+
+private:
+    Prompter& prompter_;
+    EngineSwitchState& switch_;
+    ArchiveListing listing_;
+    QString startError_;
+};
+
+} // namespace quovara

@@ -1,0 +1,227 @@
+#include "../core/recording_prompter.h"
+#include "../core/test_support.h"
+#include "core/jobscript.h"
+#include "core/places.h"
+#include "engine/listing.h"
+
+#include <QDirIterator>
+#include <gtest/gtest.h>
+
+using namespace quovara;
+using namespace quovara::testing;
+
+namespace {
+
+QString sample(const char* name) {
+    return QStringLiteral(QUOVARA_LISTING_DATA "/") + name;
+}
+
+QStringList sampleLines(const char* name) {
+    return ReadEngineLines(sample(name));
+}
+
+// Every file below `root`, relative, sorted.
+QStringList filesBelow(const QString& root) {
+    QStringList out;
+    QDirIterator it(root, QDir::Files | QDir::Hidden | QDir::System, QDirIterator::Subdirectories);
+    while (it.hasNext())
+        out << QDir(root).relativeFilePath(it.next());
+    out.sort();
+    return out;
+}
+
+} // namespace
+
+TEST(NameSplitting, GivePath) {
+    EXPECT_EQ(sGivePath("a\\b\\c.txt"), "a\\b");
+    EXPECT_EQ(sGivePath("c.txt"), "");
+    EXPECT_EQ(sGivePath("\\c.txt"), "");
+    EXPECT_EQ(sGivePath("a\\"), "a");
+    EXPECT_EQ(sGivePath(""), "");
+}
+
+TEST(NameSplitting, GiveFileKeepsALeadingSeparatorOnPurpose) {
+    EXPECT_EQ(sGiveFile("a\\b\\c.txt"), "c.txt");
+    EXPECT_EQ(sGiveFile("c.txt"), "c.txt");
+    EXPECT_EQ(sGiveFile("\\c.txt"), "\\c.txt");
+    EXPECT_EQ(sGiveFile("a\\"), "");
+}
+
+TEST(NameSplitting, Tipo) {
+    EXPECT_EQ(Tipo("C:\\docs"), 1);
+    EXPECT_EQ(Tipo("docs\\sub"), 2);
+    EXPECT_EQ(Tipo("docs"), 0);
+    EXPECT_EQ(Tipo(""), 0);
+    EXPECT_EQ(Tipo("C:"), 0);
+}
+
+TEST(SplitEngineLines, CrAndCrLfEndLinesButALoneLfDoesNot) {
+    EXPECT_EQ(SplitEngineLines("a\r\nb\rc\nd\r\n"), QStringList({"a", "b", "c\nd"}));
+    EXPECT_EQ(SplitEngineLines("a\r\nunfinished"), QStringList({"a", "unfinished"}));
+    EXPECT_EQ(SplitEngineLines("\r\n\r\n"), QStringList({"", ""}));
+}
+
+TEST(ListScript, PlainArchiveBytes) {
+    const QByteArray bytes =
+        JobScriptBytes(Preamble::List, ListScriptPieces(PathStyle::windows(), "C:\\P",
+                                                        "C:\\T\\Corvana", "", "C:\\a b.uha"));
+    EXPECT_EQ(bytes, QByteArray("cls\r\n@echo off\r\n\"C:\\P\\uharc.exe\" l -d2 -y+ "
+                                "-lgC:\\T\\Corvana\\uharc.log \"C:\\a b.uha\""));
+}
+
+TEST(ListScript, ProtectedArchiveBytes) {
+    const QByteArray bytes =
+        JobScriptBytes(Preamble::List, ListScriptPieces(PathStyle::windows(), "C:\\P",
+                                                        "C:\\T\\Corvana", "pw", "C:\\a.uha"));
+    EXPECT_EQ(bytes, QByteArray("cls\r\n@echo off\r\n\"C:\\P\\uharc.exe\" l -d2 -y+ "
+                                "-lgC:\\T\\Corvana\\uharc.log -pw\"pw\" \"C:\\a.uha\""));
+}
+
+TEST(ListScript, HostPathsAndAPasswordWithAQuoteUnescaped) {
+    const QByteArray bytes = JobScriptBytes(
+        Preamble::List, ListScriptPieces(PathStyle::host(), "/p", "/t/Corvana", "a\"b", "/a.uha"));
+    EXPECT_EQ(bytes, QByteArray("cls\r\n@echo off\r\n\"/p/uharc.exe\" l -d2 -y+ "
+                                "-lg/t/Corvana/uharc.log -pw\"a\"b\" \"/a.uha\""));
+}
+
+TEST(ScanListingErrors, RealLogsOfTheEngine) {
+    EXPECT_EQ(ScanListingErrors(sampleLines("list-alz3.log")), "");
+    EXPECT_EQ(ScanListingErrors(sampleLines("list-ppm.log")), "");
+    EXPECT_EQ(ScanListingErrors(sampleLines("list-missing-archive.log")),
+              " Can't open archive file");
+    // Cut before the first "--", with the blank before it.
+    EXPECT_EQ(ScanListingErrors(sampleLines("list-password-required.log")),
+              " Archive requires a password to access ");
+}
+
+TEST(ScanListingErrors, LastErrorWinsButAVersionRequestEndsTheScan) {
+    EXPECT_EQ(ScanListingErrors({"ERROR: first", "x", "ERROR: second"}), " second");
+    EXPECT_EQ(ScanListingErrors({"ERROR: old --> use UHARC version 0.4", "ERROR: later"}),
+              " old --> use UHARC version 0.4");
+    EXPECT_EQ(ScanListingErrors({"error: lower case", " ERROR: indented"}), "");
+    EXPECT_EQ(ScanListingErrors({"ERROR: a -- b --> c"}), " a ");
+}
+
+TEST(ReadTotals, AlzBest) {
+    const auto t = ReadTotals(sampleLines("list-alz3.log"));
+    ASSERT_TRUE(t.has_value());
+    EXPECT_EQ(t->filesLabel(), "Files: 8");
+    EXPECT_EQ(t->normalSizeLabel(), "Normal size: 0.11 MB");
+    EXPECT_EQ(t->packedSizeLabel(), "Packed size: 0.04 MB");
+    EXPECT_EQ(t->modeLabel(), "Mode: ALZ Best");
+    EXPECT_EQ(t->ratio, 35);
+}
+
+TEST(ReadTotals, PpmReadsThreeCharactersAndTheRatioFromColumn67) {
+    const auto t = ReadTotals(sampleLines("list-ppm.log"));
+    ASSERT_TRUE(t.has_value());
+    EXPECT_EQ(t->modeText, "PPM");
+    EXPECT_EQ(t->ratio, 34);
+}
+
+TEST(ReadTotals, MethodFieldAndRatioVariants) {
+    const QString sep(79, '-');
+    auto totals = [&](const QString& line2) {
+        QStringList lines;
+        for (int i = 0; i < 9; ++i)
+            lines << "header";
+        lines << sep << "12 files                 104857600" << line2;
+        return ReadTotals(lines);
+    };
+    // Totals line 2: the packed size right-aligned to column 40, the method field at column 50.
+    auto line = [](const char* packed, const char* rest) {
+        return QString("%1").arg(packed, 40) + rest;
+    };
+    auto t = totals(line("52428800", " packed (ALZ:2-mode), ratio: 45%"));
+    ASSERT_TRUE(t.has_value());
+    EXPECT_EQ(t->fileCountText, "12");
+    EXPECT_EQ(t->normalSizeMB, "100");
+    EXPECT_EQ(t->packedSizeMB, "50");
+    EXPECT_EQ(t->modeText, "ALZ Normal");
+    EXPECT_EQ(t->ratio, 45); // a blank, 45 and a per-cent sign
+    EXPECT_EQ(totals(line("12345", " packed (ALZ:1-mode), ratio: 50.5%"))->modeText, "ALZ Fast");
+    EXPECT_EQ(totals(line("12345", " packed (ALZ:1-mode), ratio: 50.5%"))->ratio, 50);
+    EXPECT_EQ(totals(line("12345", " packed (ALZ:0-mode), ratio: 100.0%"))->modeText, "ALZ:0");
+    EXPECT_EQ(totals(line("12345", " packed (LZP-mode), ratio: 12.5%"))->modeText, "LZP");
+    EXPECT_EQ(totals(line("12345", " packed (LZP-mode), ratio: 12.5%"))->ratio, 12);
+    // A short line: empty fields read as 0.
+    t = totals("");
+    ASSERT_TRUE(t.has_value());
+    EXPECT_EQ(t->packedSizeMB, "0");
+    EXPECT_EQ(t->ratio, 0);
+}
+
+TEST(ReadTotals, NoSeparatorNoTotals) {
+    EXPECT_FALSE(ReadTotals(sampleLines("list-truncated.log")).has_value());
+    EXPECT_FALSE(ReadTotals(sampleLines("list-missing-archive.log")).has_value());
+    EXPECT_FALSE(ReadTotals({}).has_value());
+}
+
+TEST(BuildMirrorTree, RealLogGivesOnePlaceholderPerEntry) {
+    QTemporaryDir dir;
+    ASSERT_TRUE(BuildMirrorTree(sampleLines("list-alz3.log"), dir.filePath("scratch")));
+    EXPECT_EQ(
+        filesBelow(dir.filePath("scratch")),
+        QStringList({"folder/empty.txt", "folder/pattern.dat", "folder/random.bin",
+                     "folder/read me with spaces.txt", "folder/readme.txt", "folder/sub/data.bin",
+                     "folder/sub/deeper/deep.txt", "folder/sub/notes.txt"}));
+    EXPECT_EQ(QFileInfo(dir.filePath("scratch/folder/readme.txt")).size(), 0);
+}
+
+TEST(BuildMirrorTree, AwkwardNamesStayInsideTheScratchFolder) {
+    QTemporaryDir dir;
+    QDir(dir.path()).mkdir("outside");
+    const QString scratch = dir.filePath("outside/scratch");
+    ASSERT_TRUE(BuildMirrorTree(sampleLines("list-awkward-names.log"), scratch));
+    EXPECT_EQ(
+        filesBelow(scratch),
+        QStringList({"caf\u00e9/r\u00e9sum\u00e9.txt", "deep/double/x.txt", "docs/a.txt",
+                     "escape1.txt", "escape4.txt", "etc/escape3.txt", "folder/dup.txt",
+                     "folder/escape2.txt", "lead.txt", "root.txt", "spaced/name with blanks.txt"}));
+    // Nothing beside the scratch folder, and the separator artefact is gone.
+    EXPECT_EQ(QDir(dir.filePath("outside")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+              QStringList({"scratch"}));
+    EXPECT_FALSE(QFile::exists(scratch + "/" + QString(79, '-')));
+}
+
+TEST(BuildMirrorTree, ALinkInsideTheScratchFolderIsNotFollowed) {
+    QTemporaryDir dir;
+    QTemporaryDir victim;
+    const QString scratch = dir.filePath("scratch");
+    QDir().mkpath(scratch);
+    ASSERT_TRUE(QFile::link(victim.path(), scratch + "/folder"));
+    ASSERT_TRUE(BuildMirrorTree(sampleLines("list-alz3.log"), scratch));
+    EXPECT_TRUE(QDir(victim.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).isEmpty());
+}
+
+TEST(BuildMirrorTree, ScratchFolderThatIsALinkIsRefused) {
+    QTemporaryDir dir;
+    QTemporaryDir victim;
+    ASSERT_TRUE(QFile::link(victim.path(), dir.filePath("scratch")));
+    EXPECT_FALSE(BuildMirrorTree(sampleLines("list-alz3.log"), dir.filePath("scratch")));
+    EXPECT_TRUE(QDir(victim.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).isEmpty());
+}
+
+TEST(BuildMirrorTree, LogEndingBeforeTheSeparatorFails) {
+    QTemporaryDir dir;
+    EXPECT_FALSE(BuildMirrorTree(sampleLines("list-truncated.log"), dir.filePath("s")));
+    EXPECT_FALSE(BuildMirrorTree({}, dir.filePath("s")));
+}
+
+TEST(BuildMirrorTree, DriveEntriesLoseTheirDriveAndRootEntriesLandAtTheTop) {
+    QTemporaryDir dir;
+    QStringList lines;
+    for (int i = 0; i < 9; ++i)
+        lines << "";
+    lines << "C:\\docs\\a.txt"
+          << "detail"
+          << "top.txt"
+          << "detail"
+          << "x\\same.txt"
+          << "d"
+          << "x\\same.txt"
+          << "d" << QString(79, '-') << "1 files   0"
+          << "";
+    ASSERT_TRUE(BuildMirrorTree(lines, dir.filePath("s")));
+    EXPECT_EQ(filesBelow(dir.filePath("s")), QStringList({"docs/a.txt", "top.txt", "x/same.txt"}));
+}
