@@ -1,0 +1,844 @@
+// Quovara's stand-in engine: a test fixture and demonstration engine, NOT the UHARC archiver.
+//
+// It accepts the command lines that Quovara writes for the real engine (commands a, m, e,
+// x, l, t, their switches, @listfile, !exclude and the uharc_opt variable) and answers with
+// the real engine's console output and listing log, line for line and column for column,
+// so that the program can be tested and tried without the closed engine. Files are kept in
+// the stand-in's own small container format (see archive.h), never in UHA archives, and the
+// banner and log title say so. Built twice, as version 0.6 and 0.4 (STANDIN_VERSION), so
+// that the engine version fallback can be exercised.
+#include "archive.h"
+#include "codec.h"
+#include "layout.h"
+
+#include <algorithm>
+#include <cctype>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <ctime>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <set>
+#include <string>
+#include <thread>
+#include <vector>
+
+#ifndef STANDIN_VERSION
+#error "STANDIN_VERSION must name the engine version, such as \"0.6\""
+#endif
+
+extern char** environ;
+
+namespace fs = std::filesystem;
+using namespace standin;
+
+namespace {
+
+const std::string kVersion = STANDIN_VERSION;
+const std::string kDashes(kWidth, '-');
+const std::string kBlankLine(kWidth, ' ');
+const std::string kTempName = "UHA$0000.$$$";
+
+const std::string kMsgCantOpen = "Can't open archive file";
+const std::string kMsgPassword =
+    "Archive requires a password to access --> use switch -pw[password]";
+const std::string kMsgCorrupt =
+    "Can't read from archive file / Unexpected end of file (maybe corrupt)";
+const std::string kMsgCantCreate = "Can't create archive file";
+
+std::string lower(std::string s) {
+    for (auto& c : s)
+        c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    return s;
+}
+
+std::string trim(const std::string& s) {
+    auto b = s.find_first_not_of(" \t");
+    if (b == std::string::npos)
+        return {};
+    auto e = s.find_last_not_of(" \t");
+    return s.substr(b, e - b + 1);
+}
+
+std::string replaced(std::string s, char from, char to) {
+    std::replace(s.begin(), s.end(), from, to);
+    return s;
+}
+
+std::vector<std::string> splitPath(const std::string& s) {
+    std::vector<std::string> parts;
+    std::string cur;
+    for (char c : s) {
+        if (c == '\\' || c == '/') {
+            parts.push_back(cur);
+            cur.clear();
+        } else {
+            cur.push_back(c);
+        }
+    }
+    parts.push_back(cur);
+    return parts;
+}
+
+bool isDrive(const std::string& c) {
+    return c.size() == 2 && c[1] == ':' && std::isalpha(static_cast<unsigned char>(c[0]));
+}
+
+// The parts of a stored or given path that may name a place under a target folder: empty,
+// "." and ".." parts and a leading drive are dropped, so nothing can climb out.
+std::vector<std::string> safeParts(const std::string& s) {
+    std::vector<std::string> out;
+    auto parts = splitPath(s);
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        const auto& p = parts[i];
+        if (p.empty() || p == "." || p == ".." || (i == 0 && isDrive(p)))
+            continue;
+        out.push_back(p);
+    }
+    return out;
+}
+
+std::string join(const std::vector<std::string>& parts, const std::string& sep) {
+    std::string s;
+    for (std::size_t i = 0; i < parts.size(); ++i)
+        s += (i ? sep : "") + parts[i];
+    return s;
+}
+
+std::string filePart(const std::string& stored) {
+    auto pos = stored.find_last_of("\\/");
+    return pos == std::string::npos ? stored : stored.substr(pos + 1);
+}
+
+bool hasWildcard(const std::string& s) {
+    return s.find_first_of("*?") != std::string::npos;
+}
+
+// Case-insensitive whole-string match with "*" (any run, separators included) and "?".
+bool wildMatch(const char* p, const char* s) {
+    const char* star = nullptr;
+    const char* resume = nullptr;
+    while (*s) {
+        if (*p == '*') {
+            star = p++;
+            resume = s;
+        } else if (*p == '?' || std::tolower(static_cast<unsigned char>(*p)) ==
+                                    std::tolower(static_cast<unsigned char>(*s))) {
+            ++p;
+            ++s;
+        } else if (star) {
+            p = star + 1;
+            s = ++resume;
+        } else {
+            return false;
+        }
+    }
+    while (*p == '*')
+        ++p;
+    return *p == 0;
+}
+
+// A pattern with a folder part is matched against the whole stored name, one without
+// against the file name only. As on DOS, a trailing ".*" also matches names without a dot.
+bool nameMatches(const std::string& pattern, const std::string& stored) {
+    std::string pat = replaced(trim(pattern), '/', '\\');
+    while (pat.rfind(".\\", 0) == 0)
+        pat.erase(0, 2);
+    if (pat.empty())
+        return false;
+    std::string target =
+        pat.find('\\') != std::string::npos ? replaced(stored, '/', '\\') : filePart(stored);
+    if (wildMatch(pat.c_str(), target.c_str()))
+        return true;
+    if (pat.size() > 2 && pat.compare(pat.size() - 2, 2, ".*") == 0)
+        return wildMatch(pat.substr(0, pat.size() - 2).c_str(), target.c_str());
+    return false;
+}
+
+bool anyMatches(const std::vector<std::string>& patterns, const std::string& stored) {
+    return std::any_of(patterns.begin(), patterns.end(),
+                       [&](const std::string& p) { return nameMatches(p, stored); });
+}
+
+std::int64_t nowSeconds() {
+    return std::chrono::duration_cast<std::chrono::seconds>(
+               std::chrono::system_clock::now().time_since_epoch())
+        .count();
+}
+
+std::int64_t fileTimeSeconds(const fs::path& p) {
+    std::error_code ec;
+    auto ft = fs::last_write_time(p, ec);
+    if (ec)
+        return nowSeconds();
+    auto sys = std::chrono::file_clock::to_sys(ft);
+    return std::chrono::duration_cast<std::chrono::seconds>(sys.time_since_epoch()).count();
+}
+
+void setFileTime(const fs::path& p, std::int64_t t) {
+    std::error_code ec;
+    auto sys = std::chrono::sys_seconds(std::chrono::seconds(t));
+    fs::last_write_time(p, std::chrono::file_clock::from_sys(sys), ec);
+}
+
+// ---------------------------------------------------------------------------------------
+// Options
+
+struct Options {
+    char command = 0;
+    std::string archive; // as given, with ".uha" added when it has no extension
+    std::vector<std::string> names;
+    std::vector<std::string> excludes;
+    bool recurse = false;
+    char method = '2';
+    bool multimedia = true;
+    unsigned dictionaryKB = 4096;
+    std::string password;
+    int overwrite = -1; // -1: not given
+    std::string target;
+    bool yes = false;
+    int display = 1;
+    bool hasLog = false;
+    std::string logFile;
+    std::string error; // first problem found in the command line
+};
+
+void setError(Options& o, const std::string& msg) {
+    if (o.error.empty())
+        o.error = msg;
+}
+
+void parseSwitch(const std::string& a, Options& o) {
+    const std::string l = lower(a);
+    auto is = [&](std::initializer_list<const char*> forms) {
+        return std::any_of(forms.begin(), forms.end(), [&](const char* f) { return l == f; });
+    };
+    if (is({"-r", "-r+"}))
+        o.recurse = true;
+    else if (is({"-r-"}))
+        o.recurse = false;
+    else if (is({"-y", "-y+"}))
+        o.yes = true;
+    else if (is({"-y-"}))
+        o.yes = false;
+    else if (is({"-o", "-o+"}))
+        o.overwrite = 1;
+    else if (is({"-o-"}))
+        o.overwrite = 0;
+    else if (is({"-d0", "-d1", "-d2"}))
+        o.display = l[2] - '0';
+    else if (is({"-mm", "-mm+"}))
+        o.multimedia = true;
+    else if (is({"-mm-"}))
+        o.multimedia = false;
+    else if (is({"-md+", "-md-"}))
+        ; // accepted as the real engine accepts it; the size switch decides
+    else if (is({"-m0", "-m1", "-m2", "-m3", "-mx", "-mz"}))
+        o.method = l[2];
+    else if (l.rfind("-md", 0) == 0) {
+        std::string v = l.substr(3);
+        bool digits = !v.empty() && v.size() < 7 &&
+                      std::all_of(v.begin(), v.end(), [](char c) { return c >= '0' && c <= '9'; });
+        unsigned kb = digits ? static_cast<unsigned>(std::stoul(v)) : 0;
+        if (kb < 64 || kb > 32768 || (kb & (kb - 1)) != 0)
+            setError(o, "Invalid dictionary size");
+        else
+            o.dictionaryKB = kb;
+    } else if (l.rfind("-pw", 0) == 0)
+        o.password = a.substr(3);
+    else if (l.rfind("-lg", 0) == 0) {
+        o.hasLog = true;
+        o.logFile = a.substr(3);
+    } else if (l.rfind("-t", 0) == 0)
+        o.target = a.substr(2);
+    else
+        setError(o, "Invalid switch \"" + a + "\"");
+}
+
+std::vector<std::string> readListFile(const std::string& path, Options& o) {
+    std::vector<std::string> names;
+    std::ifstream in(fs::path(replaced(path, '\\', '/')), std::ios::binary);
+    if (!in) {
+        setError(o, "Can't open listfile \"" + path + "\"");
+        return names;
+    }
+    std::string line;
+    while (std::getline(in, line)) {
+        if (!line.empty() && line.back() == '\r')
+            line.pop_back();
+        if (!trim(line).empty())
+            names.push_back(line);
+    }
+    return names;
+}
+
+void parseArgument(const std::string& a, Options& o, bool fromEnvironment) {
+    if (a.empty())
+        return;
+    if (a[0] == '-' && a.size() > 1) {
+        parseSwitch(a, o);
+    } else if (fromEnvironment) {
+        return; // the variable holds switches only
+    } else if (o.archive.empty()) {
+        o.archive = a;
+        if (filePart(a).find('.') == std::string::npos)
+            o.archive += ".uha";
+    } else if (a[0] == '@') {
+        auto more = readListFile(a.substr(1), o);
+        o.names.insert(o.names.end(), more.begin(), more.end());
+    } else if (a[0] == '!') {
+        o.excludes.push_back(a.substr(1));
+    } else {
+        o.names.push_back(a);
+    }
+}
+
+// The switches in uharc_opt (the name is matched without regard to case) come first, so
+// that the command line can override them. Returns the raw value for the log.
+std::string environmentOptions(Options& o) {
+    std::string value;
+    for (char** e = environ; e && *e; ++e) {
+        std::string kv = *e;
+        auto eq = kv.find('=');
+        if (eq != std::string::npos && lower(kv.substr(0, eq)) == "uharc_opt") {
+            value = kv.substr(eq + 1);
+            break;
+        }
+    }
+    std::string token;
+    for (char c : value + " ") {
+        if (c == ' ' || c == '\t') {
+            parseArgument(token, o, true);
+            token.clear();
+        } else {
+            token.push_back(c);
+        }
+    }
+    return value;
+}
+
+int perFileDelayMs() {
+    const char* v = std::getenv("QUOVARA_STANDIN_DELAY_MS");
+    if (!v)
+        return 0;
+    int ms = std::atoi(v);
+    return ms > 0 ? ms : 0;
+}
+
+// ---------------------------------------------------------------------------------------
+// Output: console (standard output, flushed after every write) and the optional log
+
+class Output {
+public:
+    void openLog(const std::string& path) {
+        log_ = std::fopen(replaced(path, '\\', '/').c_str(), "ab");
+    }
+    void console(const std::string& s) {
+        std::fwrite(s.data(), 1, s.size(), stdout);
+        std::fflush(stdout);
+    }
+    void log(const std::string& s) {
+        if (log_)
+            std::fwrite(s.data(), 1, s.size(), log_);
+    }
+    // A whole line, to the console and the log.
+    void line(const std::string& s) {
+        console(s + "\r\n");
+        log(s + "\r\n");
+    }
+    // A per-file result that overwrites its progress line on the console.
+    void fileLine(const std::string& s) {
+        console("\r" + s + "\r\n");
+        log(s + "\r\n");
+    }
+    void progress(const std::string& s) { console("\r" + s); }
+    [[noreturn]] void finish(int code) {
+        log(std::string(kWidth, '=') + "\r\n\r\n");
+        if (log_)
+            std::fclose(log_);
+        std::fflush(stdout);
+        std::exit(code);
+    }
+    // An error ends the run; one found while progress lines are written first ends the
+    // current console line and blanks the next, as the engine does.
+    [[noreturn]] void fail(const std::string& msg, bool midProgress = false) {
+        if (midProgress)
+            console("\r\n\r" + kBlankLine + "\r");
+        line("ERROR: " + msg);
+        line("Process aborted.");
+        finish(255);
+    }
+
+private:
+    std::FILE* log_ = nullptr;
+};
+
+std::string quoteIfBlank(const std::string& a) {
+    return a.find(' ') != std::string::npos ? "\"" + a + "\"" : a;
+}
+
+void writeBanner(Output& out) {
+    const std::string lines[] = {
+        "Quovara stand-in engine " + kVersion +
+            "  ---  for tests and demonstration  ---  NOT UHARC",
+        "This program is not UHARC. It takes UHARC command lines for Quovara's tests and",
+        "****  demonstrations; it keeps files in its own container, never in UHA  ****",
+    };
+    std::string s = "\r\n";
+    for (const auto& l : lines)
+        s += padRight(l, kWidth) + "\r\n";
+    out.console(s + "\r\n");
+}
+
+void writeLogHeader(Output& out, const std::string& envValue, int argc, char** argv) {
+    std::string cmd;
+    for (int i = 0; i < argc; ++i)
+        cmd += (i ? " " : "") + quoteIfBlank(argv[i]);
+    out.log("\r\n" + logTitleLine(kVersion, nowSeconds()) + "\r\n");
+    out.log("Environment: \"" + envValue + "\"\r\n");
+    out.log("Commandline: \"" + cmd + "\"\r\n\r\n");
+}
+
+void sleepPerFile(int ms) {
+    if (ms > 0)
+        std::this_thread::sleep_for(std::chrono::milliseconds(ms));
+}
+
+double secondsSince(std::chrono::steady_clock::time_point start) {
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+fs::path hostPath(const std::string& s) {
+    return fs::path(replaced(s, '\\', '/'));
+}
+
+// ---------------------------------------------------------------------------------------
+// Reading an archive for list, test, extract and add
+
+void failOnRead(Output& out, const ReadResult& r, const Archive& a) {
+    switch (r.status) {
+    case ReadStatus::Ok:
+        return;
+    case ReadStatus::CantOpen:
+        out.fail(kMsgCantOpen);
+    case ReadStatus::NotArchive:
+        out.fail("No UHARC " + kVersion + " archive");
+    case ReadStatus::OtherVersion:
+        out.fail("Archive was created by another version --> use UHARC version " + a.version);
+    case ReadStatus::PasswordRequired:
+        out.line("");
+        out.fail(kMsgPassword);
+    case ReadStatus::Corrupt:
+        if (r.headerRead)
+            out.line("");
+        out.fail(kMsgCorrupt);
+    }
+}
+
+Archive openArchive(Output& out, const Options& o) {
+    Archive a;
+    ReadResult r = readArchive(hostPath(o.archive), kVersion, o.password, a);
+    if (r.headerRead)
+        out.line("Processing archive \"" + o.archive + "\" (created: " + createdText(a.created) +
+                 ").");
+    failOnRead(out, r, a);
+    return a;
+}
+
+std::vector<const Entry*> selectEntries(const Archive& a, const Options& o) {
+    std::vector<const Entry*> sel;
+    for (const auto& e : a.entries) {
+        if (!o.names.empty() && !anyMatches(o.names, e.name))
+            continue;
+        if (anyMatches(o.excludes, e.name))
+            continue;
+        sel.push_back(&e);
+    }
+    return sel;
+}
+
+// ---------------------------------------------------------------------------------------
+// l: list
+
+[[noreturn]] void commandList(Output& out, const Options& o) {
+    Archive a = openArchive(out, o);
+    auto sel = selectEntries(a, o);
+    // Listed in the order of their file names, as the engine lists them.
+    std::stable_sort(sel.begin(), sel.end(), [](const Entry* x, const Entry* y) {
+        auto fx = lower(filePart(x->name)), fy = lower(filePart(y->name));
+        return fx != fy ? fx < fy : lower(x->name) < lower(y->name);
+    });
+    out.line("");
+    out.line("file                                size     date        time    attr   crc-32 ");
+    out.line(kDashes);
+    std::uint64_t size = 0, packed = 0;
+    for (const Entry* e : sel) {
+        out.line(e->name);
+        out.line(listDetailLine(e->size, e->mtime, e->attr, e->crc));
+        size += e->size;
+        packed += e->packed.size();
+    }
+    out.line(kDashes);
+    out.line(listTotalsLine1(sel.size(), size));
+    out.line(listTotalsLine2(packed, a.method, size));
+    out.finish(0);
+}
+
+// ---------------------------------------------------------------------------------------
+// t, e, x: test and extract
+
+std::string displayTarget(const std::string& target) {
+    std::string t = replaced(target, '/', '\\');
+    while (t.size() > 1 && t.back() == '\\')
+        t.pop_back();
+    return t;
+}
+
+[[noreturn]] void commandTestOrExtract(Output& out, const Options& o) {
+    const bool extract = o.command != 't';
+    const bool withPaths = o.command == 'x';
+    const std::string verb = extract ? "Extracting" : "Testing";
+    Archive a = openArchive(out, o);
+    auto sel = selectEntries(a, o);
+    std::uint64_t total = 0;
+    for (const Entry* e : sel)
+        total += e->size;
+    out.line("Using 1.8 MB for decompression and 216 KB for file buffers.");
+    out.line("");
+    out.line(verb + " " + std::to_string(sel.size()) + " files (" + std::to_string(total) +
+             " bytes)");
+    out.line(kDashes);
+
+    const bool overwrite = o.overwrite < 0 ? o.yes : o.overwrite == 1;
+    const fs::path base = o.target.empty() ? fs::path(".") : hostPath(o.target);
+    const std::string shownBase = o.target.empty() ? "" : displayTarget(o.target) + "\\";
+    const int delay = perFileDelayMs();
+    const auto start = std::chrono::steady_clock::now();
+    std::uint64_t done = 0;
+    const Entry* failed = nullptr; // a CRC failure is reported while the next file starts
+    for (const Entry* e : sel) {
+        auto parts = safeParts(e->name);
+        if (!withPaths && !parts.empty())
+            parts = {parts.back()};
+        std::string shown = extract ? shownBase + join(parts, "\\") : e->name;
+        if (o.display >= 2)
+            out.progress(jobProgressLine(verb, shown, percentDone(done, total)));
+        if (failed)
+            out.fail("CRC-failure (file \"" + failed->name + "\")", o.display >= 2);
+        sleepPerFile(delay);
+        done += e->size;
+        fs::path dest = base;
+        for (const auto& p : parts)
+            dest /= p;
+        std::error_code ec;
+        if (extract && (parts.empty() || (!overwrite && fs::exists(dest, ec)))) {
+            if (o.display >= 2)
+                out.fileLine(jobFileLine("Skipping", shown));
+            continue;
+        }
+        Bytes data;
+        bool ok = unpack(e->method, e->packed, e->size, data) &&
+                  crc32(data.data(), data.size()) == e->crc;
+        if (!ok)
+            failed = e;
+        if (extract && data.size() == e->size) {
+            fs::create_directories(dest.parent_path(), ec);
+            std::ofstream f(dest, std::ios::binary | std::ios::trunc);
+            f.write(reinterpret_cast<const char*>(data.data()),
+                    static_cast<std::streamsize>(data.size()));
+            f.close();
+            if (!f)
+                out.fail("Can't create file \"" + shown + "\"", o.display >= 2);
+            setFileTime(dest, e->mtime);
+        }
+        if (o.display >= 2)
+            out.fileLine(jobFileLine(verb, shown));
+    }
+    if (failed) {
+        out.console("\r" + kBlankLine + "\r");
+        out.fail("CRC-failure (file \"" + failed->name + "\")");
+    }
+    out.line(kDashes);
+    out.line(jobTotalLine(secondsSince(start)));
+    out.finish(0);
+}
+
+// ---------------------------------------------------------------------------------------
+// a, m: add and move
+//
+// Stored names: the source path as given, with its root or drive and any "." and ".."
+// parts removed and "/" turned into "\", so "/data/Src/*.*" stores "data\Src\a.txt" and
+// a relative "folder\*" stores "folder\sub\data.bin".
+
+struct Source {
+    fs::path path;
+    std::string stored;
+};
+
+std::string storedPrefix(const std::string& folder) {
+    auto parts = safeParts(folder);
+    return parts.empty() ? "" : join(parts, "\\") + "\\";
+}
+
+bool isExcluded(const Options& o, const std::string& stored) {
+    return anyMatches(o.excludes, stored);
+}
+
+void walk(const fs::path& dir, const std::string& prefix, const std::string& pattern,
+          const Options& o, std::vector<Source>& out) {
+    std::vector<fs::directory_entry> files, dirs;
+    std::error_code ec;
+    for (fs::directory_iterator it(dir, ec), end; !ec && it != end; it.increment(ec)) {
+        std::error_code ec2;
+        if (it->is_regular_file(ec2))
+            files.push_back(*it);
+        else if (o.recurse && it->is_directory(ec2) && !it->is_symlink(ec2))
+            dirs.push_back(*it);
+    }
+    auto byName = [](const fs::directory_entry& x, const fs::directory_entry& y) {
+        return lower(x.path().filename().string()) < lower(y.path().filename().string());
+    };
+    std::sort(files.begin(), files.end(), byName);
+    std::sort(dirs.begin(), dirs.end(), byName);
+    for (const auto& f : files) {
+        std::string name = f.path().filename().string();
+        std::string stored = prefix + name;
+        if (nameMatches(pattern, name) && !isExcluded(o, stored))
+            out.push_back({f.path(), stored});
+    }
+    for (const auto& d : dirs)
+        walk(d.path(), prefix + d.path().filename().string() + "\\", pattern, o, out);
+}
+
+std::vector<Source> collectSources(const Options& o) {
+    std::vector<Source> found;
+    for (const auto& raw : o.names) {
+        std::string s = replaced(raw, '\\', '/');
+        if (s.empty())
+            continue;
+        std::error_code ec;
+        std::string dir, pattern;
+        if (!hasWildcard(s) && fs::is_directory(s, ec)) {
+            dir = s;
+            pattern = "*";
+        } else {
+            auto pos = s.rfind('/');
+            dir = pos == std::string::npos ? "" : (pos == 0 ? "/" : s.substr(0, pos));
+            pattern = pos == std::string::npos ? s : s.substr(pos + 1);
+        }
+        const std::string prefix = storedPrefix(dir);
+        if (!hasWildcard(pattern)) {
+            fs::path p = hostPath(s);
+            std::string stored = prefix + pattern;
+            if (fs::is_regular_file(p, ec) && !isExcluded(o, stored))
+                found.push_back({p, stored});
+            continue;
+        }
+        walk(dir.empty() ? fs::path(".") : fs::path(dir), prefix, pattern, o, found);
+    }
+    // One source per stored name (names compare without regard to case).
+    std::vector<Source> unique;
+    std::set<std::string> seen;
+    for (auto& s : found)
+        if (seen.insert(lower(s.stored)).second)
+            unique.push_back(std::move(s));
+    return unique;
+}
+
+bool samePath(const fs::path& a, const fs::path& b) {
+    std::error_code ec;
+    return fs::exists(a, ec) && fs::exists(b, ec) && fs::equivalent(a, b, ec);
+}
+
+double memoryMB(char method) {
+    switch (method) {
+    case '0':
+        return 0.2;
+    case '1':
+        return 1.2;
+    case '2':
+        return 2.3;
+    case '3':
+        return 4.1;
+    case 'x':
+        return 6.5;
+    default:
+        return 3.2;
+    }
+}
+
+unsigned shownDictionaryKB(unsigned requested, std::uint64_t bytes) {
+    unsigned kb = 32;
+    while (kb < requested && static_cast<std::uint64_t>(kb) * 1024 < bytes)
+        kb *= 2;
+    return std::min(kb, requested);
+}
+
+[[noreturn]] void commandAdd(Output& out, const Options& o) {
+    const bool move = o.command == 'm';
+    const fs::path archivePath = hostPath(o.archive);
+    const fs::path folder = archivePath.has_parent_path() ? archivePath.parent_path() : ".";
+    const fs::path tempPath = folder / kTempName;
+
+    Archive old;
+    std::error_code ec;
+    const bool updating = fs::exists(archivePath, ec);
+    if (updating) {
+        ReadResult r = readArchive(archivePath, kVersion, o.password, old);
+        failOnRead(out, r, old);
+    }
+
+    out.console("Searching files ...\r");
+    std::vector<Source> sources;
+    for (auto& s : collectSources(o))
+        if (!samePath(s.path, archivePath) && !samePath(s.path, tempPath))
+            sources.push_back(std::move(s));
+    if (sources.empty()) {
+        out.console(kBlankLine + "\r");
+        out.fail("No files found");
+    }
+    std::uint64_t total = 0;
+    for (const auto& s : sources)
+        total += fs::file_size(s.path, ec);
+
+    std::string analysing = "Analysing files ...";
+    for (std::size_t i = 0; i <= sources.size(); ++i) {
+        int pct = std::min<int>(99, static_cast<int>(i * 100 / sources.size()));
+        char buf[16];
+        std::snprintf(buf, sizeof buf, i == 0 ? "%3d%%" : "\b\b\b%2d%%", pct);
+        analysing += buf;
+    }
+    out.console(analysing + "\r" + kBlankLine + "\r");
+
+    ArchiveWriter writer;
+    Archive header;
+    header.version = kVersion;
+    header.created = updating ? old.created : nowSeconds();
+    header.method = o.method;
+    if (!writer.open(tempPath, header, o.password))
+        out.fail(kMsgCantCreate);
+
+    out.line(std::string(updating ? "Updating" : "Creating") + " archive \"" + o.archive + "\".");
+    out.line("Using " + methodField(o.method) + "-mode (" +
+             std::to_string(shownDictionaryKB(o.dictionaryKB, total)) + " KB dictionary)" +
+             (o.multimedia ? " with multimedia detection." : "."));
+    char mem[96];
+    std::snprintf(mem, sizeof mem, "Using %.1f MB for compression and 216 KB for file buffers.",
+                  memoryMB(o.method));
+    out.line(mem);
+    out.line("");
+    out.line(addHeaderLine(sources.size(), total));
+    out.line(kDashes);
+
+    // Entries kept from the archive come first; a new file of the same name replaces one.
+    std::set<std::string> newNames;
+    for (const auto& s : sources)
+        newNames.insert(lower(s.stored));
+    for (const auto& e : old.entries)
+        if (!newNames.count(lower(e.name)) && !writer.add(e))
+            out.fail(kMsgCantCreate);
+
+    const int delay = perFileDelayMs();
+    const auto start = std::chrono::steady_clock::now();
+    std::uint64_t done = 0, packedSoFar = 0;
+    const bool perFile = o.display >= 2;
+    for (const auto& s : sources) {
+        if (perFile)
+            out.progress(addProgressLine(s.stored, percentDone(done, total), done, packedSoFar));
+        sleepPerFile(delay);
+        std::ifstream in(s.path, std::ios::binary);
+        Bytes data((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+        if (!in.good() && !in.eof()) {
+            writer.finish();
+            fs::remove(tempPath, ec);
+            out.fail("Can't open file \"" + s.stored + "\"", perFile);
+        }
+        Entry e;
+        e.name = s.stored;
+        e.size = data.size();
+        e.mtime = fileTimeSeconds(s.path);
+        auto perms = fs::status(s.path, ec).permissions();
+        e.attr = AttrArchive;
+        if ((perms & fs::perms::owner_write) == fs::perms::none)
+            e.attr |= AttrReadOnly;
+        e.crc = crc32(data.data(), data.size());
+        e.method = o.method;
+        e.packed = pack(o.method, data);
+        if (!writer.add(e)) {
+            writer.finish();
+            fs::remove(tempPath, ec);
+            out.fail(kMsgCantCreate, perFile);
+        }
+        done += e.size;
+        packedSoFar += e.packed.size();
+        if (perFile)
+            out.fileLine(addFileLine(s.stored, e.size, e.packed.size()));
+    }
+    if (!writer.finish()) {
+        fs::remove(tempPath, ec);
+        out.fail(kMsgCantCreate);
+    }
+    fs::rename(tempPath, archivePath, ec);
+    if (ec) {
+        fs::remove(tempPath, ec);
+        out.fail(kMsgCantCreate);
+    }
+    out.line(kDashes);
+    out.line(addTotalLine(secondsSince(start), done, packedSoFar));
+    if (move)
+        for (const auto& s : sources)
+            fs::remove(s.path, ec);
+    out.finish(0);
+}
+
+void writeUsage(Output& out) {
+    out.console("Usage: " + std::string("uharc-standin-") + kVersion +
+                " command [-switch..] archive[.uha] [file..@listfile..!exclude..]\r\n"
+                "Commands: a (add), m (move), e (extract), x (extract with paths), "
+                "l (list), t (test)\r\n"
+                "Switches: -r+ -r- -m0 -m1 -m2 -m3 -mx -mz -mm+ -md+ -md<KB> -pw<password>\r\n"
+                "          -o+ -o- -t<folder> -y+ -d0 -d1 -d2 -lg<logfile>\r\n");
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    Output out;
+    Options o;
+    const std::string envValue = environmentOptions(o);
+    std::string commandText = argc > 1 ? argv[1] : "";
+    for (int i = 2; i < argc; ++i)
+        parseArgument(argv[i], o, false);
+    const std::string cmd = lower(commandText);
+    if (cmd.size() == 1 && std::string("amexlt").find(cmd[0]) != std::string::npos)
+        o.command = cmd[0];
+    if (o.hasLog && !o.logFile.empty())
+        out.openLog(o.logFile);
+
+    writeBanner(out);
+    writeLogHeader(out, envValue, argc, argv);
+    if (argc < 2) {
+        writeUsage(out);
+        out.finish(0);
+    }
+    if (!o.command)
+        out.fail("Invalid command \"" + commandText + "\"");
+    if (!o.error.empty())
+        out.fail(o.error);
+    if (o.archive.empty())
+        out.fail("No archive name given");
+
+    switch (o.command) {
+    case 'l':
+        commandList(out, o);
+    case 't':
+    case 'e':
+    case 'x':
+        commandTestOrExtract(out, o);
+    default:
+        commandAdd(out, o);
+    }
+}
