@@ -14,6 +14,8 @@
 #include <vector>
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size);
+// Optional in a target, as with libFuzzer.
+extern "C" __attribute__((weak)) int LLVMFuzzerInitialize(int* argc, char*** argv);
 
 namespace {
 
@@ -102,6 +104,8 @@ Bytes mutate(const std::vector<Bytes>& seeds, std::mt19937& rng) {
 } // namespace
 
 int main(int argc, char** argv) {
+    if (LLVMFuzzerInitialize)
+        LLVMFuzzerInitialize(&argc, &argv);
     long mutations = 2000;
     std::vector<Bytes> seeds;
     for (int i = 1; i < argc; ++i) {
