@@ -1,0 +1,189 @@
+#include "filebrowser.h"
+
+#include "fileicons.h"
+
+#include <QDir>
+#include <QEvent>
+#include <QFileInfo>
+#include <QFileSystemModel>
+#include <QHeaderView>
+#include <QItemSelectionModel>
+#include <QListView>
+#include <QMouseEvent>
+#include <QStackedWidget>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+namespace quovara {
+
+FileBrowser::FileBrowser(QWidget* parent) : QWidget(parent) {
+    model_ = new QFileSystemModel(this);
+    model_->setIconProvider(SharedFileIconProvider());
+    model_->setFilter(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System);
+    model_->setReadOnly(true);
+
+    list_ = new QListView(this);
+    list_->setObjectName(QStringLiteral("FileViewList"));
+    tree_ = new QTreeView(this);
+    tree_->setObjectName(QStringLiteral("FileViewReport"));
+    tree_->setRootIsDecorated(false);
+    tree_->setItemsExpandable(false);
+    tree_->setSortingEnabled(true);
+    tree_->sortByColumn(0, Qt::AscendingOrder);
+    for (QAbstractItemView* v :
+         {static_cast<QAbstractItemView*>(list_), static_cast<QAbstractItemView*>(tree_)}) {
+        v->setModel(model_);
+        v->setSelectionMode(QAbstractItemView::SingleSelection);
+        v->setEditTriggers(QAbstractItemView::NoEditTriggers);
+        v->setMouseTracking(true);
+        v->viewport()->installEventFilter(this);
+        connect(v, &QAbstractItemView::activated, this, &FileBrowser::onActivated);
+        connect(v->selectionModel(), &QItemSelectionModel::currentChanged, this,
+                &FileBrowser::selectionChanged);
+        connect(v->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+                &FileBrowser::selectionChanged);
+        // The pointer becomes a hand over an item that can be opened.
+        connect(v, &QAbstractItemView::entered, this,
+                [v] { v->viewport()->setCursor(Qt::PointingHandCursor); });
+    }
+    list_->setAccessibleName(QStringLiteral("Files"));
+    tree_->setAccessibleName(QStringLiteral("Files"));
+    stack_ = new QStackedWidget(this);
+    stack_->addWidget(list_);
+    stack_->addWidget(tree_);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(stack_);
+    setFocusProxy(list_);
+
+    connect(model_, &QFileSystemModel::directoryLoaded, this, [this](const QString& path) {
+        if (QDir(path) == QDir(folder_))
+            applySelection();
+    });
+    setViewMode(List);
+}
+
+QAbstractItemView* FileBrowser::currentView() const {
+    return mode_ == Report ? static_cast<QAbstractItemView*>(tree_) : list_;
+}
+
+void FileBrowser::setFolder(const QString& path) {
+    const QString clean = QDir::cleanPath(path);
+    if (clean == folder_)
+        return;
+    if (!folder_.isEmpty())
+        history_.append(folder_);
+    showFolder(clean);
+}
+
+void FileBrowser::showFolder(const QString& path) {
+    folder_ = path;
+    pendingSelection_.clear();
+    const QModelIndex root = model_->setRootPath(path);
+    list_->setRootIndex(root);
+    tree_->setRootIndex(root);
+    list_->clearSelection();
+    tree_->clearSelection();
+    emit folderChanged(folder_);
+    emit selectionChanged();
+}
+
+bool FileBrowser::back() {
+    if (history_.isEmpty())
+        return false;
+    showFolder(history_.takeLast());
+    return true;
+}
+
+void FileBrowser::selectFile(const QString& name) {
+    pendingSelection_ = name;
+    applySelection();
+}
+
+void FileBrowser::applySelection() {
+    if (pendingSelection_.isEmpty())
+        return;
+    const QModelIndex index = model_->index(QDir(folder_).filePath(pendingSelection_));
+    if (!index.isValid())
+        return;
+    for (QAbstractItemView* v :
+         {static_cast<QAbstractItemView*>(list_), static_cast<QAbstractItemView*>(tree_)}) {
+        v->selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect |
+                                                        QItemSelectionModel::Rows);
+        v->scrollTo(index);
+    }
+    pendingSelection_.clear();
+}
+
+QString FileBrowser::selectedPath() const {
+    const QModelIndexList rows = currentView()->selectionModel()->selectedIndexes();
+    if (rows.isEmpty())
+        return QString();
+    return QDir::toNativeSeparators(model_->filePath(rows.first()));
+}
+
+void FileBrowser::setViewMode(int mode) {
+    const QString selected = selectedPath();
+    mode_ = mode;
+    switch (mode) {
+    case LargeIcon:
+        list_->setViewMode(QListView::IconMode);
+        list_->setIconSize(QSize(48, 48));
+        list_->setGridSize(QSize(104, 84));
+        list_->setWordWrap(true);
+        list_->setFlow(QListView::LeftToRight);
+        list_->setWrapping(true);
+        break;
+    case SmallIcon:
+        list_->setViewMode(QListView::ListMode);
+        list_->setIconSize(QSize(16, 16));
+        list_->setGridSize(QSize(180, 22));
+        list_->setWordWrap(false);
+        list_->setFlow(QListView::LeftToRight);
+        list_->setWrapping(true);
+        break;
+    case List:
+    default:
+        mode_ = mode == Report ? Report : List;
+        list_->setViewMode(QListView::ListMode);
+        list_->setIconSize(QSize(16, 16));
+        list_->setGridSize(QSize());
+        list_->setWordWrap(false);
+        list_->setFlow(QListView::TopToBottom);
+        list_->setWrapping(true);
+        break;
+    }
+    list_->setResizeMode(QListView::Adjust);
+    stack_->setCurrentWidget(mode_ == Report ? static_cast<QWidget*>(tree_) : list_);
+    if (mode_ == Report)
+        tree_->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    setFocusProxy(currentView());
+    if (!selected.isEmpty())
+        selectFile(QFileInfo(selected).fileName());
+}
+
+void FileBrowser::onActivated(const QModelIndex& index) {
+    if (!index.isValid())
+        return;
+    const QString path = model_->filePath(index);
+    if (model_->isDir(index)) {
+        setFolder(path);
+        return;
+    }
+    emit executeRequested(QDir::toNativeSeparators(path));
+}
+
+bool FileBrowser::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::MouseMove) {
+        auto* viewport = static_cast<QWidget*>(watched);
+        auto* me = static_cast<QMouseEvent*>(event);
+        const bool overItem = currentView()->indexAt(me->position().toPoint()).isValid();
+        if (!overItem)
+            viewport->unsetCursor();
+    } else if (event->type() == QEvent::Leave) {
+        static_cast<QWidget*>(watched)->unsetCursor();
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+} // namespace quovara

@@ -1,0 +1,66 @@
+// The file browser of the main window (`FileView1`): a view of one folder of the real file
+// system with four view modes, a back history, and notifications for folder changes,
+// selection changes and execute requests (double-click or Enter).
+#pragma once
+
+#include <QStringList>
+#include <QWidget>
+
+class QFileSystemModel;
+class QListView;
+class QTreeView;
+class QStackedWidget;
+class QAbstractItemView;
+class QModelIndex;
+
+namespace quovara {
+
+class FileBrowser : public QWidget {
+    Q_OBJECT
+public:
+    // View modes, in the order of the view menu.
+    enum ViewMode { LargeIcon = 0, Report = 1, SmallIcon = 2, List = 3 };
+
+    explicit FileBrowser(QWidget* parent = nullptr);
+
+    QString folder() const { return folder_; }
+    // Shows `path`; the previous folder goes into the back history.
+    void setFolder(const QString& path);
+    // Selects the entry `name` of the current folder (as soon as the folder has been read).
+    void selectFile(const QString& name);
+    // The selected item's full path, or empty.
+    QString selectedPath() const;
+    bool hasSelection() const { return !selectedPath().isEmpty(); }
+
+    void setViewMode(int mode);
+    int viewMode() const { return mode_; }
+    // Goes back to the previous folder of the history (false when there is none).
+    bool back();
+
+    QAbstractItemView* currentView() const;
+
+signals:
+    void folderChanged(const QString& folder);
+    void selectionChanged();
+    // Double-click or Enter on an item; the receiver decides what opening it means.
+    void executeRequested(const QString& path);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void showFolder(const QString& path);
+    void applySelection();
+    void onActivated(const QModelIndex& index);
+
+    QFileSystemModel* model_;
+    QStackedWidget* stack_;
+    QListView* list_;
+    QTreeView* tree_;
+    QString folder_;
+    QStringList history_;
+    QString pendingSelection_;
+    int mode_ = List;
+};
+
+} // namespace quovara

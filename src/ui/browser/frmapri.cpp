@@ -1,0 +1,584 @@
+#include "frmapri.h"
+
+#include "filebrowser.h"
+#include "fileicons.h"
+
+#include "controls/taskpanebar.h"
+#include "controls/uctoolbar.h"
+#include "controls/xp_progressbar.h"
+#include "core/desktop.h"
+#include "core/enginefiles.h"
+#include "core/jobscript.h"
+#include "core/logging.h"
+#include "core/places.h"
+#include "core/processcontrol.h"
+#include "core/runner.h"
+#include "core/singleinstance.h"
+#include "core/vbtext.h"
+#include "core/workspace.h"
+#include "engine/grammar.h"
+
+#include <QActionGroup>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QDir>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QToolButton>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace quovara {
+
+namespace {
+
+// Toolbar button ids, in the order they are added (separators count).
+enum ToolbarId {
+    IdBack = 1,
+    IdAdd = 3,
+    IdExtract = 4,
+    IdSfx = 5,
+    IdVerify = 6,
+    IdView = 8,
+    IdUpdate = 10,
+    IdAbout = 11,
+};
+
+QPushButton* linkButton(const QString& caption, const char* name, QWidget* parent) {
+    auto* b = new QPushButton(caption, parent);
+    b->setObjectName(QLatin1String(name));
+    b->setFlat(true);
+    b->setCursor(Qt::PointingHandCursor);
+    b->setStyleSheet(QStringLiteral("QPushButton { text-align: left; color: #1c3f94; border: none;"
+                                    " padding: 2px; }"
+                                    "QPushButton:hover, QPushButton:focus { color: #3d6ee0;"
+                                    " text-decoration: underline; }"));
+    return b;
+}
+
+QLabel* label(const QString& caption, const char* name, QWidget* parent) {
+    auto* l = new QLabel(caption, parent);
+    l->setObjectName(QLatin1String(name));
+    l->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return l;
+}
+
+} // namespace
+
+frmApri::frmApri(QWidget* parent)
+    : QMainWindow(parent), messagePrompter_(this), prompter_(&messagePrompter_),
+      lister_(messagePrompter_, switch_) {
+    setObjectName(QStringLiteral("frmApri"));
+    setWindowTitle(ApplicationTitle());
+    resize(900, 620);
+
+    auto* central = new QWidget(this);
+    auto* outer = new QVBoxLayout(central);
+    outer->setContentsMargins(0, 0, 0, 0);
+    outer->setSpacing(0);
+
+    ucToolbar1 = new ucToolbar(central);
+    ucToolbar1->setObjectName(QStringLiteral("ucToolbar1"));
+    ucToolbar1->setAccessibleName(QStringLiteral("Commands"));
+    outer->addWidget(ucToolbar1);
+
+    auto* body = new QHBoxLayout();
+    body->setContentsMargins(0, 0, 0, 0);
+    body->setSpacing(0);
+    outer->addLayout(body, 1);
+
+    Barra = new TaskPaneBar(central);
+    Barra->setObjectName(QStringLiteral("Barra"));
+    Barra->setAccessibleName(QStringLiteral("Archive tasks"));
+    Barra->setFixedWidth(250);
+    body->addWidget(Barra);
+
+    auto* right = new QVBoxLayout();
+    right->setContentsMargins(4, 4, 4, 4);
+    right->setSpacing(4);
+    body->addLayout(right, 1);
+
+    ShComboBox1 = new QComboBox(central);
+    ShComboBox1->setObjectName(QStringLiteral("ShComboBox1"));
+    ShComboBox1->setEditable(true);
+    ShComboBox1->setInsertPolicy(QComboBox::NoInsert);
+    ShComboBox1->setAccessibleName(QStringLiteral("Folder"));
+    right->addWidget(ShComboBox1);
+
+    FileView1 = new FileBrowser(central);
+    FileView1->setObjectName(QStringLiteral("FileView1"));
+    right->addWidget(FileView1, 1);
+
+    Trovati = new QTreeWidget(central);
+    Trovati->setObjectName(QStringLiteral("Trovati"));
+    Trovati->setHeaderLabels({QStringLiteral("File Name"), QStringLiteral("File Path")});
+    Trovati->setRootIsDecorated(false);
+    Trovati->setAccessibleName(QStringLiteral("Search results"));
+    Trovati->hide();
+    right->addWidget(Trovati, 1);
+    setCentralWidget(central);
+
+    // Details: the ratio bar and the totals.
+    pDettagli = new QWidget();
+    pDettagli->setObjectName(QStringLiteral("pDettagli"));
+    auto* details = new QGridLayout(pDettagli);
+    details->setContentsMargins(8, 6, 8, 8);
+    details->setVerticalSpacing(3);
+    NomeAr = label(QStringLiteral("Files Number:"), "NomeAr", pDettagli);
+    GranNorm = label(QStringLiteral("Grandezza normale:"), "GranNorm", pDettagli);
+    GranComp = label(QStringLiteral("Grandezza compresso:"), "GranComp", pDettagli);
+    MetodoC = label(QStringLiteral("Metodo:"), "MetodoC", pDettagli);
+    RatioP = label(QStringLiteral("Ratio:"), "RatioP", pDettagli);
+    RatioBar = new XP_ProgressBar(pDettagli);
+    RatioBar->setObjectName(QStringLiteral("RatioBar"));
+    RatioBar->setAccessibleName(QStringLiteral("Ratio"));
+    RatioBar->setMinimumHeight(18);
+    details->addWidget(NomeAr, 0, 0, 1, 2);
+    details->addWidget(GranNorm, 1, 0, 1, 2);
+    details->addWidget(GranComp, 2, 0, 1, 2);
+    details->addWidget(MetodoC, 3, 0, 1, 2);
+    details->addWidget(RatioP, 4, 0);
+    details->addWidget(RatioBar, 4, 1);
+    details->setColumnStretch(1, 1);
+
+    // Operations: search and the single-item commands.
+    pOperazioni = new QWidget();
+    pOperazioni->setObjectName(QStringLiteral("pOperazioni"));
+    auto* ops = new QGridLayout(pOperazioni);
+    ops->setContentsMargins(8, 6, 8, 8);
+    ops->setVerticalSpacing(4);
+    LBCerca = label(QStringLiteral("Search file in archive"), "LBCerca", pOperazioni);
+    TxtCerca = new QLineEdit(pOperazioni);
+    TxtCerca->setObjectName(QStringLiteral("TxtCerca"));
+    TxtCerca->setAccessibleName(QStringLiteral("Search file in archive"));
+    LBCerca->setBuddy(TxtCerca);
+    ImgCerca = new QToolButton(pOperazioni);
+    ImgCerca->setObjectName(QStringLiteral("ImgCerca"));
+    ImgCerca->setIcon(QIcon(QStringLiteral(":/icons/search.svg")));
+    ImgCerca->setIconSize(QSize(20, 20));
+    ImgCerca->setAutoRaise(true);
+    ImgCerca->setCursor(Qt::PointingHandCursor);
+    ImgCerca->setAccessibleName(QStringLiteral("Search"));
+    ImgCerca->setToolTip(QStringLiteral("Search"));
+    EstFile = linkButton(QStringLiteral("Extract selected item"), "EstFile", pOperazioni);
+    EseFile = linkButton(QStringLiteral("Run selected file"), "EseFile", pOperazioni);
+    ops->addWidget(LBCerca, 0, 0, 1, 2);
+    ops->addWidget(TxtCerca, 1, 0);
+    ops->addWidget(ImgCerca, 1, 1);
+    ops->addWidget(EstFile, 2, 0, 1, 2);
+    ops->addWidget(EseFile, 3, 0, 1, 2);
+    ops->setColumnStretch(0, 1);
+
+    // State: what the program is doing.
+    pStato = new QWidget();
+    pStato->setObjectName(QStringLiteral("pStato"));
+    auto* state = new QVBoxLayout(pStato);
+    state->setContentsMargins(8, 6, 8, 8);
+    Stato = label(QString::fromLatin1(apri::Ready), "Stato", pStato);
+    QFont bold = Stato->font();
+    bold.setBold(true);
+    Stato->setFont(bold);
+    Consiglio = label(QString::fromLatin1(apri::SelectAction), "Consiglio", pStato);
+    state->addWidget(Stato);
+    state->addWidget(Consiglio);
+
+    PopView = new QMenu(this);
+    PopView->setObjectName(QStringLiteral("PopView"));
+    const char* modes[] = {"Large Icon", "Report", "Small Icon", "List"};
+    for (int i = 0; i < 4; ++i) {
+        QAction* a = PopView->addAction(QString::fromLatin1(modes[i]));
+        a->setCheckable(true);
+        connect(a, &QAction::triggered, this, [this, i] { PopViewChoose(i); });
+    }
+    PopView->actions()[3]->setChecked(true);
+
+    connect(FileView1, &FileBrowser::folderChanged, this, &frmApri::onFolderChanged);
+    connect(FileView1, &FileBrowser::selectionChanged, this, &frmApri::onSelectionChanged);
+    connect(FileView1, &FileBrowser::executeRequested, this, &frmApri::onExecute);
+    FileView1->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(FileView1, &QWidget::customContextMenuRequested, this,
+            [this](const QPoint& p) { PopView->popup(FileView1->mapToGlobal(p)); });
+    connect(ShComboBox1, &QComboBox::activated, this, [this](int index) {
+        const QString folder = ShComboBox1->itemData(index).toString();
+        if (!folder.isEmpty())
+            FileView1->setFolder(folder);
+    });
+    connect(ShComboBox1->lineEdit(), &QLineEdit::returnPressed, this, [this] {
+        const QString typed = ShComboBox1->currentText();
+        if (QFileInfo(typed).isDir())
+            FileView1->setFolder(typed);
+    });
+    connect(ImgCerca, &QToolButton::clicked, this, &frmApri::StartSearch);
+    connect(TxtCerca, &QLineEdit::returnPressed, this, &frmApri::StartSearch);
+    connect(EstFile, &QPushButton::clicked, this, [this] {
+        if (selectedItem_.isEmpty())
+            prompter_->exclamation(QString::fromLatin1(apri::NoItemSelected));
+        else
+            showExtractDialog(true);
+    });
+    connect(EseFile, &QPushButton::clicked, this, [this] {
+        if (selectedItem_.isEmpty())
+            prompter_->exclamation(QString::fromLatin1(apri::NoItemSelected));
+        else
+            ExtractAndRun();
+    });
+    connect(Trovati, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
+        if (item)
+            selectedItem_ = item->text(1) + QLatin1Char('\\') + item->text(0);
+    });
+    connect(&search_, &ArchiveSearch::found, this, [this](const QString& name, const QString& in) {
+        new QTreeWidgetItem(Trovati, {name, in});
+    });
+    connect(&search_, &ArchiveSearch::finished, this,
+            [this] { setStatus(apri::Ready, apri::SelectAction); });
+}
+
+frmApri::~frmApri() = default;
+
+bool frmApri::Form_Load(const QString& commandLine) {
+    if (AnotherInstanceRunning()) {
+        prompter_->exclamation(QString::fromLatin1(apri::AlreadyRunning));
+        return false;
+    }
+    SetIdlePriority();
+    Barra->hide();
+    RatioBar->SetShowText(true);
+    buildToolbar();
+    buildTaskPane();
+    // Work folder, engine check and the start-up switch to engine 0.6.
+    if (!PrepareWorkspace(*prompter_))
+        return false;
+    const QString engine = ResolveEngineFile(ProgramFolder(), QStringLiteral("uharc.exe"));
+    demonstrationEngine_ = !IsWindowsExecutable(engine);
+    if (demonstrationEngine_)
+        setWindowTitle(ApplicationTitle() + QStringLiteral(" \u2014 demonstration engine"));
+    FileView1->setFolder(QDir::homePath());
+
+    const CommandRequest request = ClassifyCommandLine(commandLine);
+    switch (request.kind) {
+    case CommandRequest::Archive:
+        pointBrowserAt(request.path);
+        OpenItem(request.path);
+        break;
+    case CommandRequest::Extract:
+        commandLineJob_ = true;
+        lister_.listing().archivePath = request.path;
+        showExtractDialog(false);
+        break;
+    case CommandRequest::Add:
+        commandLineJob_ = true;
+        pointBrowserAt(request.path);
+        showAddDialog();
+        break;
+    case CommandRequest::Sfx:
+        commandLineJob_ = true;
+        pointBrowserAt(request.path);
+        OpenItem(request.path);
+        if (!lister_.listing().password.isEmpty())
+            prompter_->information(QString::fromLatin1(apri::SfxProtected));
+        else
+            showSfxDialog();
+        break;
+    case CommandRequest::None:
+        break;
+    }
+    return !commandLineJob_;
+}
+
+void frmApri::buildToolbar() {
+    ucToolbar1->Initialize(32, true, false, true);
+    const char* icons[] = {"101-back",   "102-add",  "103-extract", "104-sfx",
+                           "105-verify", "106-view", "107-update",  "108-about"};
+    for (const char* icon : icons)
+        ucToolbar1->AddIcon(
+            QIcon(QStringLiteral(":/icons/toolbar/%1.svg").arg(QLatin1String(icon))));
+    ucToolbar1->AddButton(QStringLiteral("Back"), 0, QStringLiteral("Back"));
+    ucToolbar1->AddButton(QString(), -1, QString(), ucToolbar::tbrSeparator);
+    ucToolbar1->AddButton(QStringLiteral("Add"), 1, QStringLiteral("Add files to an archive"));
+    ucToolbar1->AddButton(QStringLiteral("Extract"), 2, QStringLiteral("Extract an archive"));
+    ucToolbar1->AddButton(QStringLiteral("SFX"), 3,
+                          QStringLiteral("Make a self-extracting program of the archive"));
+    ucToolbar1->AddButton(QStringLiteral("Verify"), 4, QStringLiteral("Test an archive"));
+    ucToolbar1->AddButton(QString(), -1, QString(), ucToolbar::tbrSeparator);
+    ucToolbar1->AddButton(QStringLiteral("View"), 5, QStringLiteral("Change the view"),
+                          ucToolbar::tbrDropDown);
+    ucToolbar1->AddButton(QString(), -1, QString(), ucToolbar::tbrSeparator);
+    ucToolbar1->AddButton(QStringLiteral("Update"), 6, QStringLiteral("Look for a newer version"));
+    ucToolbar1->AddButton(QStringLiteral("About"), 7, QStringLiteral("About Quovara"));
+    ucToolbar1->SetButtonEnabled(IdSfx, false);
+    ucToolbar1->setFixedHeight(ucToolbar1->ToolbarHeight() + 4);
+    connect(ucToolbar1, &ucToolbar::ButtonClick, this, &frmApri::ButtonClick);
+    connect(ucToolbar1, &ucToolbar::ButtonDropDown, this,
+            [this](int, int x, int y) { PopView->popup(mapToGlobal(QPoint(x, y))); });
+}
+
+void frmApri::buildTaskPane() {
+    Barra->DisableUpdates(true);
+    Barra->AddGroup(QStringLiteral("Dettagli"), QStringLiteral("Details"));
+    Barra->AddGroup(QStringLiteral("Operazioni"), QStringLiteral("File and Folder Operations"));
+    Barra->AddGroup(QStringLiteral("Stato"), QStringLiteral("State"));
+    for (QWidget* w : {pDettagli, pOperazioni, pStato})
+        w->setFixedSize(Barra->width() - 30, w->sizeHint().height());
+    Barra->SetGroupChild(QStringLiteral("Dettagli"), pDettagli);
+    Barra->SetGroupChild(QStringLiteral("Operazioni"), pOperazioni);
+    Barra->SetGroupChild(QStringLiteral("Stato"), pStato);
+    Barra->DisableUpdates(false);
+}
+
+void frmApri::pointBrowserAt(const QString& path) {
+    FileView1->setFolder(FolderOf(path));
+    FileView1->selectFile(QFileInfo(path).fileName());
+}
+
+void frmApri::OpenSelectedItem() {
+    OpenItem(FileView1->selectedPath());
+}
+
+void frmApri::OpenItem(const QString& path) {
+    if (path.isEmpty())
+        return;
+    if (!lister_.OpenSelectedArchive(path)) {
+        // Not an archive: the desktop's own action for the item.
+        ShellOpen(path);
+        return;
+    }
+    if (!lister_.startError().isEmpty()) {
+        prompter_->critical(QStringLiteral("The engine could not be started.\n\n") +
+                            lister_.startError());
+        return;
+    }
+    if (lister_.listing().status == ListStatus::Opened) {
+        lister_.listing().previousFolder = FileView1->folder();
+        FileView1->setFolder(ScratchFolder());
+    }
+    if (const auto totals = lister_.Info()) {
+        Uha();
+        showTotals(*totals);
+    }
+}
+
+void frmApri::showTotals(const ArchiveTotals& t) {
+    NomeAr->setText(t.filesLabel());
+    GranNorm->setText(t.normalSizeLabel());
+    GranComp->setText(t.packedSizeLabel());
+    MetodoC->setText(t.modeLabel());
+    RatioBar->SetValue(t.ratio);
+}
+
+void frmApri::Uha() {
+    ucToolbar1->SetButtonEnabled(IdSfx, true);
+    Barra->show();
+    PopView->actions()[1]->setEnabled(false);
+}
+
+void frmApri::NoUha() {
+    Barra->hide();
+    PopView->actions()[1]->setEnabled(true);
+}
+
+void frmApri::onFolderChanged(const QString& folder) {
+    // The drop-down lists the folder and the folders above it.
+    ShComboBox1->blockSignals(true);
+    ShComboBox1->clear();
+    QStringList chain;
+    QDir dir(folder);
+    do {
+        chain.prepend(QDir::toNativeSeparators(dir.absolutePath()));
+    } while (dir.cdUp());
+    for (int i = 0; i < chain.size(); ++i) {
+        const QString name = i == 0 ? chain[i] : QFileInfo(chain[i]).fileName();
+        ShComboBox1->addItem(SharedFileIconProvider()->icon(QFileInfo(chain[i])),
+                             QString(i * 2, QLatin1Char(' ')) + name, chain[i]);
+    }
+    ShComboBox1->setCurrentIndex(ShComboBox1->count() - 1);
+    ShComboBox1->setEditText(QDir::toNativeSeparators(folder));
+    ShComboBox1->blockSignals(false);
+
+    // Climbing out of the mirror tree into the work folder goes back to where the archive was.
+    if (!Barra->isHidden()) {
+        const QString work =
+            TempRoot() + PathStyle::host().sep + QLatin1String(names::WorkFolderName);
+        if (LongPath(folder).toUpper() == work.toUpper()) {
+            FileView1->setFolder(lister_.listing().previousFolder);
+            NoUha();
+        }
+    }
+}
+
+QString frmApri::archiveItemOf(const QString& path) const {
+    const QString sep(PathStyle::host().sep);
+    const int prefix = LongPath(TempRoot()).size() +
+                       (sep + names::WorkFolderName + sep + names::ScratchFolderName + sep).size();
+    QString item = path.mid(prefix);
+    item.replace(PathStyle::host().sep, QLatin1Char('\\'));
+    if (QFileInfo(path).isDir())
+        item += QStringLiteral("\\*.*");
+    return item;
+}
+
+void frmApri::onSelectionChanged() {
+    if (Barra->isHidden())
+        return;
+    const QString path = FileView1->selectedPath();
+    if (!path.isEmpty())
+        selectedItem_ = archiveItemOf(path);
+}
+
+void frmApri::onExecute(const QString& path) {
+    if (Barra->isHidden()) {
+        OpenItem(path);
+        return;
+    }
+    selectedItem_ = archiveItemOf(path);
+    ExtractAndRun();
+}
+
+void frmApri::setStatus(const char* stato, const char* consiglio) {
+    Stato->setText(QString::fromLatin1(stato));
+    Consiglio->setText(QString::fromLatin1(consiglio));
+}
+
+void frmApri::ExtractAndRun() {
+    const QString script = WorkFile(names::SingleScript);
+    const ArchiveListing& l = lister_.listing();
+    WriteJobScript(script, Preamble::Job,
+                   SingleItemCommandPieces(ProgramFolder(), TempRoot(), l.password, l.archivePath,
+                                           selectedItem_, PathStyle::host()));
+    setStatus(apri::Skipping, apri::PleaseWait);
+    QString error;
+    if (!RunAndWait(script, 0, WorkFolder(), {}, &error))
+        qCDebug(lcRunner) << "single-item job not started:" << error;
+    ShellOpenReport(*prompter_, PathStyle::host().join(WorkFolder(), sGiveFile(selectedItem_)),
+                    QString(), QString(), 0);
+    setStatus(apri::Ready, apri::SelectAction);
+}
+
+void frmApri::StartSearch() {
+    FileView1->hide();
+    ShComboBox1->hide();
+    Trovati->show();
+    Trovati->clear();
+    Trovati->setColumnWidth(0, Trovati->width() / 2);
+    Trovati->setColumnWidth(1, Trovati->width() / 2);
+    Stato->setText(QStringLiteral("Quovara is searching"));
+    Consiglio->setText(QStringLiteral("Back stops the search"));
+    search_.start(CompleteSearchPattern(TxtCerca->text()), ScratchFolder());
+}
+
+void frmApri::stopSearch() {
+    search_.stop();
+}
+
+bool frmApri::writeTestScript() {
+    QString archive;
+    if (!Barra->isHidden()) {
+        archive = lister_.listing().archivePath;
+    } else {
+        archive = FileView1->selectedPath();
+        if (!Like(archive, QStringLiteral("*.uha"))) {
+            prompter_->exclamation(QString::fromLatin1(apri::NoArchiveSelected));
+            return false;
+        }
+    }
+    return WriteJobScript(
+        WorkFile(names::TestScript), Preamble::Job,
+        TestCommandPieces(ProgramFolder(), TempRoot(), archive, PathStyle::host()),
+        LastLine::LineEnd);
+}
+
+void frmApri::ButtonClick(int index) {
+    switch (index) {
+    case IdBack:
+        if (!Trovati->isHidden()) {
+            stopSearch();
+            Trovati->clear();
+            Trovati->hide();
+            FileView1->show();
+            ShComboBox1->show();
+        } else {
+            FileView1->back();
+        }
+        break;
+    case IdAdd:
+        if (FileView1->hasSelection())
+            showAddDialog();
+        else
+            prompter_->exclamation(QString::fromLatin1(apri::NoItemSelected));
+        break;
+    case IdExtract:
+        if (!Barra->isHidden()) {
+            showExtractDialog(false);
+        } else if (!FileView1->hasSelection()) {
+            prompter_->exclamation(QString::fromLatin1(apri::NoItemSelected));
+        } else if (!Like(FileView1->selectedPath(), QStringLiteral("*.uha"))) {
+            prompter_->exclamation(QString::fromLatin1(apri::NoArchiveSelected));
+        } else {
+            showExtractDialog(false);
+        }
+        break;
+    case IdSfx:
+        if (!lister_.listing().password.isEmpty())
+            prompter_->information(QString::fromLatin1(apri::SfxProtected));
+        else
+            showSfxDialog();
+        break;
+    case IdVerify:
+        if (writeTestScript())
+            showTestingWindow();
+        break;
+    case IdView:
+        PopViewChoose(3);
+        break;
+    case IdUpdate:
+        ShellOpen(QString::fromLatin1(apri::VersionPage));
+        break;
+    case IdAbout:
+        showAboutWindow();
+        break;
+    default:
+        break; // separators
+    }
+}
+
+void frmApri::PopViewChoose(int index) {
+    const QList<QAction*> actions = PopView->actions();
+    for (QAction* a : actions)
+        a->setChecked(false);
+    actions[index]->setChecked(true);
+    FileView1->setViewMode(index);
+}
+
+void frmApri::notAvailable(const QString& what) {
+    prompter_->information(what + QStringLiteral(" is not available in this version yet."));
+}
+
+void frmApri::showAddDialog() {
+    notAvailable(QStringLiteral("The Add dialog"));
+}
+void frmApri::showExtractDialog(bool) {
+    notAvailable(QStringLiteral("The Extract dialog"));
+}
+void frmApri::showSfxDialog() {
+    notAvailable(QStringLiteral("The SFX dialog"));
+}
+void frmApri::showTestingWindow() {
+    notAvailable(QStringLiteral("The test progress window (") + WorkFile(names::TestScript) +
+                 QStringLiteral(" has been written)"));
+}
+void frmApri::showAboutWindow() {
+    notAvailable(QStringLiteral("The About window"));
+}
+
+void frmApri::closeEvent(QCloseEvent* event) {
+    stopSearch();
+    UndoEngineSwitch(switch_, ProgramFolder());
+    QMainWindow::closeEvent(event);
+}
+
+} // namespace quovara

@@ -1,0 +1,136 @@
+// frmApri: the main window. A folder drop-down and a file browser beside a task pane; an
+// opened archive is shown as its mirror tree with its totals in the details group. The
+// toolbar and the task pane dispatch every other command.
+#pragma once
+
+#include "archivesearch.h"
+#include "commandline.h"
+
+#include "engine/listing.h"
+#include "ui/common/messageprompter.h"
+
+#include <QMainWindow>
+
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QMenu;
+class QPushButton;
+class QToolButton;
+class QTreeWidget;
+class QTreeWidgetItem;
+
+namespace quovara {
+
+class FileBrowser;
+class TaskPaneBar;
+class XP_ProgressBar;
+class ucToolbar;
+
+// Texts of the window.
+namespace apri {
+inline constexpr char AlreadyRunning[] = "Quovara is already running";
+inline constexpr char NoItemSelected[] = "No item selected";
+inline constexpr char NoArchiveSelected[] = "No .uha archive selected";
+inline constexpr char SfxProtected[] =
+    "You cannot create a SFX with an archive protected by a password";
+inline constexpr char Ready[] = "Quovara is ready";
+inline constexpr char SelectAction[] = "Select an action";
+inline constexpr char Skipping[] = "Quovara is skipping";
+inline constexpr char PleaseWait[] = "Please wait ...";
+// The version page: the product's web server, a fixed path and a fixed query.
+inline constexpr char VersionPage[] =
+    "http://quovara.example.org/version.php?giorno=1&mese=1&anno=2006";
+} // namespace apri
+
+class frmApri : public QMainWindow {
+    Q_OBJECT
+public:
+    explicit frmApri(QWidget* parent = nullptr);
+    ~frmApri() override;
+
+    // Start-up in its fixed order. False when the program must end now (another copy runs,
+    // no engine, or a command-line request has been served).
+    bool Form_Load(const QString& commandLine);
+
+    // Opens the browser's selected item: a ".uha" archive is listed, anything else goes to
+    // the desktop's open action.
+    void OpenSelectedItem();
+    void OpenItem(const QString& path);
+
+    // The toolbar's command by button index (separators do nothing).
+    void ButtonClick(int index);
+    void StartSearch();
+    void ExtractAndRun();
+    void PopViewChoose(int index);
+
+    void Uha();
+    void NoUha();
+
+    ArchiveLister& lister() { return lister_; }
+    EngineSwitchState& engineSwitch() { return switch_; }
+    const QString& selectedItem() const { return selectedItem_; }
+    bool commandLineJob() const { return commandLineJob_; }
+    Prompter& prompter() { return *prompter_; }
+    // Tests answer message boxes with a recorder.
+    void setPrompter(Prompter* prompter) { prompter_ = prompter; }
+    FileBrowser* fileView() const { return FileView1; }
+
+protected:
+    // The windows that the commands open. Those that do not exist yet say so plainly.
+    virtual void showAddDialog();
+    virtual void showExtractDialog(bool forSelectedItem);
+    virtual void showSfxDialog();
+    virtual void showTestingWindow();
+    virtual void showAboutWindow();
+
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void buildToolbar();
+    void buildTaskPane();
+    void pointBrowserAt(const QString& path);
+    void onFolderChanged(const QString& folder);
+    void onSelectionChanged();
+    void onExecute(const QString& path);
+    void showTotals(const ArchiveTotals& totals);
+    void setStatus(const char* stato, const char* consiglio);
+    void stopSearch();
+    bool writeTestScript();
+    void notAvailable(const QString& what);
+    QString archiveItemOf(const QString& path) const;
+
+    MessagePrompter messagePrompter_;
+    Prompter* prompter_;
+    EngineSwitchState switch_;
+    ArchiveLister lister_;
+    ArchiveSearch search_;
+    QString selectedItem_;
+    bool commandLineJob_ = false;
+    bool demonstrationEngine_ = false;
+
+    ucToolbar* ucToolbar1 = nullptr;
+    QComboBox* ShComboBox1 = nullptr;
+    FileBrowser* FileView1 = nullptr;
+    QTreeWidget* Trovati = nullptr;
+    TaskPaneBar* Barra = nullptr;
+    QWidget* pDettagli = nullptr;
+    QWidget* pOperazioni = nullptr;
+    QWidget* pStato = nullptr;
+    XP_ProgressBar* RatioBar = nullptr;
+    QLabel* NomeAr = nullptr;
+    QLabel* GranNorm = nullptr;
+    QLabel* MetodoC = nullptr;
+    QLabel* GranComp = nullptr;
+    QLabel* RatioP = nullptr;
+    QLineEdit* TxtCerca = nullptr;
+    QLabel* LBCerca = nullptr;
+    QToolButton* ImgCerca = nullptr;
+    QPushButton* EstFile = nullptr;
+    QPushButton* EseFile = nullptr;
+    QLabel* Stato = nullptr;
+    QLabel* Consiglio = nullptr;
+    QMenu* PopView = nullptr;
+};
+
+} // namespace quovara

@@ -1,0 +1,45 @@
+#include "messageprompter.h"
+
+#include <QApplication>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+
+namespace quovara {
+
+QString ApplicationTitle() {
+    return QStringLiteral("Quovara");
+}
+
+namespace {
+void show(QWidget* owner, QMessageBox::Icon icon, const QString& text) {
+    QMessageBox box(icon, ApplicationTitle(), text, QMessageBox::Ok, owner);
+    box.exec();
+}
+} // namespace
+
+void MessagePrompter::critical(const QString& text) {
+    show(owner_, QMessageBox::Critical, text);
+}
+void MessagePrompter::exclamation(const QString& text) {
+    show(owner_, QMessageBox::Warning, text);
+}
+void MessagePrompter::information(const QString& text) {
+    show(owner_, QMessageBox::Information, text);
+}
+void MessagePrompter::plain(const QString& text) {
+    show(owner_, QMessageBox::NoIcon, text);
+}
+
+QString MessagePrompter::askPassword(const QString& prompt) {
+    QInputDialog dialog(owner_);
+    dialog.setWindowTitle(ApplicationTitle());
+    dialog.setLabelText(prompt);
+    dialog.setTextEchoMode(QLineEdit::Password);
+    dialog.setObjectName(QStringLiteral("InsertPassword"));
+    if (dialog.exec() != QDialog::Accepted)
+        return QString();
+    return dialog.textValue();
+}
+
+} // namespace quovara
