@@ -153,7 +153,7 @@ bool ArchiveWriter::add(const Entry& e) {
     if (protected_)
         scramble(data, password_, count_);
     bool ok = std::fwrite(h.data(), 1, h.size(), file_) == h.size() &&
-              std::fwrite(data.data(), 1, data.size(), file_) == data.size() &&
+              (data.empty() || std::fwrite(data.data(), 1, data.size(), file_) == data.size()) &&
               std::fflush(file_) == 0;
     ++count_;
     return ok;
