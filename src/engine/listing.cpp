@@ -277,7 +277,7 @@ std::optional<ArchiveTotals> ReadTotals(const QStringList& lines) {
 }
 
 ArchiveLister::ArchiveLister(Prompter& prompter, EngineSwitchState& engineSwitch)
-    : prompter_(prompter), switch_(engineSwitch) {}
+    : prompter_(&prompter), switch_(engineSwitch) {}
 
 void ArchiveLister::Batch() {
     const QString log = WorkFile(names::ListLog);
@@ -317,7 +317,7 @@ ListStatus ArchiveLister::SpecificaErrore(const QString& message) {
         return ListStatus::PasswordRequired;
     }
     if (!t.isEmpty()) {
-        prompter_.critical(t);
+        prompter_->critical(t);
         return ListStatus::Failed;
     }
     return ListStatus::Opened;
@@ -336,7 +336,7 @@ ListStatus ArchiveLister::FileInArchivio(const QString& selectedPath) {
         case ListStatus::PasswordRequired:
             // Only a right password leads out: an empty or cancelled answer lists again
             // without one and asks again.
-            listing_.password = prompter_.askPassword(QStringLiteral("Insert Password"));
+            listing_.password = prompter_->askPassword(QStringLiteral("Insert Password"));
             continue;
         case ListStatus::EngineSwitched:
             return listing_.status;

@@ -81,6 +81,9 @@ class ArchiveLister {
 public:
     ArchiveLister(Prompter& prompter, EngineSwitchState& engineSwitch);
 
+    // Where messages and the password prompt go.
+    void setPrompter(Prompter& prompter) { prompter_ = &prompter; }
+
     ArchiveListing& listing() { return listing_; }
     const ArchiveListing& listing() const { return listing_; }
 
@@ -106,7 +109,7 @@ public:
     QString startError() const { return startError_; }
 
 private:
-    Prompter& prompter_;
+    Prompter* prompter_;
     EngineSwitchState& switch_;
     ArchiveListing listing_;
     QString startError_;

@@ -13,7 +13,7 @@ if command -v ninja >/dev/null 2>&1; then
     generator="-G Ninja"
 fi
 cmake -S "$src" -B "$build" $generator -DCMAKE_CXX_COMPILER="$cxx" -DCMAKE_BUILD_TYPE=RelWithDebInfo \
-    -DQUOVARA_FUZZ=ON -DQUOVARA_TESTS=OFF -DQUOVARA_BENCH=OFF >"$build.configure.log" 2>&1 || {
+    -DQUOVARA_FUZZ=ON -DQUOVARA_GUI=OFF -DQUOVARA_TESTS=OFF -DQUOVARA_BENCH=OFF >"$build.configure.log" 2>&1 || {
     cat "$build.configure.log"
     exit 1
 }

@@ -242,7 +242,7 @@ frmApri::frmApri(QWidget* parent)
 frmApri::~frmApri() = default;
 
 bool frmApri::Form_Load(const QString& commandLine) {
-    if (AnotherInstanceRunning()) {
+    if (AnotherInstanceRunning(lockPath_)) {
         prompter_->exclamation(QString::fromLatin1(apri::AlreadyRunning));
         return false;
     }
@@ -558,21 +558,14 @@ void frmApri::notAvailable(const QString& what) {
     prompter_->information(what + QStringLiteral(" is not available in this version yet."));
 }
 
-void frmApri::showAddDialog() {
-    notAvailable(QStringLiteral("The Add dialog"));
+bool frmApri::archiveLayout() const {
+    return !Barra->isHidden();
 }
-void frmApri::showExtractDialog(bool) {
-    notAvailable(QStringLiteral("The Extract dialog"));
-}
-void frmApri::showSfxDialog() {
-    notAvailable(QStringLiteral("The SFX dialog"));
-}
-void frmApri::showTestingWindow() {
-    notAvailable(QStringLiteral("The test progress window (") + WorkFile(names::TestScript) +
-                 QStringLiteral(" has been written)"));
-}
-void frmApri::showAboutWindow() {
-    notAvailable(QStringLiteral("The About window"));
+
+void frmApri::relistArchive() {
+    const QString archive = lister_.listing().archivePath;
+    if (archiveLayout() && !archive.isEmpty())
+        OpenItem(archive);
 }
 
 void frmApri::closeEvent(QCloseEvent* event) {

@@ -73,11 +73,23 @@ public:
     bool commandLineJob() const { return commandLineJob_; }
     Prompter& prompter() { return *prompter_; }
     // Tests answer message boxes with a recorder.
-    void setPrompter(Prompter* prompter) { prompter_ = prompter; }
+    void setPrompter(Prompter* prompter) {
+        prompter_ = prompter;
+        lister_.setPrompter(*prompter);
+    }
+    // The single-instance lock (empty: the per-user default); tests use their own.
+    void setInstanceLockPath(const QString& path) { lockPath_ = path; }
     FileBrowser* fileView() const { return FileView1; }
+    // True while an archive is shown (the task pane is visible).
+    bool archiveLayout() const;
+    // Lists the open archive again (after a job changed it).
+    void relistArchive();
+    // A plain "not available yet" note for windows that do not exist yet.
+    void notAvailable(const QString& what);
 
 protected:
-    // The windows that the commands open. Those that do not exist yet say so plainly.
+    // The windows that the commands open (one file each: frmapri_<window>.cpp). Tests
+    // override them to record what was asked for.
     virtual void showAddDialog();
     virtual void showExtractDialog(bool forSelectedItem);
     virtual void showSfxDialog();
@@ -97,7 +109,6 @@ private:
     void setStatus(const char* stato, const char* consiglio);
     void stopSearch();
     bool writeTestScript();
-    void notAvailable(const QString& what);
     QString archiveItemOf(const QString& path) const;
 
     MessagePrompter messagePrompter_;
@@ -107,6 +118,7 @@ private:
     ArchiveSearch search_;
     QString selectedItem_;
     bool commandLineJob_ = false;
+    QString lockPath_;
     bool demonstrationEngine_ = false;
 
     ucToolbar* ucToolbar1 = nullptr;

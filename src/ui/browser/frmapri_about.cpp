@@ -1,0 +1,10 @@
+// The About window (frmInfo).
+#include "frmapri.h"
+
+namespace quovara {
+
+void frmApri::showAboutWindow() {
+    notAvailable(QStringLiteral("The About window"));
+}
+
+} // namespace quovara
