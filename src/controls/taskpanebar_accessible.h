@@ -1,0 +1,61 @@
+// Accessible view of TaskPaneBar: headers are expandable buttons, items are links, the
+// details text is static text; hosted child widgets and the scroll bar follow.
+#pragma once
+
+#include "controls/accessiblefactory.h"
+#include "controls/taskpanebar.h"
+
+#include <QAccessibleWidget>
+#include <QPointer>
+
+namespace quovara {
+
+class TaskPaneAccessible : public QAccessibleWidget {
+public:
+    explicit TaskPaneAccessible(TaskPaneBar* pane);
+
+    int childCount() const override;
+    QAccessibleInterface* child(int index) const override;
+    int indexOfChild(const QAccessibleInterface* child) const override;
+    QAccessibleInterface* childAt(int x, int y) const override;
+    QAccessibleInterface* focusChild() const override;
+
+private:
+    TaskPaneBar* pane() const { return static_cast<TaskPaneBar*>(widget()); }
+    QAccessibleInterface* elementInterface(const TaskPaneBar::Element& e) const;
+    mutable AccessibleChildCache m_children;
+};
+
+class TaskPaneElementAccessible : public QAccessibleInterface, public QAccessibleActionInterface {
+public:
+    TaskPaneElementAccessible(TaskPaneBar* pane, const TaskPaneBar::Element& e)
+        : m_pane(pane), m_element(e) {}
+
+    const TaskPaneBar::Element& element() const { return m_element; }
+
+    bool isValid() const override;
+    QObject* object() const override { return nullptr; }
+    QWindow* window() const override;
+    QAccessibleInterface* parent() const override;
+    QAccessibleInterface* child(int) const override { return nullptr; }
+    int childCount() const override { return 0; }
+    int indexOfChild(const QAccessibleInterface*) const override { return -1; }
+    QAccessibleInterface* childAt(int, int) const override { return nullptr; }
+    QAccessibleInterface* focusChild() const override { return nullptr; }
+    QString text(QAccessible::Text t) const override;
+    void setText(QAccessible::Text, const QString&) override {}
+    QRect rect() const override;
+    QAccessible::Role role() const override;
+    QAccessible::State state() const override;
+    void* interface_cast(QAccessible::InterfaceType type) override;
+
+    QStringList actionNames() const override;
+    void doAction(const QString& actionName) override;
+    QStringList keyBindingsForAction(const QString&) const override { return {}; }
+
+private:
+    QPointer<TaskPaneBar> m_pane;
+    TaskPaneBar::Element m_element;
+};
+
+} // namespace quovara
