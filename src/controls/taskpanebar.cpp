@@ -245,6 +245,8 @@ void TaskPaneBar::SetGroupChild(const QVariant& Group, QWidget* pChild) {
     if (!g.container) {
         g.container = new QWidget(this);
         g.container->setAutoFillBackground(true);
+        detectTheme();
+        applyContainerColours(g.container);
     }
     g.container->setObjectName(pChild->objectName() + QStringLiteral("_Container"));
     g.container->setProperty("Tag", pChild->objectName());

@@ -212,6 +212,7 @@ private:
     void relayout();
     int layoutGroup(Group& g, int index, int top, int left, int width);
     void detectTheme();
+    void applyContainerColours(QWidget* container);
     void headerAt(const QPoint& pos, int& header) const;
     void itemAt(const QPoint& pos, int& group, int& item) const;
     void handleMove(const QPoint& pos, bool synthetic);

@@ -70,15 +70,17 @@ void TaskPaneBar::detectTheme() {
         m_shellStylePath = folder + QStringLiteral("Shell") + sep + scheme + sep +
                            QStringLiteral("ShellStyle.dll");
     }
-    if (before != m_styleName) {
-        const TaskPanePalette pal = PaletteForStyle(m_styleName, palette());
+    if (before != m_styleName)
         for (int i = 1; i < m_groups.size(); ++i)
-            if (QWidget* c = m_groups.at(i).container) {
-                QPalette cp = c->palette();
-                cp.setColor(QPalette::Window, pal.body);
-                c->setPalette(cp);
-            }
-    }
+            applyContainerColours(m_groups.at(i).container);
+}
+
+void TaskPaneBar::applyContainerColours(QWidget* container) {
+    if (!container)
+        return;
+    QPalette cp = container->palette();
+    cp.setColor(QPalette::Window, PaletteForStyle(m_styleName, palette()).body);
+    container->setPalette(cp);
 }
 
 int TaskPaneBar::layoutGroup(Group& g, int index, int top, int left, int width) {

@@ -115,6 +115,18 @@ TEST_F(StyleFixture, SwitchingTheDesktopSchemeRepaintsWithoutTheHost) {
     EXPECT_NE(Grab(pane.get()), before);
 }
 
+TEST_F(StyleFixture, AHostedChildSitsOnTheBodyColourOfTheStyle) {
+    auto* child = new QWidget;
+    child->setObjectName(QStringLiteral("picStato"));
+    child->resize(100, 30);
+    pane->SetGroupChild(QStringLiteral("G"), child);
+    QWidget* container = pane->GroupChildContainer(QStringLiteral("G"));
+    ASSERT_NE(container, nullptr);
+    EXPECT_EQ(container->palette().color(QPalette::Window), QColor(214, 223, 247));
+    switchTo(QStringLiteral("Metallic"));
+    EXPECT_EQ(container->palette().color(QPalette::Window), QColor(240, 241, 245));
+}
+
 TEST_F(StyleFixture, ThemePathsAreDerivedFromTheStyleFile) {
     DesktopTheme::instance()->SetColorScheme(QStringLiteral("Metallic"),
                                              QStringLiteral("/opt/styles/Quartz/quartz.style"));

@@ -88,7 +88,7 @@ TaskPaneBar* pane(const QString& style, const QList<QIcon>& images) {
         QStringLiteral("Details"), QStringLiteral("archive.uha"),
         QStringLiteral("Files: 128\nSize: 12.40 MB\nPacked: 3.75 MB\nMethod: ALZ Best"));
     p->DisableUpdates(false);
-    p->setFixedSize(226, 600);
+    p->setFixedSize(236, 600);
     return p;
 }
 
@@ -111,19 +111,8 @@ int main(int argc, char** argv) {
     root->addWidget(heading(QStringLiteral("Toolbar: raised buttons, 24 px")));
     root->addWidget(mainToolbar(24, false, false, false, false));
 
-    auto* middle = new QHBoxLayout;
-    middle->setSpacing(10);
-    const QList<QIcon> images{
-        PaintedIcon(QStringLiteral("folder")), PaintedIcon(QStringLiteral("file")),
-        PaintedIcon(QStringLiteral("search")), PaintedIcon(QStringLiteral("mail")),
-        PaintedIcon(QStringLiteral("web"))};
-    for (const char* style : {"NormalColor", "Metallic", "HomeStead", "Classic"}) {
-        auto* col = new QVBoxLayout;
-        col->addWidget(heading(QStringLiteral("Task pane: ") + QString::fromLatin1(style)));
-        col->addWidget(pane(QString::fromLatin1(style), images));
-        middle->addLayout(col);
-    }
-
+    root->addWidget(heading(
+        QStringLiteral("Progress bar: the ten display modes at 45 %, and upright at 70 %")));
     auto* bars = new QGridLayout;
     bars->setHorizontalSpacing(8);
     bars->setVerticalSpacing(6);
@@ -138,10 +127,12 @@ int main(int argc, char** argv) {
         ptr.fillRect(4, 4, 4, 4, QColor(230, 120, 40));
     }
     for (int mode = 0; mode < 10; ++mode) {
-        bars->addWidget(new QLabel(QString::fromLatin1(names[mode])), mode, 0);
+        const int row = mode % 5;
+        const int col = (mode / 5) * 4;
+        bars->addWidget(new QLabel(QString::fromLatin1(names[mode])), row, col);
         auto* bar = new XP_ProgressBar;
         bar->setObjectName(QStringLiteral("RatioBar%1").arg(mode));
-        bar->setFixedSize(230, 20);
+        bar->setFixedSize(260, 20);
         bar->SetScrolling(mode);
         bar->SetShowText(true);
         bar->SetValue(45);
@@ -149,24 +140,37 @@ int main(int argc, char** argv) {
             bar->SetImage(pattern);
         if (mode == 5 || mode == 9)
             bar->SetColor(QColor(46, 150, 70));
-        bars->addWidget(bar, mode, 1);
-        auto* vertical = new XP_ProgressBar;
-        vertical->setFixedSize(18, 20);
-        vertical->SetOrientation(1);
-        vertical->SetScrolling(mode);
-        vertical->SetValue(70);
-        bars->addWidget(vertical, mode, 2);
+        bars->addWidget(bar, row, col + 1);
+        auto* upright = new XP_ProgressBar;
+        upright->setFixedSize(16, 22);
+        upright->SetOrientation(1);
+        upright->SetScrolling(mode);
+        upright->SetValue(70);
+        if (mode == 8)
+            upright->SetImage(pattern);
+        bars->addWidget(upright, row, col + 2);
+        bars->setColumnMinimumWidth(col + 3, 30);
     }
-    auto* right = new QVBoxLayout;
-    right->addWidget(heading(QStringLiteral("Progress bar: the ten display modes at 45 %")));
-    right->addLayout(bars);
-    right->addStretch();
-    middle->addLayout(right);
-    middle->addStretch();
-    root->addLayout(middle);
+    bars->setColumnStretch(8, 1);
+    root->addLayout(bars);
+
+    auto* panes = new QHBoxLayout;
+    panes->setSpacing(14);
+    const QList<QIcon> images{
+        PaintedIcon(QStringLiteral("folder")), PaintedIcon(QStringLiteral("file")),
+        PaintedIcon(QStringLiteral("search")), PaintedIcon(QStringLiteral("mail")),
+        PaintedIcon(QStringLiteral("web"))};
+    for (const char* style : {"NormalColor", "Metallic", "HomeStead", "Classic"}) {
+        auto* col = new QVBoxLayout;
+        col->addWidget(heading(QStringLiteral("Task pane: ") + QString::fromLatin1(style)));
+        col->addWidget(pane(QString::fromLatin1(style), images));
+        panes->addLayout(col);
+    }
+    panes->addStretch();
+    root->addLayout(panes);
     root->addStretch();
 
-    window.resize(1260, 1000);
+    window.resize(1270, 1010);
     window.move(0, 0);
     window.show();
     return app.exec();
