@@ -1,0 +1,506 @@
+// The main window against the stand-in engine: start-up, command line, browsing folders and
+// archives, the toolbar's commands and refusals, search, and single items.
+#include "../core/recording_prompter.h"
+#include "../core/test_support.h"
+#include "controls/taskpanebar.h"
+#include "controls/uctoolbar.h"
+#include "controls/xp_progressbar.h"
+#include "core/desktop.h"
+#include "core/places.h"
+#include "ui/browser/filebrowser.h"
+#include "ui/browser/frmapri.h"
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QDirIterator>
+#include <QFileSystemModel>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLockFile>
+#include <QMenu>
+#include <QProcess>
+#include <QPushButton>
+#include <QTest>
+#include <QToolButton>
+#include <QTreeWidget>
+#include <functional>
+#include <gtest/gtest.h>
+
+using namespace quovara;
+using namespace quovara::testing;
+
+namespace {
+
+const QString kSix = QStringLiteral(QUOVARA_STANDIN_06);
+const QString kFour = QStringLiteral(QUOVARA_STANDIN_04);
+
+bool waitFor(const std::function<bool()>& done, int ms = 10000) {
+    QElapsedTimer t;
+    t.start();
+    while (!done()) {
+        if (t.elapsed() > ms)
+            return false;
+        QTest::qWait(20);
+    }
+    return true;
+}
+
+// The main window with its other windows replaced by a record of what was asked for.
+class TestApri : public frmApri {
+public:
+    QStringList opened;
+
+protected:
+    void showAddDialog() override { opened << "add"; }
+    void showExtractDialog(bool forSelectedItem) override {
+        opened << (forSelectedItem ? "extract selected" : "extract");
+    }
+    void showSfxDialog() override { opened << "sfx"; }
+    void showTestingWindow() override { opened << "testing"; }
+    void showAboutWindow() override { opened << "about"; }
+};
+
+class MainWindow : public ::testing::Test {
+protected:
+    void SetUp() override {
+        // Shipped layout: uharc.exe is 0.4, the stored 0.6 copy waits beside it.
+        QFile::copy(kFour, places_.programFolder() + "/uharc.exe");
+        QFile::copy(kSix, places_.programFolder() + "/Uharc0.6.fns");
+        src_ = places_.path() + "/data";
+        QDir().mkpath(src_ + "/a/b");
+        writeFile(src_ + "/root.txt", "root file");
+        writeFile(src_ + "/a/d.txt", "d in a");
+        writeFile(src_ + "/a/b/c.txt", "c in a\\b");
+        writeFile(src_ + "/a/b/dd.txt", "dd in a\\b");
+        window_.setPrompter(&prompter_);
+        window_.setInstanceLockPath(places_.path() + "/quovara.lock");
+        SetDesktopOpener([this](const QString& target, const QString&, const QString&) {
+            opened_ << target;
+            if (target.startsWith("http"))
+                return 42;
+            return QFileInfo(target).isFile() ? 42 : 2;
+        });
+    }
+    void TearDown() override { SetDesktopOpener({}); }
+
+    QString makeArchive(const QString& engine, const QString& name, QStringList switches = {}) {
+        const QString archive = places_.path() + "/" + name;
+        QProcess p;
+        p.setWorkingDirectory(src_);
+        p.start(engine, QStringList{"a"} + switches + QStringList{"-r+", "-y+", archive, "*"});
+        EXPECT_TRUE(p.waitForFinished(30000));
+        EXPECT_EQ(p.exitCode(), 0);
+        return archive;
+    }
+
+    template <typename T> T* child(const char* name) {
+        T* w = window_.findChild<T*>(QLatin1String(name));
+        EXPECT_NE(w, nullptr) << name;
+        return w;
+    }
+
+    QString text(const char* label) { return child<QLabel>(label)->text(); }
+
+    void show() {
+        window_.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window_));
+    }
+
+    // Clicks (or double-clicks) the browser's item `path` once the folder has been read.
+    void clickItem(const QString& path, bool twice = false) {
+        QAbstractItemView* view = window_.fileView()->currentView();
+        auto* model = static_cast<QFileSystemModel*>(view->model());
+        QModelIndex index;
+        ASSERT_TRUE(waitFor([&] {
+            index = model->index(path);
+            return index.isValid() && !view->visualRect(index).isEmpty();
+        })) << path.toStdString();
+        const QPoint at = view->visualRect(index).center();
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, at);
+        if (twice)
+            QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, at);
+    }
+
+    void clickToolbar(int id) {
+        auto* toolbar = child<ucToolbar>("ucToolbar1");
+        QTest::mouseClick(toolbar, Qt::LeftButton, {}, toolbar->ButtonRect(id).center());
+    }
+
+    bool archiveLayout() { return !child<TaskPaneBar>("Barra")->isHidden(); }
+
+    ScopedPlaces places_;
+    QString src_;
+    RecordingPrompter prompter_;
+    QStringList opened_;
+    TestApri window_;
+};
+
+} // namespace
+
+TEST_F(MainWindow, StartsWithTheSixEngineAndIdleTexts) {
+    ASSERT_TRUE(window_.Form_Load(""));
+    EXPECT_TRUE(prompter_.shown.isEmpty());
+    EXPECT_EQ(readAll(places_.programFolder() + "/uharc.exe"), readAll(kSix));
+    EXPECT_EQ(readAll(places_.programFolder() + "/Uharc0.4.fns"), readAll(kFour));
+    EXPECT_TRUE(QFileInfo(WorkFolder()).isDir());
+    EXPECT_TRUE(window_.windowTitle().contains("demonstration engine"));
+    EXPECT_EQ(text("Stato"), "Quovara is ready");
+    EXPECT_EQ(text("Consiglio"), "Select an action");
+    EXPECT_FALSE(archiveLayout());
+    auto* toolbar = child<ucToolbar>("ucToolbar1");
+    EXPECT_EQ(toolbar->ButtonCount(), 11);
+    const QStringList captions = {"Back", "",     "Add", "Extract", "SFX",  "Verify",
+                                  "",     "View", "",    "Update",  "About"};
+    for (int id = 1; id <= 11; ++id)
+        EXPECT_EQ(toolbar->ButtonCaption(id), captions[id - 1]) << id;
+    EXPECT_FALSE(toolbar->ButtonEnabled(5));
+    auto* pane = child<TaskPaneBar>("Barra");
+    EXPECT_EQ(child<QWidget>("pDettagli")->parentWidget()->parentWidget(), pane);
+    EXPECT_EQ(text("NomeAr"), "Files Number:");
+    EXPECT_EQ(text("GranNorm"), "Grandezza normale:");
+    EXPECT_EQ(text("MetodoC"), "Metodo:");
+    EXPECT_EQ(text("GranComp"), "Grandezza compresso:");
+    EXPECT_EQ(text("RatioP"), "Ratio:");
+    EXPECT_EQ(text("LBCerca"), "Search file in archive");
+    EXPECT_EQ(child<QPushButton>("EstFile")->text(), "Extract selected item");
+    EXPECT_EQ(child<QPushButton>("EseFile")->text(), "Run selected file");
+}
+
+TEST_F(MainWindow, MissingOrEmptyEngineEndsTheProgram) {
+    QFile::remove(places_.programFolder() + "/Uharc0.6.fns");
+    writeFile(places_.programFolder() + "/uharc.exe", "");
+    EXPECT_FALSE(window_.Form_Load(""));
+    EXPECT_EQ(prompter_.shown,
+              QStringList({"critical: Uharc 0.4 not detected, program will be end"}));
+}
+
+TEST_F(MainWindow, SecondCopyIsRefusedBeforeTouchingTheWorkFolder) {
+    QLockFile other(places_.path() + "/quovara.lock");
+    ASSERT_TRUE(other.tryLock(0));
+    QDir().mkpath(WorkFolder());
+    writeFile(WorkFile(names::ListLog), "the first copy's log");
+    EXPECT_FALSE(window_.Form_Load(""));
+    EXPECT_EQ(prompter_.shown, QStringList({"exclamation: Quovara is already running"}));
+    EXPECT_EQ(readAll(WorkFile(names::ListLog)), QByteArray("the first copy's log"));
+}
+
+TEST_F(MainWindow, BareArchivePathIsListedWithItsTotals) {
+    const QString archive = makeArchive(kSix, "plain.uha", {"-m3"});
+    ASSERT_TRUE(window_.Form_Load(archive));
+    EXPECT_TRUE(prompter_.shown.isEmpty()) << prompter_.shown.join('|').toStdString();
+    EXPECT_TRUE(archiveLayout());
+    EXPECT_EQ(window_.lister().listing().archivePath, archive);
+    EXPECT_EQ(window_.lister().listing().previousFolder, places_.path());
+    EXPECT_EQ(window_.fileView()->folder(), ScratchFolder());
+    EXPECT_EQ(text("NomeAr"), "Files: 4");
+    EXPECT_EQ(text("GranNorm"), "Normal size: 0 MB");
+    EXPECT_EQ(text("GranComp"), "Packed size: 0 MB");
+    EXPECT_EQ(text("MetodoC"), "Mode: ALZ Best");
+    EXPECT_TRUE(child<ucToolbar>("ucToolbar1")->ButtonEnabled(5));
+    EXPECT_FALSE(child<QMenu>("PopView")->actions()[1]->isEnabled());
+    EXPECT_TRUE(QFileInfo::exists(ScratchFolder() + "/a/b/dd.txt"));
+}
+
+TEST_F(MainWindow, OtherCommandLinesOpenTheWindowNormally) {
+    ASSERT_TRUE(window_.Form_Load(src_ + "/root.txt"));
+    EXPECT_FALSE(archiveLayout());
+    ASSERT_TRUE(window_.Form_Load("something else entirely"));
+    EXPECT_FALSE(archiveLayout());
+    EXPECT_TRUE(window_.opened.isEmpty());
+    EXPECT_TRUE(prompter_.shown.isEmpty());
+}
+
+TEST_F(MainWindow, ExtractRequestOpensOnlyTheExtractDialogAndEnds) {
+    EXPECT_FALSE(window_.Form_Load("extract  /data/a.uha"));
+    EXPECT_TRUE(window_.commandLineJob());
+    EXPECT_EQ(window_.opened, QStringList({"extract"}));
+    EXPECT_EQ(window_.lister().listing().archivePath, "/data/a.uha");
+    EXPECT_FALSE(window_.isVisible());
+}
+
+TEST_F(MainWindow, AddRequestPointsTheBrowserAtThePathAndEnds) {
+    EXPECT_FALSE(window_.Form_Load("add  " + src_ + "/a"));
+    EXPECT_EQ(window_.opened, QStringList({"add"}));
+    EXPECT_EQ(window_.fileView()->folder(), src_);
+    EXPECT_TRUE(waitFor([&] { return window_.fileView()->selectedPath() == src_ + "/a"; }));
+}
+
+TEST_F(MainWindow, SfxRequestListsTheArchiveThenOpensTheSfxDialog) {
+    const QString archive = makeArchive(kSix, "plain.uha");
+    EXPECT_FALSE(window_.Form_Load("sfx  " + archive));
+    EXPECT_EQ(window_.opened, QStringList({"sfx"}));
+    EXPECT_EQ(window_.lister().listing().archivePath, archive);
+}
+
+TEST_F(MainWindow, SfxRequestForAProtectedArchiveIsRefused) {
+    const QString archive = makeArchive(kSix, "protected.uha", {"-pwsecret"});
+    prompter_.answers = {"secret"};
+    EXPECT_FALSE(window_.Form_Load("sfx  " + archive));
+    EXPECT_TRUE(window_.opened.isEmpty());
+    EXPECT_EQ(prompter_.shown,
+              QStringList({"prompt: Insert Password",
+                           "information: You cannot create a SFX with an archive protected by a "
+                           "password"}));
+}
+
+TEST_F(MainWindow, ProtectedArchiveAsksForItsPassword) {
+    const QString archive = makeArchive(kSix, "protected.uha", {"-pwsecret"});
+    prompter_.answers = {"secret"};
+    ASSERT_TRUE(window_.Form_Load(archive));
+    EXPECT_EQ(prompter_.shown, QStringList({"prompt: Insert Password"}));
+    EXPECT_EQ(window_.lister().listing().password, "secret");
+    EXPECT_EQ(text("NomeAr"), "Files: 4");
+    // The SFX command refuses a protected archive.
+    clickToolbar(5);
+    EXPECT_EQ(prompter_.shown.last(),
+              "information: You cannot create a SFX with an archive protected by a password");
+    EXPECT_TRUE(window_.opened.isEmpty());
+}
+
+TEST_F(MainWindow, OlderArchiveSwitchesTheEngineUntilTheWindowCloses) {
+    const QString archive = makeArchive(kFour, "old.uha", {"-mx"});
+    ASSERT_TRUE(window_.Form_Load(archive));
+    EXPECT_TRUE(prompter_.shown.isEmpty());
+    EXPECT_TRUE(window_.engineSwitch().engineSwitched);
+    EXPECT_EQ(text("MetodoC"), "Mode: PPM");
+    EXPECT_EQ(readAll(places_.programFolder() + "/uharc.exe"), readAll(kFour));
+    window_.close();
+    EXPECT_FALSE(window_.engineSwitch().engineSwitched);
+    EXPECT_EQ(readAll(places_.programFolder() + "/uharc.exe"), readAll(kSix));
+    EXPECT_EQ(readAll(places_.programFolder() + "/Uharc0.4.fns"), readAll(kFour));
+}
+
+TEST_F(MainWindow, DoubleClickOnAnArchiveListsIt) {
+    const QString archive = makeArchive(kSix, "plain.uha");
+    ASSERT_TRUE(window_.Form_Load(""));
+    show();
+    window_.fileView()->setFolder(places_.path());
+    clickItem(archive, true);
+    ASSERT_TRUE(waitFor([&] { return archiveLayout(); }));
+    EXPECT_EQ(text("NomeAr"), "Files: 4");
+    EXPECT_EQ(window_.fileView()->folder(), ScratchFolder());
+}
+
+TEST_F(MainWindow, CapitalUhaExtensionIsNotAnArchive) {
+    const QString archive = makeArchive(kSix, "plain.uha");
+    const QString upper = places_.path() + "/COPY.UHA";
+    QFile::copy(archive, upper);
+    ASSERT_TRUE(window_.Form_Load(""));
+    window_.OpenItem(upper);
+    EXPECT_FALSE(archiveLayout());
+    EXPECT_EQ(opened_, QStringList({upper}));
+}
+
+TEST_F(MainWindow, OtherFilesGoToTheDesktop) {
+    ASSERT_TRUE(window_.Form_Load(""));
+    show();
+    window_.fileView()->setFolder(src_);
+    clickItem(src_ + "/root.txt", true);
+    ASSERT_TRUE(waitFor([&] { return !opened_.isEmpty(); }));
+    EXPECT_EQ(opened_, QStringList({src_ + "/root.txt"}));
+}
+
+TEST_F(MainWindow, ClimbingIntoTheWorkFolderGoesBackToTheArchivesFolder) {
+    const QString archive = makeArchive(kSix, "plain.uha");
+    ASSERT_TRUE(window_.Form_Load(archive));
+    ASSERT_TRUE(archiveLayout());
+    window_.fileView()->setFolder(WorkFolder());
+    EXPECT_EQ(window_.fileView()->folder(), places_.path());
+    EXPECT_FALSE(archiveLayout());
+}
+
+TEST_F(MainWindow, RefusalsOfTheToolbar) {
+    ASSERT_TRUE(window_.Form_Load(""));
+    show();
+    window_.fileView()->setFolder(src_);
+    clickToolbar(3); // Add, nothing selected
+    clickToolbar(4); // Extract, nothing selected
+    clickItem(src_ + "/root.txt");
+    clickToolbar(4); // Extract, not an archive
+    clickToolbar(6); // Verify, not an archive
+    EXPECT_EQ(prompter_.shown,
+              QStringList({"exclamation: No item selected", "exclamation: No item selected",
+                           "exclamation: No .uha archive selected",
+                           "exclamation: No .uha archive selected"}));
+    clickToolbar(3); // Add with a selection
+    EXPECT_EQ(window_.opened, QStringList({"add"}));
+}
+
+TEST_F(MainWindow, UpdateAlwaysAsksForTheSameVersionPage) {
+    ASSERT_TRUE(window_.Form_Load(""));
+    show();
+    clickToolbar(10);
+    EXPECT_EQ(opened_,
+              QStringList({"http://quovara.example.org/version.php?giorno=1&mese=1&anno=2006"}));
+}
+
+TEST_F(MainWindow, AboutAndViewButtons) {
+    ASSERT_TRUE(window_.Form_Load(""));
+    show();
+    window_.PopViewChoose(0);
+    EXPECT_EQ(window_.fileView()->viewMode(), 0);
+    clickToolbar(8);
+    EXPECT_EQ(window_.fileView()->viewMode(), 3);
+    const QList<QAction*> modes = child<QMenu>("PopView")->actions();
+    EXPECT_EQ(modes[0]->text(), "Large Icon");
+    EXPECT_EQ(modes[1]->text(), "Report");
+    EXPECT_EQ(modes[2]->text(), "Small Icon");
+    EXPECT_EQ(modes[3]->text(), "List");
+    EXPECT_FALSE(modes[0]->isChecked());
+    EXPECT_TRUE(modes[3]->isChecked());
+    clickToolbar(11);
+    EXPECT_EQ(window_.opened, QStringList({"about"}));
+}
+
+TEST_F(MainWindow, VerifyWritesTheTestScriptWithALineEnd) {
+    const QString archive = makeArchive(kSix, "protected.uha", {"-pwsecret"});
+    prompter_.answers = {"secret"};
+    ASSERT_TRUE(window_.Form_Load(archive));
+    show();
+    clickToolbar(6);
+    EXPECT_EQ(window_.opened, QStringList({"testing"}));
+    // No password switch, even for a protected archive.
+    EXPECT_EQ(readAll(WorkFile(names::TestScript)),
+              "@echo off\r\ncls\r\nset uharc_opt= -d2\r\n\"" +
+                  (places_.programFolder() + "/UHARC.exe").toLocal8Bit() + "\" t -y+ \"" +
+                  archive.toLocal8Bit() + "\" > " + WorkFile(names::ConsoleOutput).toLocal8Bit() +
+                  "\r\n");
+}
+
+TEST_F(MainWindow, VerifyInTheFileSystemLayoutTakesTheSelectedArchive) {
+    const QString archive = makeArchive(kSix, "plain.uha");
+    ASSERT_TRUE(window_.Form_Load(""));
+    show();
+    window_.fileView()->setFolder(places_.path());
+    clickItem(archive);
+    clickToolbar(6);
+    EXPECT_EQ(window_.opened, QStringList({"testing"}));
+    EXPECT_TRUE(
+        readAll(WorkFile(names::TestScript)).contains("\" t -y+ \"" + archive.toLocal8Bit()));
+}
+
+TEST_F(MainWindow, SearchWithoutADotFindsNamesThatBeginWithItDeeperFoldersFirst) {
+    const QString archive = makeArchive(kSix, "plain.uha");
+    ASSERT_TRUE(window_.Form_Load(archive));
+    show();
+    QTest::keyClicks(child<QLineEdit>("TxtCerca"), "d");
+    QTest::mouseClick(child<QToolButton>("ImgCerca"), Qt::LeftButton);
+    auto* found = child<QTreeWidget>("Trovati");
+    EXPECT_TRUE(found->isVisible());
+    EXPECT_FALSE(window_.fileView()->isVisible());
+    ASSERT_TRUE(waitFor([&] { return text("Stato") == "Quovara is ready"; }));
+    ASSERT_EQ(found->topLevelItemCount(), 2);
+    EXPECT_EQ(found->headerItem()->text(0), "File Name");
+    EXPECT_EQ(found->headerItem()->text(1), "File Path");
+    EXPECT_EQ(found->topLevelItem(0)->text(0), "dd.txt");
+    EXPECT_EQ(found->topLevelItem(0)->text(1), "a\\b");
+    EXPECT_EQ(found->topLevelItem(1)->text(0), "d.txt");
+    EXPECT_EQ(found->topLevelItem(1)->text(1), "a");
+    // Back hides the results and shows the browser again.
+    clickToolbar(1);
+    EXPECT_FALSE(found->isVisible());
+    EXPECT_TRUE(window_.fileView()->isVisible());
+    EXPECT_EQ(found->topLevelItemCount(), 0);
+}
+
+TEST_F(MainWindow, SearchWithADotAndARootResult) {
+    const QString archive = makeArchive(kSix, "plain.uha");
+    ASSERT_TRUE(window_.Form_Load(archive));
+    show();
+    QTest::keyClicks(child<QLineEdit>("TxtCerca"), "*.TXT");
+    QTest::keyClick(child<QLineEdit>("TxtCerca"), Qt::Key_Return);
+    auto* found = child<QTreeWidget>("Trovati");
+    ASSERT_TRUE(waitFor([&] { return text("Stato") == "Quovara is ready"; }));
+    QStringList rows;
+    for (int i = 0; i < found->topLevelItemCount(); ++i)
+        rows << found->topLevelItem(i)->text(1) + "|" + found->topLevelItem(i)->text(0);
+    EXPECT_EQ(rows, QStringList({"a\\b|c.txt", "a\\b|dd.txt", "a|d.txt", "|root.txt"}));
+    // A root result makes the selected item begin with "\".
+    const QRect r = found->visualItemRect(found->topLevelItem(3));
+    QTest::mouseClick(found->viewport(), Qt::LeftButton, {}, r.center());
+    EXPECT_EQ(window_.selectedItem(), "\\root.txt");
+    QTest::mouseClick(found->viewport(), Qt::LeftButton, {},
+                      found->visualItemRect(found->topLevelItem(0)).center());
+    EXPECT_EQ(window_.selectedItem(), "a\\b\\c.txt");
+}
+
+TEST_F(MainWindow, SearchWithNoArchiveOpenFindsNothing) {
+    ASSERT_TRUE(window_.Form_Load(""));
+    show();
+    QTest::keyClicks(child<QLineEdit>("TxtCerca"), "a");
+    QTest::mouseClick(child<QToolButton>("ImgCerca"), Qt::LeftButton);
+    ASSERT_TRUE(waitFor([&] { return text("Stato") == "Quovara is ready"; }));
+    EXPECT_EQ(child<QTreeWidget>("Trovati")->topLevelItemCount(), 0);
+}
+
+TEST_F(MainWindow, RunSelectedFileExtractsItIntoTheWorkFolderAndOpensIt) {
+    const QString archive = makeArchive(kSix, "protected.uha", {"-pwsecret"});
+    prompter_.answers = {"secret"};
+    ASSERT_TRUE(window_.Form_Load(archive));
+    show();
+    window_.fileView()->setFolder(ScratchFolder() + "/a/b");
+    clickItem(ScratchFolder() + "/a/b/c.txt");
+    EXPECT_EQ(window_.selectedItem(), "a\\b\\c.txt");
+    QTest::mouseClick(child<QPushButton>("EseFile"), Qt::LeftButton);
+    // The protected archive's password is reused: no new prompt.
+    EXPECT_EQ(prompter_.shown, QStringList({"prompt: Insert Password"}));
+    EXPECT_EQ(readAll(WorkFile(names::SingleScript)),
+              "@echo off\r\ncls\r\nset uharc_opt= -d2\r\n\"" +
+                  (places_.programFolder() + "/UHARC.exe").toLocal8Bit() + "\" e  -o+ -t\"" +
+                  WorkFolder().toLocal8Bit() + "\" -y+ -pw\"secret\" \"" + archive.toLocal8Bit() +
+                  "\" \"a\\b\\c.txt\"");
+    EXPECT_EQ(readAll(WorkFolder() + "/c.txt"), QByteArray("c in a\\b"));
+    EXPECT_EQ(opened_, QStringList({WorkFolder() + "/c.txt"}));
+    EXPECT_EQ(text("Stato"), "Quovara is ready");
+    EXPECT_EQ(text("Consiglio"), "Select an action");
+}
+
+TEST_F(MainWindow, DoubleClickOnAnArchivedFileRunsIt) {
+    const QString archive = makeArchive(kSix, "plain.uha");
+    ASSERT_TRUE(window_.Form_Load(archive));
+    show();
+    clickItem(ScratchFolder() + "/root.txt", true);
+    ASSERT_TRUE(waitFor([&] { return !opened_.isEmpty(); }));
+    EXPECT_EQ(opened_, QStringList({WorkFolder() + "/root.txt"}));
+    EXPECT_EQ(readAll(WorkFolder() + "/root.txt"), QByteArray("root file"));
+}
+
+TEST_F(MainWindow, SelectedFolderBecomesAPatternForTheExtractDialogAndTheOpenAction) {
+    const QString archive = makeArchive(kSix, "plain.uha");
+    ASSERT_TRUE(window_.Form_Load(archive));
+    show();
+    window_.fileView()->setFolder(ScratchFolder() + "/a");
+    clickItem(ScratchFolder() + "/a/b");
+    EXPECT_EQ(window_.selectedItem(), "a\\b\\*.*");
+    QTest::mouseClick(child<QPushButton>("EstFile"), Qt::LeftButton);
+    EXPECT_EQ(window_.opened, QStringList({"extract selected"}));
+    QTest::mouseClick(child<QPushButton>("EseFile"), Qt::LeftButton);
+    EXPECT_EQ(opened_, QStringList({WorkFolder() + "/*.*"}));
+    EXPECT_EQ(prompter_.shown, QStringList({"critical: Impossibile trovare il file. \r\r"}));
+}
+
+TEST_F(MainWindow, SingleItemCommandsWithNothingSelected) {
+    const QString archive = makeArchive(kSix, "plain.uha");
+    ASSERT_TRUE(window_.Form_Load(archive));
+    show();
+    QTest::mouseClick(child<QPushButton>("EstFile"), Qt::LeftButton);
+    QTest::mouseClick(child<QPushButton>("EseFile"), Qt::LeftButton);
+    EXPECT_EQ(prompter_.shown,
+              QStringList({"exclamation: No item selected", "exclamation: No item selected"}));
+    EXPECT_TRUE(window_.opened.isEmpty());
+}
+
+TEST_F(MainWindow, SameNamedItemsFromTwoFoldersOverwriteEachOther) {
+    writeFile(src_ + "/a/b/d.txt", "d in a\\b");
+    const QString archive = makeArchive(kSix, "plain.uha");
+    ASSERT_TRUE(window_.Form_Load(archive));
+    show();
+    window_.fileView()->setFolder(ScratchFolder() + "/a");
+    clickItem(ScratchFolder() + "/a/d.txt");
+    QTest::mouseClick(child<QPushButton>("EseFile"), Qt::LeftButton);
+    EXPECT_EQ(readAll(WorkFolder() + "/d.txt"), QByteArray("d in a"));
+    window_.fileView()->setFolder(ScratchFolder() + "/a/b");
+    clickItem(ScratchFolder() + "/a/b/d.txt");
+    QTest::mouseClick(child<QPushButton>("EseFile"), Qt::LeftButton);
+    EXPECT_EQ(readAll(WorkFolder() + "/d.txt"), QByteArray("d in a\\b"));
+}
