@@ -1,12 +1,12 @@
-// The test progress window (frmTesting); Testing.bat has been written.
-#include "core/places.h"
+// The test progress window (frmTesting); Testing.bat has been written by the Verify command.
 #include "frmapri.h"
+
+#include "ui/jobs/frmprogress.h"
 
 namespace quovara {
 
 void frmApri::showTestingWindow() {
-    notAvailable(QStringLiteral("The test progress window (") + WorkFile(names::TestScript) +
-                 QStringLiteral(" has been written)"));
+    RunJobWindow(JobKind::Test, *this);
 }
 
 } // namespace quovara

@@ -1,14 +1,29 @@
 // The job progress windows frmAdding, frmExtracting and frmTesting (Part 4.2): one class, told
-// apart by a small job-kind table.
+// apart by a small job-kind table. The window starts its job script itself, follows the engine's
+// console output (das.txt) until the engine has ended, reports the first engine error, and on
+// closing stops the engine and cleans up. Minimising it sends it to the notification area
+// (Part 4.4).
 #pragma once
 
 #include "core/jobkind.h"
+#include "engine/consolereader.h"
+#include "trayicon.h"
 
+#include <QPointer>
 #include <QString>
+#include <QWidget>
+
+#include <memory>
+
+class QGroupBox;
+class QLineEdit;
+class QProgressBar;
+class QTimer;
 
 namespace quovara {
 
 class frmApri;
+class JobProcess;
 
 // Shows the progress window of a job whose script has been written (Archivia.bat, Estrai.bat or
 // Testing.bat in the WorkFolder), modal over the main window; returns when it has closed.
@@ -18,5 +33,119 @@ void RunJobWindow(JobKind kind, frmApri& main);
 // job's working folder is the folder that holds it. An empty `archivePath` means: the add
 // script's archive for an add job, the main window's archive otherwise.
 void RunJobWindow(JobKind kind, frmApri& main, const QString& archivePath);
+
+// Texts of the windows.
+namespace progress {
+inline constexpr char TestPassed[] = "No errors found during test operation";
+// The window's own limit to the wait for first output: the job's process has ended and das.txt
+// is still empty or absent. %1 is the job script's path.
+inline constexpr char NoOutput[] =
+    "The engine ended without writing any output, so the job cannot be followed.\n"
+    "Job script: %1";
+// The job script could not be started. %1 says why.
+inline constexpr char NotStarted[] = "The job could not be started: %1";
+} // namespace progress
+
+// One row of the job-kind table: what tells the three windows apart.
+struct ProgressKind {
+    JobKind kind;
+    const char* formName;  // object name of the window
+    const char* caption;   // "Adding ...", ...
+    const char* script;    // job script in the WorkFolder
+    const char* icon;      // the window's own icon
+    ConsoleJob lineRules;  // Part 4.1's rules for das.txt
+    bool sizesLine;        // ProgressTxt present
+    bool switchesEngine;   // a version request in the header lines switches and restarts
+    bool bodyErrorShowsMain; // an error after the header makes the main window visible again
+    const char* endMessage;  // information message at the normal end, or nullptr
+    bool undoesSwitch;       // unload undoes an engine switch
+    bool deletesTempArchive; // unload deletes UHA$0000.$$$ beside the archive
+    bool takesMainIcon;      // unload gives the window the main window's icon
+    // Layout in twips: client area, top of Frame2, top of PB inside Frame1.
+    int clientWidth, clientHeight, frame2Top, pbTop;
+};
+
+// The row of an add, extract or test job; nullptr for any other kind.
+const ProgressKind* ProgressKindOf(JobKind kind);
+
+class frmProgress : public QWidget {
+    Q_OBJECT
+public:
+    // Load: trayUsed cleared, caption, label-like text boxes, startTime = now.
+    frmProgress(const ProgressKind& kind, frmApri& main, const QString& archivePath);
+    ~frmProgress() override;
+
+    // Shows the window modally and returns when it has unloaded.
+    void exec();
+
+    const ProgressKind& kind() const { return kind_; }
+    // The archive of the job and the folder the engine works in.
+    QString archivePath() const { return archivePath_; }
+    QString workingFolder() const;
+    QString scriptPath() const { return scriptPath_; }
+    // How many times the job script has been started (a version switch starts it again).
+    int runs() const { return runs_; }
+    // The process id of the job's engine (0 before the start).
+    qint64 jobProcessId() const;
+    bool jobRunning() const;
+    bool isUnloaded() const { return unloaded_; }
+    TrayIcon& trayIcon() { return *tray_; }
+    const ProgressState& timeState() const { return time_; }
+    const ConsoleState* consoleState() const;
+
+signals:
+    // The window has unloaded: the job is over or was cut short.
+    void unloaded();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    enum class Phase { Idle, Waiting, Following, AwaitRestart, Ending };
+
+    void buildControls();
+    void Form_Activate();
+    void startJob();
+    void pollRound();
+    void showRound(const ConsoleState& state);
+    void handleError(const ConsoleState& state);
+    void restartWithSwitchedEngine();
+    void errorEnding(const QString& message, bool showMain);
+    void normalEnding();
+    void endWithMessage(const QString& message);
+    void Timer1_Timer();
+    void refreshTip();
+    void onTrayClick(TrayClick click);
+    void Form_Unload();
+    void stopFollowing();
+
+    const ProgressKind& kind_;
+    frmApri& main_;
+    QString archivePath_;
+    QString scriptPath_;
+    QString consolePath_;
+    Phase phase_ = Phase::Idle;
+    bool activated_ = false;
+    bool unloaded_ = false;
+    int runs_ = 0;
+    QString pendingVersionMessage_;
+
+    std::unique_ptr<JobProcess> job_;
+    std::unique_ptr<ConsoleReader> reader_;
+    ProgressState time_;
+    std::unique_ptr<TrayIcon> tray_;
+    QString lastTip_;
+
+    QGroupBox* Frame1 = nullptr;
+    QLineEdit* JobTxt = nullptr;
+    QLineEdit* ProgressTxt = nullptr;
+    QProgressBar* PB = nullptr;
+    QGroupBox* Frame2 = nullptr;
+    QLineEdit* TimeTxt = nullptr;
+    QTimer* Timer1 = nullptr;
+    QTimer* pollTimer_ = nullptr;
+};
 
 } // namespace quovara

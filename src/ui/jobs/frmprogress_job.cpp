@@ -1,0 +1,207 @@
+// Running the job (Activate) and following its output, without spinning: a 100 ms timer and the
+// process's end both start a round; the round after the end reads the output once more.
+#include "frmprogress.h"
+
+#include "core/jobprocess.h"
+#include "core/places.h"
+#include "engine/versionswitch.h"
+#include "ui/browser/frmapri.h"
+
+#include <QFile>
+#include <QLineEdit>
+#include <QLoggingCategory>
+#include <QProgressBar>
+#include <QTimer>
+
+Q_DECLARE_LOGGING_CATEGORY(lcJobWindow)
+
+namespace quovara {
+
+namespace {
+
+void setTextIfChanged(QLineEdit* box, const QString& text) {
+    if (box && box->text() != text) {
+        box->setText(text);
+        box->setCursorPosition(0);
+    }
+}
+
+} // namespace
+
+void frmProgress::Form_Activate() {
+    if (TrayUsed() || unloaded_)
+        return; // shown again from the notification area: the job already runs
+    startJob();
+}
+
+void frmProgress::startJob() {
+    // Step 2: what an earlier run left is deleted; the add header is read afresh.
+    consolePath_ = WorkFile(names::ConsoleOutput);
+    QFile::remove(consolePath_);
+    reader_ = std::make_unique<ConsoleReader>(kind_.lineRules, consolePath_);
+
+    // Step 4: the script starts hidden at the lowest priority (the runner's rule), in the
+    // folder that holds the archive.
+    if (job_) {
+        job_->disconnect(this);
+        job_.reset();
+    }
+    job_ = std::make_unique<JobProcess>();
+    connect(job_.get(), &JobProcess::finished, this, &frmProgress::pollRound,
+            Qt::QueuedConnection);
+    ++runs_;
+    qCDebug(lcJobWindow) << "starting" << scriptPath_ << "run" << runs_ << "in"
+                         << workingFolder();
+    if (!job_->start(scriptPath_, workingFolder())) {
+        const QString why = job_->errorText();
+        job_.reset();
+        endWithMessage(QString::fromLatin1(progress::NotStarted).arg(why));
+        return;
+    }
+    // Step 5: wait for output; step 6: follow it.
+    phase_ = Phase::Waiting;
+    pollTimer_->start();
+}
+
+void frmProgress::pollRound() {
+    if (unloaded_ || !job_)
+        return;
+    // Step 6.1: whether the job has ended is read before the file, so that the round after the
+    // end sees everything the engine wrote.
+    const bool ended = !job_->isRunning();
+    switch (phase_) {
+    case Phase::Waiting:
+        if (!FileExists(consolePath_)) {
+            if (ended) {
+                // The Part would wait here for ever; the window reports the silent engine.
+                endWithMessage(QString::fromLatin1(progress::NoOutput).arg(scriptPath_));
+            }
+            return;
+        }
+        phase_ = Phase::Following;
+        [[fallthrough]];
+    case Phase::Following: {
+        reader_->poll();
+        const ConsoleState& state = reader_->state();
+        showRound(state);
+        // An error counts once its line is complete, or when the engine has ended.
+        if (state.hasError() && (reader_->finished() || ended)) {
+            handleError(state);
+            return;
+        }
+        if (ended)
+            normalEnding();
+        return;
+    }
+    case Phase::AwaitRestart:
+        if (ended)
+            restartWithSwitchedEngine();
+        return;
+    case Phase::Idle:
+    case Phase::Ending:
+        return;
+    }
+}
+
+void frmProgress::showRound(const ConsoleState& state) {
+    setTextIfChanged(JobTxt, state.progress.jobText);
+    if (ProgressTxt)
+        setTextIfChanged(ProgressTxt, state.sizesText);
+    // The bar keeps its value when the engine's per cent lies outside its range.
+    if (state.barValue >= PB->minimum() && state.barValue <= PB->maximum() &&
+        PB->value() != state.barValue)
+        PB->setValue(state.barValue);
+    if (time_.percent != state.progress.percent) {
+        time_.percent = state.progress.percent;
+        refreshTip();
+    }
+}
+
+void frmProgress::handleError(const ConsoleState& state) {
+    const QString& m = state.errorMessage;
+    if (kind_.lineRules == ConsoleJob::Add) {
+        errorEnding(m, true);
+        return;
+    }
+    if (state.errorInHeader) {
+        if (kind_.switchesEngine && IsVersionRequest(m, main_.engineSwitch())) {
+            // Part 4.3: the other engine runs the same script once the first run has ended.
+            pendingVersionMessage_ = m;
+            phase_ = Phase::AwaitRestart;
+            if (!job_->isRunning())
+                restartWithSwitchedEngine();
+            return;
+        }
+        errorEnding(m, true); // header error ending
+        return;
+    }
+    errorEnding(m, kind_.bodyErrorShowsMain); // body error ending
+}
+
+void frmProgress::restartWithSwitchedEngine() {
+    qCDebug(lcJobWindow) << "engine version request:" << pendingVersionMessage_;
+    SwitchEngine(main_.engineSwitch(), ProgramFolder(), pendingVersionMessage_);
+    pendingVersionMessage_.clear();
+    phase_ = Phase::Idle;
+    // Activate again from step 1 (also for a window in the notification area, whose job goes
+    // on); startTime stays, so the elapsed time keeps counting.
+    startJob();
+}
+
+void frmProgress::stopFollowing() {
+    phase_ = Phase::Ending;
+    pollTimer_->stop();
+}
+
+void frmProgress::errorEnding(const QString& message, bool showMain) {
+    stopFollowing();
+    main_.prompter().critical(message);
+    if (unloaded_)
+        return; // closed while the message was up
+    if (showMain)
+        main_.setVisible(true);
+    Form_Unload();
+}
+
+void frmProgress::normalEnding() {
+    stopFollowing();
+    if (kind_.endMessage)
+        main_.prompter().information(QString::fromLatin1(kind_.endMessage));
+    if (unloaded_)
+        return;
+    main_.setVisible(true);
+    Form_Unload();
+}
+
+void frmProgress::endWithMessage(const QString& message) {
+    stopFollowing();
+    main_.prompter().critical(message);
+    if (unloaded_)
+        return;
+    main_.setVisible(true);
+    Form_Unload();
+}
+
+void frmProgress::Timer1_Timer() {
+    if (std::optional<QString> text = EstimateTime(time_, QDateTime::currentDateTime())) {
+        setTextIfChanged(TimeTxt, *text);
+        refreshTip();
+    }
+}
+
+void frmProgress::refreshTip() {
+    if (!tray_->isShown())
+        return;
+    const QString tip = TrayTipText(time_.percent, time_.remainingSeconds);
+    if (tip != lastTip_) {
+        lastTip_ = tip;
+        tray_->modify(tip);
+    }
+}
+
+void frmProgress::onTrayClick(TrayClick click) {
+    if (click == TrayClick::Left && !unloaded_)
+        RestoreFromTray(*this, main_, *tray_);
+}
+
+} // namespace quovara
