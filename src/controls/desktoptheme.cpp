@@ -1,7 +1,5 @@
 #include "controls/desktoptheme.h"
 
-#include <QCoreApplication>
-
 namespace quovara {
 
 DesktopTheme::DesktopTheme() {
@@ -16,14 +14,8 @@ DesktopTheme::DesktopTheme() {
 }
 
 DesktopTheme* DesktopTheme::instance() {
-    static DesktopTheme* theme = [] {
-        auto* t = new DesktopTheme;
-        // Lives as long as the application object.
-        if (QCoreApplication::instance())
-            t->setParent(QCoreApplication::instance());
-        return t;
-    }();
-    return theme;
+    static DesktopTheme theme;
+    return &theme;
 }
 
 void DesktopTheme::SetColorScheme(const QString& schemeName, const QString& themeFilePath) {
