@@ -1,10 +1,13 @@
-// The About window (frmInfo).
+// The About window (frmInfo), opened modally.
 #include "frmapri.h"
+
+#include "ui/jobs/frminfo.h"
 
 namespace quovara {
 
 void frmApri::showAboutWindow() {
-    notAvailable(QStringLiteral("The About window"));
+    frmInfo window(this);
+    window.exec();
 }
 
 } // namespace quovara
