@@ -8,7 +8,6 @@
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("quovara"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Quovara"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/quovara.svg")));
     // A Qt resource static library needs its resources pulled in explicitly.
     Q_INIT_RESOURCE(quovara);

@@ -19,7 +19,7 @@ namespace quovara {
 FileBrowser::FileBrowser(QWidget* parent) : QWidget(parent) {
     model_ = new QFileSystemModel(this);
     model_->setIconProvider(SharedFileIconProvider());
-    model_->setFilter(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System);
+    model_->setFilter(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::System);
     model_->setReadOnly(true);
 
     list_ = new QListView(this);
@@ -120,6 +120,13 @@ QString FileBrowser::selectedPath() const {
     if (rows.isEmpty())
         return QString();
     return QDir::toNativeSeparators(model_->filePath(rows.first()));
+}
+
+void FileBrowser::setShowHidden(bool show) {
+    QDir::Filters filter = QDir::AllEntries | QDir::NoDotAndDotDot | QDir::System;
+    if (show)
+        filter |= QDir::Hidden;
+    model_->setFilter(filter);
 }
 
 void FileBrowser::setViewMode(int mode) {

@@ -32,6 +32,10 @@ public:
     QString selectedPath() const;
     bool hasSelection() const { return !selectedPath().isEmpty(); }
 
+    // Hidden entries (names beginning with a dot) are left out of ordinary folders but shown
+    // in an archive's mirror tree, where they are entries like any other.
+    void setShowHidden(bool show);
+
     void setViewMode(int mode);
     int viewMode() const { return mode_; }
     // Goes back to the previous folder of the history (false when there is none).

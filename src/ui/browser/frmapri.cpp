@@ -233,7 +233,8 @@ frmApri::frmApri(QWidget* parent)
             selectedItem_ = item->text(1) + QLatin1Char('\\') + item->text(0);
     });
     connect(&search_, &ArchiveSearch::found, this, [this](const QString& name, const QString& in) {
-        new QTreeWidgetItem(Trovati, {name, in});
+        auto* row = new QTreeWidgetItem(Trovati, {name, in});
+        row->setIcon(0, SharedFileIconProvider()->icon(QFileInfo(name)));
     });
     connect(&search_, &ArchiveSearch::finished, this,
             [this] { setStatus(apri::Ready, apri::SelectAction); });
@@ -374,11 +375,13 @@ void frmApri::showTotals(const ArchiveTotals& t) {
 void frmApri::Uha() {
     ucToolbar1->SetButtonEnabled(IdSfx, true);
     Barra->show();
+    FileView1->setShowHidden(true);
     PopView->actions()[1]->setEnabled(false);
 }
 
 void frmApri::NoUha() {
     Barra->hide();
+    FileView1->setShowHidden(false);
     PopView->actions()[1]->setEnabled(true);
 }
 
@@ -464,8 +467,9 @@ void frmApri::StartSearch() {
     ShComboBox1->hide();
     Trovati->show();
     Trovati->clear();
-    Trovati->setColumnWidth(0, Trovati->width() / 2);
-    Trovati->setColumnWidth(1, Trovati->width() / 2);
+    // Each column takes half of the list's width.
+    Trovati->setColumnWidth(0, Trovati->viewport()->width() / 2);
+    Trovati->setColumnWidth(1, Trovati->viewport()->width() / 2);
     Stato->setText(QStringLiteral("Quovara is searching"));
     Consiglio->setText(QStringLiteral("Back stops the search"));
     search_.start(CompleteSearchPattern(TxtCerca->text()), ScratchFolder());

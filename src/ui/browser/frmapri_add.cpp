@@ -1,10 +1,31 @@
-// The Add dialog (frmAggiungi).
+// The Add dialog (frmAggiungi): its source is the browser's selected item. The job runs in the
+// add progress window (frmAdding); when it wrote the archive that the window shows, the archive
+// is listed again.
+#include "filebrowser.h"
 #include "frmapri.h"
+
+#include "ui/jobs/frmaggiungi.h"
+#include "ui/jobs/frmprogress.h"
 
 namespace quovara {
 
 void frmApri::showAddDialog() {
-    notAvailable(QStringLiteral("The Add dialog"));
+    const QString shown = archiveLayout() ? lister().listing().archivePath : QString();
+    frmAggiungi dialog([this] { return fileView()->selectedPath(); }, prompter(),
+                       [this, shown](const QString& archive) {
+                           RunJobWindow(JobKind::Add, *this, archive);
+                           if (shown.isEmpty())
+                               return;
+                           if (SamePath(shown, archive)) {
+                               relistArchive();
+                           } else {
+                               // The window still shows its archive: the commands that act on
+                               // the shown archive keep acting on it.
+                               lister().listing().archivePath = shown;
+                           }
+                       },
+                       this);
+    dialog.exec();
 }
 
 } // namespace quovara

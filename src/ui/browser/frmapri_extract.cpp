@@ -1,11 +1,27 @@
-// The Extract dialog (frmEstrai); with `forSelectedItem` it is pre-set to the selected item.
+// The Extract dialog (frmEstrai): for the archive the window shows (or that the command line
+// named), else for the ".uha" file selected in the browser. With `forSelectedItem` it is pre-set
+// to the selected item of the archive. The job runs in the extract progress window
+// (frmExtracting), in the folder that holds the archive.
+#include "filebrowser.h"
 #include "frmapri.h"
+
+#include "ui/jobs/frmestrai.h"
+#include "ui/jobs/frmprogress.h"
 
 namespace quovara {
 
 void frmApri::showExtractDialog(bool forSelectedItem) {
-    Q_UNUSED(forSelectedItem);
-    notAvailable(QStringLiteral("The Extract dialog"));
+    // The listing's archive counts only while it is shown (or was named on the command line):
+    // after the browser has left the archive, the selected file is what the user means.
+    QString archive = lister().listing().archivePath;
+    if (archive.isEmpty() || !(archiveLayout() || commandLineJob()))
+        archive = fileView()->selectedPath();
+    frmEstrai dialog(
+        archive, prompter(),
+        [this](const QString& job) { RunJobWindow(JobKind::Extract, *this, job); }, this);
+    if (forSelectedItem)
+        dialog.presetItem(selectedItem());
+    dialog.exec();
 }
 
 } // namespace quovara

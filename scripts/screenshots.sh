@@ -1,0 +1,42 @@
+#!/usr/bin/env bash
+# Takes the main window screenshots of docs/ the way a user meets the program: the real program
+# on the demonstration folder under Xvfb with a window manager, driven with xdotool.
+# Needs a build (scripts/build.sh).
+set -euo pipefail
+cd "$(dirname "$0")/.."
+if [ "${1:-}" != "--inside" ]; then
+    for p in xdotool openbox; do
+        if ! command -v "$p" >/dev/null; then
+            sudo=""
+            [ "$(id -u)" -ne 0 ] && sudo=sudo
+            $sudo apt-get install -y -qq "$p" >/dev/null
+        fi
+    done
+    bash scripts/prepare-demo.sh >/dev/null
+    exec xvfb-run -a -s "-screen 0 1280x900x24" bash "$0" --inside
+fi
+export QUOVARA_PROGRAM_DIR=$PWD/build/demo/program HOME=$PWD/build/demo
+export XDG_RUNTIME_DIR=$(mktemp -d)
+openbox >/dev/null 2>&1 &
+sleep 1
+build/bin/quovara >/dev/null 2>&1 &
+sleep 3
+W=$(xdotool search --onlyvisible --name "Quovara" | head -1)
+xdotool windowsize "$W" 980 640
+xdotool windowmove "$W" 20 20
+sleep 1
+shot() { import -window root -crop 1000x690+15+0 "$1"; }
+shot docs/main-files.png
+# Double-click sample.uha, the last row of the list.
+xdotool mousemove --window "$W" 60 177 click --repeat 2 --delay 80 1
+sleep 3
+xdotool mousemove --window "$W" 600 400
+shot docs/main-archive.png
+# Search the archive: type into the task pane's search box and press Enter.
+xdotool mousemove --window "$W" 110 297 click 1
+sleep 0.3
+xdotool type --delay 40 "*.svg"
+xdotool key Return
+sleep 2
+shot docs/main-search.png
+kill %2 %1 2>/dev/null || true
