@@ -1,0 +1,77 @@
+#!/usr/bin/env bash
+# Installs Quovara into a temporary prefix and checks the desktop integration: the program,
+# the desktop entry (accepted by desktop-file-validate), the MIME package for ".uha" files with
+# its glob and "UHA" signature, the file association and the icons.
+# Usage: check-install.sh <cmake> <build folder>. Exit 77: a needed tool is missing (skipped).
+set -uo pipefail
+cmake="$1"
+build="$2"
+
+for tool in desktop-file-validate update-mime-database; do
+    if ! command -v "$tool" >/dev/null 2>&1; then
+        echo "SKIPPED: $tool is not installed (Debian packages desktop-file-utils and" \
+             "shared-mime-info; scripts/deps.sh installs them)."
+        exit 77
+    fi
+done
+
+prefix="$(mktemp -d)"
+trap 'rm -rf "$prefix"' EXIT
+failures=0
+fail() { echo "FAILED: $*"; failures=$((failures + 1)); }
+
+if ! env -u DESTDIR "$cmake" --install "$build" --prefix "$prefix"; then
+    echo "FAILED: cmake --install (is the program built?)"
+    exit 1
+fi
+
+share="$prefix/share"
+[ -x "$prefix/bin/quovara" ] || fail "the program is not installed as bin/quovara"
+for f in applications/quovara.desktop \
+         mime/packages/quovara.xml \
+         icons/hicolor/scalable/apps/quovara.svg \
+         icons/hicolor/scalable/mimetypes/application-x-uharc.svg; do
+    [ -s "$share/$f" ] || fail "missing share/$f"
+done
+for size in 16 24 32 48 64 128 256; do
+    for f in "apps/quovara.png" "mimetypes/application-x-uharc.png"; do
+        png="$share/icons/hicolor/${size}x${size}/$f"
+        if [ ! -s "$png" ]; then
+            fail "missing ${size}x${size}/$f"
+        elif [ "$(head -c 8 "$png" | od -An -tx1 | tr -d ' \n')" != "89504e470d0a1a0a" ]; then
+            fail "${size}x${size}/$f is not a PNG file"
+        fi
+    done
+done
+
+desktop="$share/applications/quovara.desktop"
+if ! out="$(desktop-file-validate "$desktop" 2>&1)" || [ -n "$out" ]; then
+    fail "desktop-file-validate: $out"
+fi
+grep -qx 'Categories=Utility;Archiving;Compression;' "$desktop" || fail "Categories line"
+grep -qx 'MimeType=application/x-uharc;' "$desktop" || fail "MimeType line"
+grep -qx "Exec=$prefix/bin/quovara %f" "$desktop" || fail "Exec line: $(grep '^Exec=' "$desktop")"
+grep -qx 'Icon=quovara' "$desktop" || fail "Icon line"
+
+# The MIME database built from the package knows the glob and the signature.
+env -u DESTDIR update-mime-database "$share/mime" >/dev/null 2>&1 || fail "update-mime-database"
+grep -qx '50:application/x-uharc:\*\.uha' "$share/mime/globs2" ||
+    fail "glob *.uha not in globs2: $(grep uharc "$share/mime/globs2")"
+grep -qx 'application/x-uharc:application-x-uharc' "$share/mime/icons" || fail "MIME icon"
+# The compiled magic: a section for the type, then ">0=" with a two-byte length 3 and "UHA".
+if ! od -An -c "$share/mime/magic" | tr -d ' \n' | grep -q '\[50:application/x-uharc\]\\n>0=\\0003UHA\\n'; then
+    fail "signature UHA at offset 0 not in the magic file"
+fi
+
+# The association: the desktop-entry cache names Quovara for the type.
+if command -v update-desktop-database >/dev/null 2>&1; then
+    update-desktop-database "$share/applications" || fail "update-desktop-database"
+    grep -q '^application/x-uharc=.*quovara\.desktop;' "$share/applications/mimeinfo.cache" ||
+        fail "no association in mimeinfo.cache"
+fi
+
+if [ "$failures" -ne 0 ]; then
+    echo "$failures check(s) failed"
+    exit 1
+fi
+echo "Install into $prefix: program, desktop entry, MIME package and icons are in place."
