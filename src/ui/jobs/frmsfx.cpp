@@ -126,7 +126,6 @@ frmSFX::frmSFX(const QString& archivePath, QLabel* stato, QLabel* consiglio, Pro
     area->setObjectName(QStringLiteral("PageArea"));
     auto* areaLayout = new QGridLayout(area);
     areaLayout->setContentsMargins(0, 0, 0, 0);
-    area->setMinimumSize(400, 330);
 
     // Page of "General": where to extract and the programs to run.
     pic[0] = new QWidget(area);
@@ -197,6 +196,7 @@ frmSFX::frmSFX(const QString& archivePath, QLabel* stato, QLabel* consiglio, Pro
     TextLicense->setLineWrapMode(QPlainTextEdit::NoWrap);
     TextLicense->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     TextLicense->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    TextLicense->setMinimumHeight(120);
     Label4 = buddyLabel("Label4", QStringLiteral("Text to display in License &window"), TextLicense,
                         Frame4);
     auto* frame4Layout = new QVBoxLayout(Frame4);
@@ -208,6 +208,9 @@ frmSFX::frmSFX(const QString& archivePath, QLabel* stato, QLabel* consiglio, Pro
 
     areaLayout->addWidget(pic[0], 0, 0);
     areaLayout->addWidget(pic[1], 0, 0);
+    // The area keeps the size of the larger page whichever page is shown, and when none is.
+    area->setMinimumSize(
+        pic[0]->sizeHint().expandedTo(pic[1]->sizeHint()).expandedTo(QSize(400, 0)));
 
     auto* tabbed = new QFrame(this);
     tabbed->setObjectName(QStringLiteral("TabFrame"));
