@@ -19,15 +19,31 @@ constexpr char16_t kHigh[128] = {
 };
 } // namespace
 
-QString FromCp437(const QByteArray& bytes) {
-    QString out;
-    out.resize(bytes.size());
+QString FromCp437(const char* data, qsizetype size) {
+    QString out(size, Qt::Uninitialized);
     QChar* d = out.data();
-    for (qsizetype i = 0; i < bytes.size(); ++i) {
-        const unsigned char b = static_cast<unsigned char>(bytes[i]);
+    for (qsizetype i = 0; i < size; ++i) {
+        const unsigned char b = static_cast<unsigned char>(data[i]);
         d[i] = b < 0x80 ? QChar(b) : QChar(kHigh[b - 0x80]);
     }
     return out;
+}
+
+QStringList SplitEngineLines(const QString& text) {
+    QStringList lines;
+    qsizetype start = 0;
+    const qsizetype n = text.size();
+    for (qsizetype i = 0; i < n; ++i) {
+        if (text[i] == QLatin1Char('\r')) {
+            lines.append(text.mid(start, i - start));
+            if (i + 1 < n && text[i + 1] == QLatin1Char('\n'))
+                ++i;
+            start = i + 1;
+        }
+    }
+    if (start < n)
+        lines.append(text.mid(start));
+    return lines;
 }
 
 } // namespace quovara

@@ -6,6 +6,7 @@
 #include "core/prompter.h"
 #include "core/runner.h"
 #include "core/vbtext.h"
+#include "engine/grammar.h"
 
 #include <QDir>
 #include <QFile>
@@ -43,23 +44,6 @@ int Tipo(const QString& s) {
     return 0;
 }
 
-QStringList SplitEngineLines(const QString& text) {
-    QStringList lines;
-    qsizetype start = 0;
-    const qsizetype n = text.size();
-    for (qsizetype i = 0; i < n; ++i) {
-        if (text[i] == QLatin1Char('\r')) {
-            lines.append(text.mid(start, i - start));
-            if (i + 1 < n && text[i + 1] == QLatin1Char('\n'))
-                ++i;
-            start = i + 1;
-        }
-    }
-    if (start < n)
-        lines.append(text.mid(start));
-    return lines;
-}
-
 QStringList ReadEngineLines(const QString& path, bool* opened) {
     QFile file(path);
     const bool ok = file.open(QIODevice::ReadOnly);
@@ -68,20 +52,6 @@ QStringList ReadEngineLines(const QString& path, bool* opened) {
     if (!ok)
         return {};
     return SplitEngineLines(FromCp437(file.readAll()));
-}
-
-QStringList ListScriptPieces(const PathStyle& style, const QString& programFolder,
-                             const QString& workFolder, const QString& password,
-                             const QString& archivePath) {
-    const QString quote = QStringLiteral("\"");
-    QStringList pieces;
-    pieces << quote + style.join(programFolder, QStringLiteral("uharc.exe")) + quote;
-    pieces << QStringLiteral(" l -d2 -y+ -lg");
-    pieces << style.join(workFolder, QString::fromLatin1(names::ListLog)) + QStringLiteral(" ");
-    if (!password.isEmpty())
-        pieces << QStringLiteral("-pw") + quote + password + quote + QStringLiteral(" ");
-    pieces << quote + archivePath + quote;
-    return pieces;
 }
 
 QString ScanListingErrors(const QStringList& lines) {
@@ -285,8 +255,8 @@ void ArchiveLister::Batch() {
         qCDebug(lcListing) << "could not delete" << log;
     const QString script = WorkFile(names::ListScript);
     WriteJobScript(script, Preamble::List,
-                   ListScriptPieces(PathStyle::host(), ProgramFolder(), WorkFolder(),
-                                    listing_.password, listing_.archivePath));
+                   ListCommandPieces(ProgramFolder(), TempRoot(), listing_.password,
+                                     listing_.archivePath, PathStyle::host()));
     startError_.clear();
     if (!RunAndWait(script, 0, WorkFolder(), {}, &startError_))
         qCDebug(lcListing) << "list job not started:" << startError_;

@@ -6,6 +6,7 @@
 
 #include "versionswitch.h"
 
+#include "core/codepage.h"
 #include "core/places.h"
 
 #include <QString>
@@ -54,16 +55,8 @@ QString sGiveFile(const QString& s);
 // 1 when the text holds a drive ("*:\*"), 2 when it holds a separator ("*\*"), else 0.
 int Tipo(const QString& s);
 
-// Splits engine text into lines: a line ends at CR or CR LF, never at a lone LF; the last,
-// unfinished line counts too.
-QStringList SplitEngineLines(const QString& text);
 // Reads a log or console file written by the engine (code page 437) into lines.
 QStringList ReadEngineLines(const QString& path, bool* opened = nullptr);
-
-// The command pieces of the list script, for WriteJobScript with the list preamble.
-QStringList ListScriptPieces(const PathStyle& style, const QString& programFolder,
-                             const QString& workFolder, const QString& password,
-                             const QString& archivePath);
 
 // The error message in the listing log's lines: the last "ERROR:" line's text (cut before its
 // first "--"), or an engine version request, which ends the scan. Empty when there is none.

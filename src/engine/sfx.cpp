@@ -18,7 +18,7 @@
 #include <unistd.h>
 #endif
 
-Q_LOGGING_CATEGORY(lcSfx, "quovara.sfx")
+Q_LOGGING_CATEGORY(lcSfx, "quovara.sfx", QtInfoMsg)
 
 namespace quovara {
 

@@ -7,6 +7,7 @@
 #include "recording_prompter.h"
 #include "test_support.h"
 
+#include <QCoreApplication>
 #include <QLockFile>
 #include <gtest/gtest.h>
 
@@ -182,7 +183,9 @@ TEST(DesktopOpen, DefaultOpenerMapsMissingFileAndFolder) {
 
 TEST(AnotherInstanceRunning, SecondHolderIsRefused) {
     QTemporaryDir dir;
-    const QString path = dir.filePath("quovara.lock");
+    // The lock stays held until the program ends: keep it outside the temporary folder.
+    const QString path = QDir::temp().filePath(
+        QStringLiteral("quovara-test-%1.lock").arg(QCoreApplication::applicationPid()));
     QLockFile other(path);
     ASSERT_TRUE(other.tryLock(0));
     EXPECT_TRUE(AnotherInstanceRunning(path));

@@ -206,8 +206,9 @@ TEST(TerminateProcessByName, EndsOnlyTheFirstMatchWhateverItsCase) {
     QTemporaryDir dir;
     QDir(dir.path()).mkdir("a");
     QDir(dir.path()).mkdir("b");
-    const QString lower = copyOfSleep(dir.filePath("a"), "uharc.exe");
-    const QString upper = copyOfSleep(dir.filePath("b"), "UHARC.EXE");
+    // Names of this test's own, so that no other engine of the user is touched.
+    const QString lower = copyOfSleep(dir.filePath("a"), "qvtest.exe");
+    const QString upper = copyOfSleep(dir.filePath("b"), "QVTEST.EXE");
     QProcess first, second;
     first.start(lower, {"30"});
     second.start(upper, {"30"});
@@ -216,7 +217,7 @@ TEST(TerminateProcessByName, EndsOnlyTheFirstMatchWhateverItsCase) {
     const qint64 expected = std::min(first.processId(), second.processId());
     const qint64 other = std::max(first.processId(), second.processId());
 
-    EXPECT_EQ(TerminateProcessByName("UHARC.EXE"), expected);
+    EXPECT_EQ(TerminateProcessByName("QvTest.Exe"), expected);
     QProcess& ended = first.processId() == expected ? first : second;
     EXPECT_TRUE(ended.waitForFinished(5000));
     EXPECT_TRUE(alive(other));

@@ -2,6 +2,7 @@
 #include "../core/test_support.h"
 #include "core/jobscript.h"
 #include "core/places.h"
+#include "engine/grammar.h"
 #include "engine/listing.h"
 
 #include <QDirIterator>
@@ -63,23 +64,23 @@ TEST(SplitEngineLines, CrAndCrLfEndLinesButALoneLfDoesNot) {
 
 TEST(ListScript, PlainArchiveBytes) {
     const QByteArray bytes =
-        JobScriptBytes(Preamble::List, ListScriptPieces(PathStyle::windows(), "C:\\P",
-                                                        "C:\\T\\Corvana", "", "C:\\a b.uha"));
+        JobScriptBytes(Preamble::List, ListCommandPieces("C:\\P", "C:\\T", "", "C:\\a b.uha",
+                                                         PathStyle::windows()));
     EXPECT_EQ(bytes, QByteArray("cls\r\n@echo off\r\n\"C:\\P\\uharc.exe\" l -d2 -y+ "
                                 "-lgC:\\T\\Corvana\\uharc.log \"C:\\a b.uha\""));
 }
 
 TEST(ListScript, ProtectedArchiveBytes) {
     const QByteArray bytes =
-        JobScriptBytes(Preamble::List, ListScriptPieces(PathStyle::windows(), "C:\\P",
-                                                        "C:\\T\\Corvana", "pw", "C:\\a.uha"));
+        JobScriptBytes(Preamble::List, ListCommandPieces("C:\\P", "C:\\T", "pw", "C:\\a.uha",
+                                                         PathStyle::windows()));
     EXPECT_EQ(bytes, QByteArray("cls\r\n@echo off\r\n\"C:\\P\\uharc.exe\" l -d2 -y+ "
                                 "-lgC:\\T\\Corvana\\uharc.log -pw\"pw\" \"C:\\a.uha\""));
 }
 
 TEST(ListScript, HostPathsAndAPasswordWithAQuoteUnescaped) {
     const QByteArray bytes = JobScriptBytes(
-        Preamble::List, ListScriptPieces(PathStyle::host(), "/p", "/t/Corvana", "a\"b", "/a.uha"));
+        Preamble::List, ListCommandPieces("/p", "/t", "a\"b", "/a.uha", PathStyle::host()));
     EXPECT_EQ(bytes, QByteArray("cls\r\n@echo off\r\n\"/p/uharc.exe\" l -d2 -y+ "
                                 "-lg/t/Corvana/uharc.log -pw\"a\"b\" \"/a.uha\""));
 }

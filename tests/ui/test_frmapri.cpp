@@ -12,6 +12,7 @@
 
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QDirIterator>
 #include <QFileSystemModel>
 #include <QLabel>
@@ -73,7 +74,13 @@ protected:
         writeFile(src_ + "/a/b/c.txt", "c in a\\b");
         writeFile(src_ + "/a/b/dd.txt", "dd in a\\b");
         window_.setPrompter(&prompter_);
-        window_.setInstanceLockPath(places_.path() + "/quovara.lock");
+        // Locks stay held until the program ends: one of this test's own outside its folder.
+        static int count = 0;
+        lockPath_ = QDir(QCoreApplication::applicationDirPath())
+                        .filePath(QStringLiteral("quovara-test-%1-%2.lock")
+                                      .arg(QCoreApplication::applicationPid())
+                                      .arg(++count));
+        window_.setInstanceLockPath(lockPath_);
         SetDesktopOpener([this](const QString& target, const QString&, const QString&) {
             opened_ << target;
             if (target.startsWith("http"))
@@ -130,6 +137,7 @@ protected:
 
     ScopedPlaces places_;
     QString src_;
+    QString lockPath_;
     RecordingPrompter prompter_;
     QStringList opened_;
     TestApri window_;
@@ -175,7 +183,7 @@ TEST_F(MainWindow, MissingOrEmptyEngineEndsTheProgram) {
 }
 
 TEST_F(MainWindow, SecondCopyIsRefusedBeforeTouchingTheWorkFolder) {
-    QLockFile other(places_.path() + "/quovara.lock");
+    QLockFile other(lockPath_);
     ASSERT_TRUE(other.tryLock(0));
     QDir().mkpath(WorkFolder());
     writeFile(WorkFile(names::ListLog), "the first copy's log");
