@@ -65,7 +65,6 @@ QPushButton* linkButton(const QString& caption, const char* name, QWidget* paren
 QLabel* label(const QString& caption, const char* name, QWidget* parent) {
     auto* l = new QLabel(caption, parent);
     l->setObjectName(QLatin1String(name));
-    l->setTextInteractionFlags(Qt::TextSelectableByMouse);
     return l;
 }
 
