@@ -14,6 +14,10 @@ void frmApri::showAddDialog() {
     frmAggiungi dialog([this] { return fileView()->selectedPath(); }, prompter(),
                        [this, shown](const QString& archive) {
                            RunJobWindow(JobKind::Add, *this, archive);
+                           // A job asked for on the command line ends the program: the main
+                           // window that the progress window brings back stays hidden.
+                           if (commandLineJob())
+                               hide();
                            if (shown.isEmpty())
                                return;
                            if (SamePath(shown, archive)) {

@@ -18,7 +18,14 @@ void frmApri::showExtractDialog(bool forSelectedItem) {
         archive = fileView()->selectedPath();
     frmEstrai dialog(
         archive, prompter(),
-        [this](const QString& job) { RunJobWindow(JobKind::Extract, *this, job); }, this);
+        [this](const QString& job) {
+            RunJobWindow(JobKind::Extract, *this, job);
+            // A job asked for on the command line ends the program: the main window that the
+            // progress window brings back stays hidden.
+            if (commandLineJob())
+                hide();
+        },
+        this);
     if (forSelectedItem)
         dialog.presetItem(selectedItem());
     dialog.exec();

@@ -1,0 +1,273 @@
+#include "frmestrai.h"
+
+#include "core/places.h"
+#include "core/prompter.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QDir>
+#include <QFileInfo>
+#include <QFileSystemModel>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLoggingCategory>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+Q_LOGGING_CATEGORY(lcExtractDialog, "quovara.dialog.extract", QtInfoMsg)
+
+namespace quovara {
+
+namespace {
+
+template <typename W> W* named(W* widget, const char* name) {
+    widget->setObjectName(QLatin1String(name));
+    return widget;
+}
+
+QString text(const char* latin1) {
+    return QString::fromLatin1(latin1);
+}
+
+} // namespace
+
+frmEstrai::frmEstrai(const QString& archivePath, Prompter& prompter, JobHandOver handOver,
+                     QWidget* parent)
+    : QDialog(parent), prompter_(prompter), handOver_(std::move(handOver)),
+      ArchivePath(archivePath) {
+    setObjectName(QStringLiteral("frmEstrai"));
+    setWindowTitle(text(estrai::DesignCaption));
+    buildControls();
+    Form_Load();
+}
+
+frmEstrai::~frmEstrai() = default;
+
+void frmEstrai::buildControls() {
+    Label2 = named(new QLabel(text(estrai::ExtractTo), this), "Label2");
+    TxTDir = named(new QLineEdit(this), "TxTDir");
+    TxTDir->setAccessibleName(text(estrai::ExtractTo));
+    Label2->setBuddy(TxTDir);
+
+    // The folder tree: every folder of the file system, from the root, folders only.
+    folders_ = new QFileSystemModel(this);
+    folders_->setObjectName(QStringLiteral("FolderModel"));
+    folders_->setFilter(QDir::AllDirs | QDir::NoDotAndDotDot | QDir::Drives);
+    // Writable so that a new folder can be renamed in place; the tree opens no editor itself.
+    folders_->setReadOnly(false);
+    folders_->setRootPath(QString());
+    FolderView1 = named(new QTreeView(this), "FolderView1");
+    FolderView1->setAccessibleName(QStringLiteral("Folders"));
+    FolderView1->setModel(folders_);
+    FolderView1->setHeaderHidden(true);
+    for (int column = 1; column < folders_->columnCount(); ++column)
+        FolderView1->hideColumn(column);
+    FolderView1->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    FolderView1->setSelectionMode(QAbstractItemView::SingleSelection);
+    FolderView1->setMinimumSize(260, 300);
+    connect(FolderView1->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this](const QModelIndex& current) { FolderView1_FolderClick(current); });
+    // A new folder renamed in place: the box follows the selected folder's new name.
+    connect(folders_, &QFileSystemModel::fileRenamed, this,
+            [this](const QString& path, const QString& oldName, const QString& newName) {
+                if (SamePath(QDir(path).filePath(oldName), TxTDir->text()))
+                    TxTDir->setText(QDir::toNativeSeparators(QDir(path).filePath(newName)));
+            });
+
+    Command1 = named(new QPushButton(text(estrai::CreateNewFolder), this), "Command1");
+    Command1->setAutoDefault(false);
+
+    // "Extract files to current dir" stands alone in its option group: once chosen it cannot
+    // be cleared.
+    auto* currentDir = new QWidget(this);
+    currentDir->setObjectName(QStringLiteral("CurrentDirGroup"));
+    Option1 = named(new QRadioButton(text(estrai::ToCurrentDir), currentDir), "Option1");
+    auto* currentDirGroup = new QButtonGroup(currentDir);
+    currentDirGroup->setExclusive(true);
+    currentDirGroup->addButton(Option1);
+    auto* currentDirRow = new QHBoxLayout(currentDir);
+    currentDirRow->setContentsMargins(0, 0, 0, 0);
+    currentDirRow->addWidget(Option1);
+
+    Frame1 = named(new QGroupBox(text(estrai::Option), this), "Frame1");
+    Check3 = named(new QCheckBox(text(estrai::FullPath)), "Check3");
+    Check2 = named(new QCheckBox(text(dialogtext::Password)), "Check2");
+    TxTPwd = named(new QLineEdit(), "TxTPwd");
+    TxTPwd->setAccessibleName(text(dialogtext::Password));
+    TxTPwd->setEchoMode(QLineEdit::Password);
+    TxTPwd->setStyleSheet(QStringLiteral("QLineEdit { lineedit-password-character: 42; }"));
+    Check1 = named(new QCheckBox(text(estrai::Overwrite)), "Check1");
+    auto* options = new QGridLayout(Frame1);
+    options->setColumnMinimumWidth(0, 18);
+    options->addWidget(Check3, 0, 0, 1, 2);
+    options->addWidget(Check2, 1, 0, 1, 2);
+    options->addWidget(TxTPwd, 2, 1);
+    options->addWidget(Check1, 3, 0, 1, 2);
+    options->setColumnStretch(1, 1);
+
+    files_ = BuildFileChoiceFrame("Frame2", text(estrai::FileTypes), this);
+
+    Command2 = named(new QPushButton(text(estrai::Ok), this), "Command2");
+    Command2->setDefault(true);
+    Command3 = named(new QPushButton(text(estrai::Cancel), this), "Command3");
+    Command3->setAutoDefault(false);
+
+    auto* left = new QVBoxLayout();
+    left->addWidget(Label2);
+    left->addWidget(TxTDir);
+    left->addWidget(FolderView1, 1);
+    auto* folderRow = new QHBoxLayout();
+    folderRow->addWidget(Command1);
+    folderRow->addStretch(1);
+    left->addLayout(folderRow);
+    left->addWidget(currentDir);
+
+    auto* right = new QVBoxLayout();
+    right->addWidget(Frame1);
+    right->addWidget(files_.Frame);
+    right->addStretch(1);
+    auto* buttons = new QHBoxLayout();
+    buttons->addStretch(1);
+    buttons->addWidget(Command2);
+    buttons->addWidget(Command3);
+    right->addLayout(buttons);
+
+    auto* layout = new QHBoxLayout(this);
+    layout->addLayout(left, 1);
+    layout->addSpacing(6);
+    layout->addLayout(right, 1);
+
+    QList<QWidget*> order{TxTDir, FolderView1, Command1, Option1, Check3, Check2, TxTPwd, Check1};
+    order += files_.tabOrder();
+    order += QList<QWidget*>{Command2, Command3};
+    ChainTabOrder(order);
+
+    connect(Command1, &QPushButton::clicked, this, &frmEstrai::Command1_Click);
+    connect(Check2, &QCheckBox::clicked, this, &frmEstrai::Check2_Click);
+    connect(Command2, &QPushButton::clicked, this, &frmEstrai::Command2_Click);
+    connect(Command3, &QPushButton::clicked, this, &frmEstrai::Command3_Click);
+}
+
+void frmEstrai::Form_Load() {
+    setWindowTitle(text(estrai::CaptionPrefix) + ArchivePath);
+    TxTPwd->setEnabled(false);
+    // The tree starts at the folder that holds the archive (the home folder when that cannot
+    // be shown).
+    const QFileInfo archive(ArchivePath);
+    if (ArchivePath.isEmpty() || !archive.absoluteDir().exists() ||
+        !folders_->index(archive.absolutePath()).isValid())
+        selectFolder(QDir::homePath());
+    else
+        selectFolder(archive.absolutePath());
+    TxTDir->setText(selectedFolder());
+}
+
+void frmEstrai::presetItem(const QString& item) {
+    files_.OpFileType->setChecked(true);
+    files_.TxtFileType->setText(item);
+}
+
+void frmEstrai::selectFolder(const QString& folder) {
+    const QModelIndex index = folders_->index(QDir::fromNativeSeparators(folder));
+    if (!index.isValid()) {
+        qCDebug(lcExtractDialog) << "folder not shown in the tree:" << folder;
+        return;
+    }
+    FolderView1->setCurrentIndex(index);
+    FolderView1->scrollTo(index);
+}
+
+QString frmEstrai::selectedFolder() const {
+    const QModelIndex current = FolderView1->currentIndex();
+    if (!current.isValid())
+        return QString();
+    return QDir::toNativeSeparators(folders_->filePath(current));
+}
+
+void frmEstrai::FolderView1_FolderClick(const QModelIndex& index) {
+    if (index.isValid())
+        TxTDir->setText(QDir::toNativeSeparators(folders_->filePath(index)));
+}
+
+void frmEstrai::Command1_Click() {
+    CreateNewFolder(true);
+}
+
+void frmEstrai::CreateNewFolder(bool editName) {
+    const QModelIndex parent = FolderView1->currentIndex();
+    if (!parent.isValid()) {
+        qCDebug(lcExtractDialog) << "no folder selected to create a new folder in";
+        return;
+    }
+    const QDir dir(folders_->filePath(parent));
+    QString name = text(estrai::NewFolderName);
+    for (int n = 2; dir.exists(name); ++n)
+        name = text(estrai::NewFolderName) + QStringLiteral(" (%1)").arg(n);
+    const QModelIndex made = folders_->mkdir(parent, name);
+    if (!made.isValid()) {
+        qCDebug(lcExtractDialog) << "could not create" << dir.filePath(name);
+        prompter_.exclamation(QStringLiteral("The new folder could not be created in ") +
+                              QDir::toNativeSeparators(dir.path()));
+        return;
+    }
+    FolderView1->expand(parent);
+    FolderView1->setCurrentIndex(made);
+    FolderView1->scrollTo(made);
+    if (editName) {
+        FolderView1->setFocus();
+        FolderView1->edit(made);
+    }
+}
+
+void frmEstrai::Check2_Click() {
+    TxTPwd->setEnabled(Check2->isChecked());
+}
+
+ExtractOptions frmEstrai::options() const {
+    ExtractOptions o;
+    o.toCurrentDir = Option1->isChecked();
+    o.fullPath = Check3->isChecked();
+    o.destination = Destination;
+    o.overwrite = Check1->isChecked();
+    o.passwordTicked = Check2->isChecked();
+    o.password = Password;
+    o.archive = ArchivePath;
+    o.choice = files_.choice();
+    o.fileTypes = files_.TxtFileType->text();
+    o.listFile = files_.TxtFileList->text();
+    o.excludeTicked = files_.ChkExclude->isChecked();
+    o.exclude = files_.TxtExclude->text();
+    return o;
+}
+
+void frmEstrai::Command2_Click() {
+    Password = TxTPwd->text();
+    // The destination is the tree's selection, never what stands in TxTDir; a root loses its
+    // separator (C:\ becomes C:).
+    Destination = selectedFolder();
+    if (Destination.endsWith(PathStyle::host().sep))
+        Destination.chop(1);
+    MakeDir(WorkFolder());
+    const QString script = WorkFile(names::ExtractScript);
+    if (!WriteExtractJobScript(script, options(), ProgramFolder(), TempRoot(), PathStyle::host())) {
+        qCDebug(lcExtractDialog) << "extract script not written:" << script;
+        prompter_.critical(text(estrai::ScriptNotWritten) + QLatin1Char('\n') + script);
+        return;
+    }
+    hide();
+    if (handOver_)
+        handOver_(ArchivePath);
+    accept();
+}
+
+void frmEstrai::Command3_Click() {
+    reject();
+}
+
+} // namespace quovara

@@ -1,0 +1,102 @@
+// frmEstrai: the Extract dialog. It turns the user's choices into the extract job script
+// (Estrai.bat in the WorkFolder) and hands over to the job that runs it. The destination is the
+// folder selected in the folder tree `FolderView1`; `TxTDir` only shows it.
+#pragma once
+
+#include "frmaggiungi_shared.h"
+
+#include <QDialog>
+
+class QCheckBox;
+class QFileSystemModel;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QModelIndex;
+class QPushButton;
+class QRadioButton;
+class QTreeView;
+
+namespace quovara {
+
+class Prompter;
+
+// Texts of the Extract dialog.
+namespace estrai {
+inline constexpr char DesignCaption[] = "Extract";
+inline constexpr char CaptionPrefix[] = "Extract ";
+inline constexpr char ExtractTo[] = "Extract To:";
+inline constexpr char CreateNewFolder[] = "Create New Folder";
+inline constexpr char ToCurrentDir[] = "Extract files to current dir";
+inline constexpr char Option[] = "Option";
+inline constexpr char FullPath[] = "Extract files with full path";
+inline constexpr char Overwrite[] = "Overwrite files";
+inline constexpr char FileTypes[] = "Only These Files:  (e.g: *.dll,*.exe)";
+inline constexpr char Ok[] = "OK";
+inline constexpr char Cancel[] = "Cancel";
+// The name a new folder gets before the user renames it ("New Folder (2)" and so on when
+// taken).
+inline constexpr char NewFolderName[] = "New Folder";
+inline constexpr char ScriptNotWritten[] = "The job script could not be written:";
+} // namespace estrai
+
+class frmEstrai : public QDialog {
+    Q_OBJECT
+public:
+    // `archivePath` is the archive to extract, fixed for the dialog's life. Messages go to
+    // `prompter`. After the script has been written the dialog hides itself and calls
+    // `handOver` with the archive.
+    frmEstrai(const QString& archivePath, Prompter& prompter, JobHandOver handOver,
+              QWidget* parent = nullptr);
+    ~frmEstrai() override;
+
+    // The pre-set for one item of the archive: "Only These Files" chosen with the item as the
+    // pattern.
+    void presetItem(const QString& item);
+
+    // Selects `folder` in the folder tree (as a click on it would).
+    void selectFolder(const QString& folder);
+    // The path of the folder selected in the tree (native separators), empty when none.
+    QString selectedFolder() const;
+
+    // The handlers of the controls.
+    void Form_Load();
+    void FolderView1_FolderClick(const QModelIndex& index);
+    void Command1_Click(); // "Create New Folder"
+    void Check2_Click();
+    void Command2_Click(); // "OK"
+    void Command3_Click(); // "Cancel"
+
+    const QString& archivePath() const { return ArchivePath; }
+
+private:
+    void buildControls();
+    // Makes a new folder under the selected one and selects it; with `editName` its name is
+    // opened for editing in the tree.
+    void CreateNewFolder(bool editName);
+    ExtractOptions options() const;
+
+    Prompter& prompter_;
+    JobHandOver handOver_;
+
+    QString ArchivePath;
+    QString Destination;
+    QString Password;
+
+    QLabel* Label2 = nullptr;
+    QLineEdit* TxTDir = nullptr;
+    QTreeView* FolderView1 = nullptr;
+    QFileSystemModel* folders_ = nullptr;
+    QPushButton* Command1 = nullptr;
+    QRadioButton* Option1 = nullptr;
+    QGroupBox* Frame1 = nullptr;
+    QCheckBox* Check3 = nullptr;
+    QCheckBox* Check2 = nullptr;
+    QLineEdit* TxTPwd = nullptr;
+    QCheckBox* Check1 = nullptr;
+    FileChoiceControls files_;
+    QPushButton* Command2 = nullptr;
+    QPushButton* Command3 = nullptr;
+};
+
+} // namespace quovara

@@ -1,0 +1,190 @@
+// The main window's hooks that open the Add and Extract dialogs: the request words of the
+// command line, the toolbar and the task pane, with the jobs run by the progress windows against
+// the stand-in engine.
+#include "dialog_test_support.h"
+
+#include "ui/browser/filebrowser.h"
+#include "ui/browser/frmapri.h"
+#include "ui/jobs/frmaggiungi.h"
+#include "ui/jobs/frmestrai.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QLabel>
+#include <QProcess>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTimer>
+
+using namespace quovara;
+using namespace quovara::testing;
+
+namespace {
+
+const QString kSix = QStringLiteral(QUOVARA_STANDIN_06);
+const QString kFour = QStringLiteral(QUOVARA_STANDIN_04);
+
+// Runs `act` on the window of type T as soon as it is shown (the caller is about to enter its
+// modal loop).
+template <typename T> void whenShown(std::function<void(T*)> act) {
+    auto* timer = new QTimer();
+    timer->setInterval(20);
+    QObject::connect(timer, &QTimer::timeout, [timer, act] {
+        for (QWidget* w : QApplication::topLevelWidgets()) {
+            auto* window = qobject_cast<T*>(w);
+            if (window && window->isVisible()) {
+                timer->stop();
+                timer->deleteLater();
+                act(window);
+                return;
+            }
+        }
+    });
+    timer->start();
+}
+
+class DialogHooks : public ::testing::Test {
+protected:
+    void SetUp() override {
+        QFile::copy(kFour, places_.programFolder() + "/uharc.exe");
+        QFile::copy(kSix, places_.programFolder() + "/Uharc0.6.fns");
+        src_ = places_.path() + "/data";
+        QDir().mkpath(src_ + "/a");
+        writeFile(src_ + "/root.txt", "root file");
+        writeFile(src_ + "/a/d.txt", "d in a");
+        window_.setPrompter(&prompter_);
+        window_.setInstanceLockPath(places_.path() + "/quovara.lock");
+    }
+
+    QString makeArchive(const QString& name) {
+        const QString archive = places_.path() + "/" + name;
+        QProcess p;
+        p.setWorkingDirectory(src_);
+        p.start(kSix, QStringList{"a", "-r+", "-y+", archive, "*"});
+        EXPECT_TRUE(p.waitForFinished(30000));
+        EXPECT_EQ(p.exitCode(), 0);
+        return archive;
+    }
+
+    // Selects `path` in the main window's browser.
+    void selectInBrowser(const QString& path) {
+        window_.fileView()->setFolder(QFileInfo(path).absolutePath());
+        window_.fileView()->selectFile(QFileInfo(path).fileName());
+        ASSERT_TRUE(QTest::qWaitFor(
+            [&] { return SamePath(window_.fileView()->selectedPath(), path); }, 10000));
+    }
+
+    ScopedPlaces places_;
+    RecordingPrompter prompter_;
+    QString src_;
+    frmApri window_;
+};
+
+} // namespace
+
+TEST_F(DialogHooks, TheAddRequestWordOpensOnlyTheAddDialogAndTheProgramEnds) {
+    QString caption;
+    QString proposed;
+    whenShown<frmAggiungi>([&](frmAggiungi* d) {
+        caption = d->windowTitle();
+        proposed = control<QLineEdit>(d, "Text1")->text();
+        click(control<QPushButton>(d, "Command3"));
+    });
+    EXPECT_FALSE(window_.Form_Load("add  " + src_));
+    EXPECT_TRUE(window_.commandLineJob());
+    EXPECT_FALSE(window_.isVisible());
+    EXPECT_EQ(caption, "Add " + src_);
+    EXPECT_EQ(proposed, src_ + ".uha");
+    // The job ran in its progress window: the archive is there and holds the folder.
+    EXPECT_TRUE(QFileInfo(src_ + ".uha").isFile());
+    EXPECT_TRUE(prompter_.shown.isEmpty()) << prompter_.shown.join('|').toStdString();
+}
+
+TEST_F(DialogHooks, TheExtractRequestWordOpensOnlyTheExtractDialogAndTheProgramEnds) {
+    const QString archive = makeArchive("x.uha");
+    QString caption;
+    whenShown<frmEstrai>([&](frmEstrai* d) {
+        caption = d->windowTitle();
+        click(control<QRadioButton>(d, "Option1"));
+        click(control<QCheckBox>(d, "Check3"));
+        click(control<QPushButton>(d, "Command2"));
+    });
+    EXPECT_FALSE(window_.Form_Load("extract  " + archive));
+    EXPECT_FALSE(window_.isVisible());
+    EXPECT_EQ(caption, "Extract " + archive);
+    // "Extract files to current dir": the job works in the archive's folder.
+    EXPECT_EQ(readAll(places_.path() + "/root.txt"), "root file");
+    EXPECT_EQ(readAll(places_.path() + "/a/d.txt"), "d in a");
+    EXPECT_TRUE(prompter_.shown.isEmpty()) << prompter_.shown.join('|').toStdString();
+}
+
+TEST_F(DialogHooks, ExtractFromTheBrowserTakesTheSelectedArchiveNotAnOldOne) {
+    const QString archive = makeArchive("picked.uha");
+    ASSERT_TRUE(window_.Form_Load(QString()));
+    window_.lister().listing().archivePath = places_.path() + "/listed-before.uha";
+    selectInBrowser(archive);
+    QString caption;
+    whenShown<frmEstrai>([&](frmEstrai* d) {
+        caption = d->windowTitle();
+        click(control<QPushButton>(d, "Command3"));
+    });
+    window_.ButtonClick(4);
+    EXPECT_EQ(caption, "Extract " + archive);
+    EXPECT_FALSE(QFile::exists(WorkFile(names::ExtractScript)));
+}
+
+TEST_F(DialogHooks, ExtractSelectedItemPresetsTheItem) {
+    const QString archive = makeArchive("shown.uha");
+    ASSERT_TRUE(window_.Form_Load(QString()));
+    window_.OpenItem(archive);
+    ASSERT_TRUE(window_.archiveLayout());
+    selectInBrowser(ScratchFolder() + "/root.txt");
+    ASSERT_EQ(window_.selectedItem(), "root.txt");
+    bool preset = false;
+    QString caption;
+    whenShown<frmEstrai>([&](frmEstrai* d) {
+        caption = d->windowTitle();
+        preset = control<QRadioButton>(d, "OpFileType")->isChecked() &&
+                 control<QLineEdit>(d, "TxtFileType")->text() == "root.txt";
+        click(control<QPushButton>(d, "Command3"));
+    });
+    control<QPushButton>(&window_, "EstFile")->click();
+    EXPECT_EQ(caption, "Extract " + archive);
+    EXPECT_TRUE(preset);
+}
+
+TEST_F(DialogHooks, AnAddToTheShownArchiveListsItAgain) {
+    const QString archive = makeArchive("grow.uha");
+    ASSERT_TRUE(window_.Form_Load(QString()));
+    window_.OpenItem(archive);
+    ASSERT_TRUE(window_.archiveLayout());
+    EXPECT_EQ(control<QLabel>(&window_, "NomeAr")->text(), "Files: 2");
+    const QString extra = places_.path() + "/extra.txt";
+    writeFile(extra, "one more");
+    // The browser shows the archive; its selection is the source of the add.
+    selectInBrowser(ScratchFolder() + "/root.txt");
+    whenShown<frmAggiungi>([&](frmAggiungi* d) {
+        typeInto(control<QLineEdit>(d, "Text1"), archive);
+        click(control<QPushButton>(d, "Command3"));
+    });
+    window_.ButtonClick(3);
+    EXPECT_TRUE(window_.archiveLayout());
+    EXPECT_EQ(control<QLabel>(&window_, "NomeAr")->text(), "Files: 3");
+    EXPECT_EQ(window_.lister().listing().archivePath, archive);
+}
+
+TEST_F(DialogHooks, AnAddToAnotherArchiveKeepsTheShownOne) {
+    const QString archive = makeArchive("kept.uha");
+    ASSERT_TRUE(window_.Form_Load(QString()));
+    window_.OpenItem(archive);
+    selectInBrowser(ScratchFolder() + "/root.txt");
+    const QString other = places_.path() + "/other.uha";
+    whenShown<frmAggiungi>([&](frmAggiungi* d) {
+        typeInto(control<QLineEdit>(d, "Text1"), other);
+        click(control<QPushButton>(d, "Command3"));
+    });
+    window_.ButtonClick(3);
+    EXPECT_TRUE(QFileInfo(other).isFile());
+    EXPECT_EQ(control<QLabel>(&window_, "NomeAr")->text(), "Files: 2");
+    EXPECT_EQ(window_.lister().listing().archivePath, archive);
+}
