@@ -73,6 +73,13 @@ void frmEstrai::buildControls() {
     FolderView1->setMinimumSize(260, 300);
     connect(FolderView1->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& current) { FolderView1_FolderClick(current); });
+    // The selected folder is brought into view once the folders above it have been read.
+    connect(folders_, &QFileSystemModel::directoryLoaded, this, [this](const QString& loaded) {
+        const QString current = folders_->filePath(FolderView1->currentIndex());
+        if (!current.isEmpty() && (current == loaded || current.startsWith(loaded + '/') ||
+                                   (loaded == QLatin1String("/") && current.startsWith(loaded))))
+            FolderView1->scrollTo(FolderView1->currentIndex(), QAbstractItemView::PositionAtCenter);
+    });
     // A new folder renamed in place: the box follows the selected folder's new name.
     connect(folders_, &QFileSystemModel::fileRenamed, this,
             [this](const QString& path, const QString& oldName, const QString& newName) {
