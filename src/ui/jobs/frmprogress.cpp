@@ -137,8 +137,11 @@ frmProgress::~frmProgress() {
 }
 
 void frmProgress::buildControls() {
-    // The look of the original's 8-point dialog font: 13 pixels a line.
+    // The look of the original's 8-point dialog font (13 pixels a line): a sans-serif face of
+    // Arial's widths where the desktop has one.
     QFont f = font();
+    f.setFamilies({QStringLiteral("Liberation Sans"), QStringLiteral("Arial"),
+                   QStringLiteral("Nimbus Sans"), QStringLiteral("Helvetica"), f.family()});
     f.setPixelSize(11);
     setFont(f);
     setFixedSize(px(kind_.clientWidth), px(kind_.clientHeight));
@@ -166,6 +169,14 @@ void frmProgress::buildControls() {
     TimeTxt = textBox("TimeTxt", Frame2, QRect(120, 240, 4575, 285));
     TimeTxt->setText(QString::fromLatin1(InitialTimeText));
     TimeTxt->setCursorPosition(0);
+    // The time line was made to fit its box: with a wider face the box's font is made smaller
+    // until it does (down to 9 pixels).
+    QFont timeFont = f;
+    const int room = TimeTxt->width() - 8;
+    while (timeFont.pixelSize() > 9 &&
+           QFontMetrics(timeFont).horizontalAdvance(TimeTxt->text()) > room)
+        timeFont.setPixelSize(timeFont.pixelSize() - 1);
+    TimeTxt->setFont(timeFont);
 }
 
 QString frmProgress::workingFolder() const {
@@ -222,9 +233,15 @@ void frmProgress::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange && isMinimized() && !unloaded_) {
         if (tray_->isAvailable()) {
-            HideToTray(*this, main_, *tray_);
-            lastTip_.clear();
-            refreshTip();
+            // Once the change is complete: QWidget::showMinimized() shows the window after
+            // setting the state.
+            QTimer::singleShot(0, this, [this] {
+                if (!isMinimized() || unloaded_ || tray_->isShown())
+                    return;
+                HideToTray(*this, main_, *tray_);
+                lastTip_.clear();
+                refreshTip();
+            });
         } else {
             // No notification area: the window stays an ordinary minimised window that the
             // desktop can bring back (hiding it would leave no way back).

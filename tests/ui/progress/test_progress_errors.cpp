@@ -1,0 +1,258 @@
+// Endings other than the plain one: engine errors in the header and after it, the engine
+// version request (switch, second run, undo), a window closed during its job, an engine that
+// writes nothing, a job that cannot start.
+#include "progress_fixture.h"
+
+#include "core/places.h"
+
+#include <QDir>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QTest>
+#include <gtest/gtest.h>
+
+using namespace quovara;
+using namespace quovara::testing;
+
+namespace {
+
+const QString kCantRead =
+    QStringLiteral(" Can't read from archive file / Unexpected end of file (maybe corrupt)");
+
+class ProgressErrors : public ::testing::Test {
+protected:
+    // An archive whose stored data of f02.bin is damaged (stored, not packed, so its bytes
+    // can be found and changed).
+    QString damagedArchive() {
+        bench.makeSource(5, 20000);
+        const QString archive = bench.makeArchive(kSix, "damaged.uha", {"-m0"});
+        QByteArray bytes = readAll(archive);
+        const QByteArray content = readAll(bench.src + "/f02.bin");
+        const qsizetype at = bytes.indexOf(content.left(64));
+        EXPECT_GT(at, 0);
+        bytes[at + 100] = bytes[at + 100] == 'x' ? 'y' : 'x';
+        writeFile(archive, bytes);
+        return archive;
+    }
+
+    JobBench bench;
+};
+
+} // namespace
+
+TEST_F(ProgressErrors, ATestThatFindsDamageShowsTheErrorAndNotTheSuccessMessage) {
+    const QString archive = damagedArchive();
+    bench.writeTestScript(archive);
+    bench.main->show();
+    frmProgress* w = bench.open(JobKind::Test);
+    ASSERT_TRUE(bench.waitUnloaded(w));
+    EXPECT_EQ(bench.prompter.shown, QStringList({"critical:  CRC-failure (file \"f02.bin\")"}));
+    EXPECT_FALSE(QFile::exists(WorkFile(names::ConsoleOutput)));
+}
+
+TEST_F(ProgressErrors, AnErrorAfterTheHeaderLeavesAHiddenMainWindowHidden) {
+    const QString archive = damagedArchive();
+    bench.writeExtractScript(archive, bench.places.path() + "/dest");
+    bench.main->hide();
+    frmProgress* w = bench.open(JobKind::Extract);
+    ASSERT_TRUE(bench.waitUnloaded(w));
+    EXPECT_EQ(bench.prompter.shown, QStringList({"critical:  CRC-failure (file \"f02.bin\")"}));
+    EXPECT_FALSE(bench.main->isVisible());
+}
+
+TEST_F(ProgressErrors, AnAddErrorMakesTheMainWindowVisible) {
+    bench.makeSource(2, 100);
+    // An existing archive made by the other version: the add window shows the request as an
+    // error and never switches.
+    const QString archive = bench.makeArchive(kFour, "four.uha");
+    bench.writeAddScript(archive);
+    bench.main->hide();
+    frmProgress* w = bench.open(JobKind::Add);
+    ASSERT_TRUE(bench.waitUnloaded(w));
+    EXPECT_EQ(bench.prompter.shown,
+              QStringList({"critical:  Archive was created by another version --> use UHARC "
+                           "version 0.4"}));
+    EXPECT_TRUE(bench.main->isVisible());
+    EXPECT_FALSE(bench.main->engineSwitch().engineSwitched);
+    EXPECT_EQ(w->runs(), 1);
+    EXPECT_EQ(readAll(bench.programFile("uharc.exe")), readAll(kSix));
+}
+
+TEST_F(ProgressErrors, AWrongPasswordIsAHeaderErrorAndShowsTheMainWindow) {
+    bench.makeSource(3, 5000);
+    const QString archive = bench.makeArchive(kSix, "locked.uha", {"-pwsecret"});
+    bench.writeExtractScript(archive, bench.places.path() + "/dest", "wrong");
+    bench.main->hide();
+    frmProgress* w = bench.open(JobKind::Extract);
+    ASSERT_TRUE(bench.waitUnloaded(w));
+    EXPECT_EQ(bench.prompter.shown, QStringList({"critical: " + kCantRead}));
+    EXPECT_TRUE(bench.main->isVisible());
+    EXPECT_FALSE(QFile::exists(bench.places.path() + "/dest/f00.bin"));
+}
+
+TEST_F(ProgressErrors, AMissingPasswordShowsTheMessageCutBeforeItsPointer) {
+    bench.makeSource(1, 500);
+    const QString archive = bench.makeArchive(kSix, "locked.uha", {"-pwsecret"});
+    bench.writeTestScript(archive); // the test script never carries a password
+    frmProgress* w = bench.open(JobKind::Test);
+    ASSERT_TRUE(bench.waitUnloaded(w));
+    EXPECT_EQ(bench.prompter.shown,
+              QStringList({"critical:  Archive requires a password to access "}));
+}
+
+TEST_F(ProgressErrors, AnOldArchiveSwitchesTheEngineRunsAgainAndUndoesAtClose) {
+    bench.makeSource(6, 20000);
+    const QString archive = bench.makeArchive(kFour, "four.uha");
+    bench.writeExtractScript(archive, bench.places.path() + "/dest");
+    bench.setDelay(350);
+    frmProgress* w = bench.open(JobKind::Extract);
+    const QDateTime start = w->timeState().startTime;
+    // The second run works with the 0.4 engine in place.
+    ASSERT_TRUE(WaitFor([&] { return w->runs() == 2; }));
+    const QDateTime secondRun = QDateTime::currentDateTime();
+    EXPECT_TRUE(bench.main->engineSwitch().engineSwitched);
+    EXPECT_EQ(bench.main->engineSwitch().switchedVersion, "0.4");
+    EXPECT_EQ(readAll(bench.programFile("uharc.exe")), readAll(kFour));
+    EXPECT_EQ(readAll(bench.programFile("Uharc0.6.fns")), readAll(kSix));
+    auto* time = w->findChild<QLineEdit*>("TimeTxt");
+    ASSERT_TRUE(bench.waitUnloaded(w));
+
+    EXPECT_TRUE(bench.prompter.shown.isEmpty()) << bench.prompter.shown.join('|').toStdString();
+    EXPECT_TRUE(QFileInfo(bench.places.path() + "/dest/f05.bin").isFile());
+    // The elapsed time counts from the window's load, before the first run.
+    EXPECT_EQ(w->timeState().startTime, start);
+    EXPECT_LE(start, secondRun);
+    EXPECT_GE(w->timeState().elapsedSeconds, 1);
+    EXPECT_TRUE(time->text().contains("Elapsed: 00:00:0"));
+    // Undone at unload: 0.6 active again, 0.4 stored again, nothing parked.
+    EXPECT_FALSE(bench.main->engineSwitch().engineSwitched);
+    EXPECT_EQ(readAll(bench.programFile("uharc.exe")), readAll(kSix));
+    EXPECT_EQ(readAll(bench.programFile("Uharc0.4.fns")), readAll(kFour));
+    EXPECT_FALSE(QFile::exists(bench.programFile("Uharc0.6.fns")));
+}
+
+TEST_F(ProgressErrors, ASecondVersionRequestDuringTheRerunIsAnError) {
+    bench.makeSource(2, 1000);
+    const QString archive = bench.makeArchive(kFour, "four.uha");
+    // The stored "0.4" copy is really the 0.6 engine: it asks for 0.4 again.
+    QFile::remove(bench.programFile("Uharc0.4.fns"));
+    QFile::copy(kSix, bench.programFile("Uharc0.4.fns"));
+    bench.writeTestScript(archive);
+    frmProgress* w = bench.open(JobKind::Test);
+    ASSERT_TRUE(bench.waitUnloaded(w));
+    EXPECT_EQ(w->runs(), 2);
+    EXPECT_EQ(bench.prompter.shown,
+              QStringList({"critical:  Archive was created by another version --> use UHARC "
+                           "version 0.4"}));
+    EXPECT_FALSE(bench.main->engineSwitch().engineSwitched);
+    EXPECT_FALSE(QFile::exists(bench.programFile("Uharc0.6.fns")));
+}
+
+TEST_F(ProgressErrors, ASwitchMadeByTheListingIsUsedDirectlyAndUndoneAtClose) {
+    bench.makeSource(3, 1000);
+    const QString archive = bench.makeArchive(kFour, "four.uha");
+    bench.main->OpenItem(archive); // the listing switches to 0.4
+    ASSERT_TRUE(bench.main->engineSwitch().engineSwitched);
+    bench.writeExtractScript(archive, bench.places.path() + "/dest");
+    frmProgress* w = bench.open(JobKind::Extract);
+    ASSERT_TRUE(bench.waitUnloaded(w));
+    EXPECT_EQ(w->runs(), 1);
+    EXPECT_TRUE(bench.prompter.shown.isEmpty()) << bench.prompter.shown.join('|').toStdString();
+    EXPECT_TRUE(QFileInfo(bench.places.path() + "/dest/f02.bin").isFile());
+    EXPECT_FALSE(bench.main->engineSwitch().engineSwitched);
+    EXPECT_EQ(readAll(bench.programFile("uharc.exe")), readAll(kSix));
+    EXPECT_EQ(readAll(bench.programFile("Uharc0.4.fns")), readAll(kFour));
+}
+
+TEST_F(ProgressErrors, ClosingAnAddWindowMidJobEndsTheEngineAndLeavesNoTemporaryArchive) {
+    bench.makeSource(20, 20000);
+    const QString archive = bench.places.path() + "/out/new.uha";
+    QDir().mkpath(bench.places.path() + "/out");
+    bench.writeAddScript(archive);
+    bench.setDelay(300);
+    bench.main->hide();
+    frmProgress* w = bench.open(JobKind::Add);
+    const QString temp = bench.places.path() + "/out/UHA$0000.$$$";
+    auto* job = w->findChild<QLineEdit*>("JobTxt");
+    ASSERT_TRUE(WaitFor([&] { return !job->text().isEmpty() && QFile::exists(temp); }));
+    const qint64 pid = w->jobProcessId();
+    ASSERT_TRUE(ProcessAlive(pid));
+    ASSERT_TRUE(FileExists(WorkFile(names::ConsoleOutput)));
+
+    w->close();
+    EXPECT_TRUE(w->isUnloaded());
+    EXPECT_FALSE(w->isVisible());
+    EXPECT_TRUE(bench.main->isVisible());
+    EXPECT_TRUE(WaitFor([&] { return !ProcessAlive(pid); }, 5000));
+    EXPECT_FALSE(QFile::exists(WorkFile(names::ConsoleOutput)));
+    EXPECT_FALSE(QFile::exists(temp));
+    EXPECT_FALSE(QFile::exists(archive));
+    EXPECT_TRUE(bench.tray->calls.contains("remove"));
+    // Nothing more happens afterwards: no message, no new run, the window stays hidden.
+    QTest::qWait(300);
+    EXPECT_TRUE(bench.prompter.shown.isEmpty()) << bench.prompter.shown.join('|').toStdString();
+    EXPECT_EQ(w->runs(), 1);
+    EXPECT_FALSE(w->isVisible());
+    EXPECT_FALSE(QFile::exists(temp));
+}
+
+TEST_F(ProgressErrors, ClosingAnExtractWindowMidJobUndoesTheSwitch) {
+    bench.makeSource(10, 20000);
+    const QString archive = bench.makeArchive(kFour, "four.uha");
+    bench.writeExtractScript(archive, bench.places.path() + "/dest");
+    bench.setDelay(300);
+    frmProgress* w = bench.open(JobKind::Extract);
+    ASSERT_TRUE(WaitFor([&] { return w->runs() == 2 && w->jobRunning(); }));
+    const qint64 pid = w->jobProcessId();
+    w->close();
+    EXPECT_TRUE(WaitFor([&] { return !ProcessAlive(pid); }, 5000));
+    EXPECT_FALSE(bench.main->engineSwitch().engineSwitched);
+    EXPECT_EQ(readAll(bench.programFile("uharc.exe")), readAll(kSix));
+    EXPECT_EQ(readAll(bench.programFile("Uharc0.4.fns")), readAll(kFour));
+    EXPECT_FALSE(QFile::exists(WorkFile(names::ConsoleOutput)));
+    EXPECT_TRUE(bench.prompter.shown.isEmpty());
+}
+
+TEST_F(ProgressErrors, AnEngineThatWritesNothingEndsTheWaitWithAClearMessage) {
+    const QString engine = bench.programFile("uharc.exe");
+    QFile::remove(engine);
+    writeExecutable(engine, "#!/bin/sh\nsleep 0.3\nexit 0\n");
+    bench.writeTestScript(bench.places.path() + "/x.uha");
+    bench.main->hide();
+    frmProgress* w = bench.open(JobKind::Test);
+    // The window waits while the engine runs ...
+    QTest::qWait(150);
+    EXPECT_FALSE(w->isUnloaded());
+    // ... and not once it has ended.
+    ASSERT_TRUE(bench.waitUnloaded(w, 5000));
+    ASSERT_EQ(bench.prompter.shown.size(), 1);
+    EXPECT_EQ(bench.prompter.shown.first(),
+              "critical: The engine ended without writing any output, so the job cannot be "
+              "followed.\nJob script: " + WorkFile(names::TestScript));
+    EXPECT_TRUE(bench.main->isVisible());
+}
+
+TEST_F(ProgressErrors, AnEngineThatKeepsSilentWhileRunningIsWaitedForUntilClosed) {
+    const QString engine = bench.programFile("uharc.exe");
+    QFile::remove(engine);
+    writeExecutable(engine, "#!/bin/sh\nexec sleep 30\n");
+    bench.writeExtractScript(bench.places.path() + "/x.uha", bench.places.path() + "/dest");
+    frmProgress* w = bench.open(JobKind::Extract);
+    QTest::qWait(500);
+    EXPECT_FALSE(w->isUnloaded());
+    const qint64 pid = w->jobProcessId();
+    EXPECT_TRUE(ProcessAlive(pid));
+    w->close();
+    EXPECT_TRUE(WaitFor([&] { return !ProcessAlive(pid); }, 5000));
+    EXPECT_TRUE(bench.prompter.shown.isEmpty());
+}
+
+TEST_F(ProgressErrors, AJobWhoseEngineIsMissingSaysItCouldNotStart) {
+    QFile::remove(bench.programFile("uharc.exe"));
+    bench.writeTestScript(bench.places.path() + "/x.uha");
+    frmProgress* w = bench.open(JobKind::Test);
+    ASSERT_TRUE(bench.waitUnloaded(w, 5000));
+    ASSERT_EQ(bench.prompter.shown.size(), 1);
+    EXPECT_TRUE(bench.prompter.shown.first().startsWith("critical: The job could not be started: "))
+        << bench.prompter.shown.first().toStdString();
+}
