@@ -2,7 +2,6 @@
 // what comes out of the archive is compared with the source byte for byte.
 #include "dialog_test_support.h"
 
-#include "core/processcontrol.h"
 #include "core/runner.h"
 #include "ui/browser/commandline.h"
 #include "ui/browser/frmapri.h"
@@ -298,35 +297,10 @@ TEST_F(DialogJobs, OnlySomeTypesComeOut) {
               filtered(source_, [](const QString& name) { return name == "random.bin"; }));
 }
 
-// A move cut short by ending the engine while it works: the engine writes its temporary archive
-// beside the target and renames it only at the end, and deletes the sources only after that.
-TEST_F(DialogJobs, AMoveEndedByTheEngineLeavesTheSourcesAndNoArchive) {
-    qputenv("QUOVARA_STANDIN_DELAY_MS", "400");
-    const QString folder = places_.path() + "/target";
-    QDir().mkpath(folder);
-    const QString archive = folder + "/cut.uha";
-    qint64 ended = 0;
-    frmAggiungi dialog([this] { return src_; }, prompter_,
-                       [&](const QString& a) {
-                           QTimer::singleShot(900,
-                                              [&] { ended = TerminateProcessByName("UHARC.EXE"); });
-                           RunAndWait(WorkFile(names::AddScript), 0, FolderOf(a));
-                       });
-    showAndWait(&dialog);
-    typeInto(c<QLineEdit>(&dialog, "Text1"), archive);
-    click(c<QRadioButton>(&dialog, "Option2"));
-    click(c<QPushButton>(&dialog, "Command3"));
-    qunsetenv("QUOVARA_STANDIN_DELAY_MS");
-    EXPECT_GT(ended, 0);
-    EXPECT_EQ(treeOf(src_), source_);
-    EXPECT_FALSE(QFile::exists(archive));
-    // What the engine leaves when it is ended: only its temporary archive, which the add
-    // progress window deletes when it closes.
-    EXPECT_TRUE(QFile::exists(folder + "/" + names::EngineTempArchive));
-}
-
-// The same, cancelled the way a user does it: the add progress window is closed while the job
-// runs.
+// A move cancelled the way a user does it: the add progress window is closed while the job
+// runs. The engine writes its temporary archive beside the target and renames it only at the
+// end, and deletes the sources only after that; closing the window ends the engine and deletes
+// the temporary archive.
 TEST_F(DialogJobs, AMoveCancelledFromItsProgressWindowLeavesNothingBehind) {
     qputenv("QUOVARA_STANDIN_DELAY_MS", "400");
     const QString folder = places_.path() + "/target";
