@@ -10,6 +10,8 @@ cmake --build "$build" --target progress_measure >/dev/null
 export QT_QPA_PLATFORM=${QT_QPA_PLATFORM:-offscreen}
 export QT_LOGGING_RULES=${QT_LOGGING_RULES:-"*.debug=false;qt.qpa.*=false"}
 echo "== processor use over a ${1:-20}-second extract job (stand-in engine, 200 ms per file)"
-"$build/bin/progress_measure" cpu "${1:-20}" 2>/dev/null
+status=0
+"$build/bin/progress_measure" cpu "${1:-20}" 2>/dev/null || status=1
 echo "== progress-line latency (an engine writing a time-stamped line every 250 ms)"
-"$build/bin/progress_measure" latency "${2:-40}" 2>/dev/null
+"$build/bin/progress_measure" latency "${2:-40}" 2>/dev/null || status=1
+exit $status

@@ -30,8 +30,8 @@ class JobProcess;
 void RunJobWindow(JobKind kind, frmApri& main);
 
 // The same with the archive of the job named by the caller (an add job's target archive); the
-// job's working folder is the folder that holds it. An empty `archivePath` means: the add
-// script's archive for an add job, the main window's archive otherwise.
+// job's working folder is the folder that holds it. An empty `archivePath` means: the archive
+// that the job script names, else the main window's archive.
 void RunJobWindow(JobKind kind, frmApri& main, const QString& archivePath);
 
 // Texts of the windows.

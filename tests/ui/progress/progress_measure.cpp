@@ -60,6 +60,16 @@ int measureCpu(int seconds) {
     }
     const double cpu = cpuSeconds() - cpu0;
     const double secs = wall.elapsed() / 1000.0;
+    const qsizetype extracted =
+        QDir(bench.places.path() + QStringLiteral("/dest")).entryList(QDir::Files).size();
+    if (extracted < files) {
+        // TerminateProcessByName of another Quovara test run on this machine ends the first
+        // "uharc.exe" it finds: the figures of a cut job mean nothing.
+        std::printf("the job was cut short after %.1f s (%lld of %d files): run it again on a "
+                    "quiet machine\n",
+                    secs, static_cast<long long>(extracted), files);
+        return 1;
+    }
     std::printf("job: extract of %d files, %.1f s, %d bar changes, messages: %s\n", files, secs,
                 barChanges, qPrintable(bench.prompter.shown.join(QStringLiteral(" | "))));
     std::printf("program processor time while the job ran: %.3f s of %.1f s = %.2f %% of one "
@@ -102,6 +112,12 @@ int measureLatency(int lines) {
     if (latencies.isEmpty()) {
         std::printf("no progress line was seen: %s\n",
                     qPrintable(bench.prompter.shown.join(QStringLiteral(" | "))));
+        return 1;
+    }
+    if (latencies.size() < lines / 2) {
+        std::printf("the job was cut short (%lld of %d lines shown): run it again on a quiet "
+                    "machine\n",
+                    static_cast<long long>(latencies.size()), lines);
         return 1;
     }
     std::sort(latencies.begin(), latencies.end());

@@ -101,7 +101,7 @@ TEST_F(ProgressErrors, AMissingPasswordShowsTheMessageCutBeforeItsPointer) {
 }
 
 TEST_F(ProgressErrors, AnOldArchiveSwitchesTheEngineRunsAgainAndUndoesAtClose) {
-    bench.makeSource(6, 20000);
+    bench.makeSource(8, 20000);
     const QString archive = bench.makeArchive(kFour, "four.uha");
     bench.writeExtractScript(archive, bench.places.path() + "/dest");
     bench.setDelay(350);
@@ -118,7 +118,7 @@ TEST_F(ProgressErrors, AnOldArchiveSwitchesTheEngineRunsAgainAndUndoesAtClose) {
     ASSERT_TRUE(bench.waitUnloaded(w));
 
     EXPECT_TRUE(bench.prompter.shown.isEmpty()) << bench.prompter.shown.join('|').toStdString();
-    EXPECT_TRUE(QFileInfo(bench.places.path() + "/dest/f05.bin").isFile());
+    EXPECT_TRUE(QFileInfo(bench.places.path() + "/dest/f07.bin").isFile());
     // The elapsed time counts from the window's load, before the first run.
     EXPECT_EQ(w->timeState().startTime, start);
     EXPECT_LE(start, secondRun);

@@ -5,6 +5,7 @@
 #include "core/places.h"
 
 #include <QDir>
+#include <algorithm>
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QProgressBar>
@@ -90,8 +91,9 @@ TEST_F(ProgressJobs, TheTableGivesEachWindowItsCaptionScriptAndControls) {
                   "Total: 00:00:00       Remaining: 00:00:00       Elapsed: 00:00:00");
         auto* sizes = frame1->findChild<QLineEdit*>("ProgressTxt");
         EXPECT_EQ(sizes != nullptr, r.sizes);
-        if (sizes)
+        if (sizes) {
             EXPECT_EQ(sizes->geometry(), QRect(8, 32, 305, 13));
+        }
         // The job line reads as a label: the window's own background.
         EXPECT_FALSE(job->hasFrame());
         auto* timer = w.findChild<QTimer*>("Timer1");
@@ -270,4 +272,28 @@ TEST_F(ProgressJobs, AnExtractOutputOfFewerThanThirteenLinesNeverMovesTheBar) {
     EXPECT_TRUE(seen.barValues.isEmpty());
     EXPECT_TRUE(seen.jobTexts.isEmpty());
     EXPECT_TRUE(bench.prompter.shown.isEmpty());
+}
+
+TEST_F(ProgressJobs, TheArchiveOfAJobIsTheOneItsScriptNames) {
+    bench.makeSource(2, 1000);
+    const QString listed = bench.makeArchive(kSix, "listed.uha");
+    QDir().mkpath(bench.places.path() + "/other");
+    const QString other = bench.places.path() + "/other/picked.uha";
+    QFile::copy(listed, other);
+    bench.main->OpenItem(listed);
+    ASSERT_EQ(bench.main->lister().listing().archivePath, listed);
+    // Verify in the file-system layout tests the browser's selected archive, not the listed one.
+    bench.writeTestScript(other);
+    frmProgress* w = bench.open(JobKind::Test);
+    EXPECT_EQ(w->archivePath(), other);
+    EXPECT_EQ(w->workingFolder(), bench.places.path() + "/other");
+    ASSERT_TRUE(bench.waitUnloaded(w));
+    EXPECT_EQ(bench.prompter.shown, QStringList({"information: No errors found during test operation"}));
+    // The caller may name the archive itself.
+    frmProgress named(*ProgressKindOf(JobKind::Extract), *bench.main, listed);
+    EXPECT_EQ(named.archivePath(), listed);
+    // Without a script or a name, the main window's archive.
+    QFile::remove(WorkFile(names::ExtractScript));
+    frmProgress fallback(*ProgressKindOf(JobKind::Extract), *bench.main, QString());
+    EXPECT_EQ(fallback.archivePath(), listed);
 }
