@@ -124,7 +124,9 @@ frmApri::frmApri(QWidget* parent)
     setCentralWidget(central);
 
     // Details: the ratio bar and the totals.
-    pDettagli = new QWidget();
+    // The panels belong to the window until the task pane hosts them (Form_Load).
+    pDettagli = new QWidget(this);
+    pDettagli->hide();
     pDettagli->setObjectName(QStringLiteral("pDettagli"));
     auto* details = new QGridLayout(pDettagli);
     details->setContentsMargins(8, 6, 8, 8);
@@ -147,7 +149,8 @@ frmApri::frmApri(QWidget* parent)
     details->setColumnStretch(1, 1);
 
     // Operations: search and the single-item commands.
-    pOperazioni = new QWidget();
+    pOperazioni = new QWidget(this);
+    pOperazioni->hide();
     pOperazioni->setObjectName(QStringLiteral("pOperazioni"));
     auto* ops = new QGridLayout(pOperazioni);
     ops->setContentsMargins(8, 6, 8, 8);
@@ -175,7 +178,8 @@ frmApri::frmApri(QWidget* parent)
     ops->setColumnStretch(0, 1);
 
     // State: what the program is doing.
-    pStato = new QWidget();
+    pStato = new QWidget(this);
+    pStato->hide();
     pStato->setObjectName(QStringLiteral("pStato"));
     auto* state = new QVBoxLayout(pStato);
     state->setContentsMargins(8, 6, 8, 8);
