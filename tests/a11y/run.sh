@@ -17,7 +17,8 @@ cp "$standin" "$work/program/uharc.exe"
 echo "a file" > "$work/src/docs/readme.txt"
 (cd "$work/src" && "$standin" a -r+ -y+ -d0 "$work/sample.uha" "docs/*" >/dev/null)
 export QUOVARA_PROGRAM_DIR="$work/program" TMPDIR="$work/tmp" HOME="$work"
-export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 QT_ACCESSIBILITY=1 XDG_RUNTIME_DIR="$work"
+# A real X display under Xvfb: the offscreen platform of the widget tests has no AT-SPI bridge.
+export QT_QPA_PLATFORM=xcb QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 QT_ACCESSIBILITY=1 XDG_RUNTIME_DIR="$work"
 dbus-run-session -- xvfb-run -a -s "-screen 0 1280x900x24" bash -c '
     "$0" "$1" >/dev/null 2>&1 &
     pid=$!
