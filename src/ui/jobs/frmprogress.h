@@ -1,8 +1,8 @@
-// The job progress windows frmAdding, frmExtracting and frmTesting (Part 4.2): one class, told
+// The job progress windows frmAdding, frmExtracting and frmTesting: one class, told
 // apart by a small job-kind table. The window starts its job script itself, follows the engine's
 // console output (das.txt) until the engine has ended, reports the first engine error, and on
 // closing stops the engine and cleans up. Minimising it sends it to the notification area
-// (Part 4.4).
+// (the tray icon).
 #pragma once
 
 #include "core/jobkind.h"
@@ -49,13 +49,13 @@ inline constexpr char NotStarted[] = "The job could not be started: %1";
 // One row of the job-kind table: what tells the three windows apart.
 struct ProgressKind {
     JobKind kind;
-    const char* formName;  // object name of the window
-    const char* caption;   // "Adding ...", ...
-    const char* script;    // job script in the WorkFolder
-    const char* icon;      // the window's own icon
-    ConsoleJob lineRules;  // Part 4.1's rules for das.txt
-    bool sizesLine;        // ProgressTxt present
-    bool switchesEngine;   // a version request in the header lines switches and restarts
+    const char* formName;    // object name of the window
+    const char* caption;     // "Adding ...", ...
+    const char* script;      // job script in the WorkFolder
+    const char* icon;        // the window's own icon
+    ConsoleJob lineRules;    // how the lines of das.txt are read
+    bool sizesLine;          // ProgressTxt present
+    bool switchesEngine;     // a version request in the header lines switches and restarts
     bool bodyErrorShowsMain; // an error after the header makes the main window visible again
     const char* endMessage;  // information message at the normal end, or nullptr
     bool undoesSwitch;       // unload undoes an engine switch

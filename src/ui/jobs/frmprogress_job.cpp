@@ -47,11 +47,9 @@ void frmProgress::startJob() {
         job_.reset();
     }
     job_ = std::make_unique<JobProcess>();
-    connect(job_.get(), &JobProcess::finished, this, &frmProgress::pollRound,
-            Qt::QueuedConnection);
+    connect(job_.get(), &JobProcess::finished, this, &frmProgress::pollRound, Qt::QueuedConnection);
     ++runs_;
-    qCDebug(lcJobWindow) << "starting" << scriptPath_ << "run" << runs_ << "in"
-                         << workingFolder();
+    qCDebug(lcJobWindow) << "starting" << scriptPath_ << "run" << runs_ << "in" << workingFolder();
     if (!job_->start(scriptPath_, workingFolder())) {
         const QString why = job_->errorText();
         job_.reset();
@@ -125,7 +123,8 @@ void frmProgress::handleError(const ConsoleState& state) {
     }
     if (state.errorInHeader) {
         if (kind_.switchesEngine && IsVersionRequest(m, main_.engineSwitch())) {
-            // Part 4.3: the other engine runs the same script once the first run has ended.
+            // Engine version request: the other engine runs the same script once the first run has
+            // ended.
             pendingVersionMessage_ = m;
             phase_ = Phase::AwaitRestart;
             if (!job_->isRunning())

@@ -1,4 +1,4 @@
-// modSystemTray (Part 4.4): the notification-area icon of a progress window sent out of the way,
+// modSystemTray: the notification-area icon of a progress window sent out of the way,
 // and the hide and restore procedures beside it.
 //
 // The icon sits behind a small interface: the program uses a QSystemTrayIcon, headless tests

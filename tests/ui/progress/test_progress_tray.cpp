@@ -1,4 +1,4 @@
-// Part 4.4: minimising a progress window sends it and the main window to the notification area;
+// Minimising a progress window sends it and the main window to the notification area;
 // the icon's tip follows the job; a left click brings both back without starting the job again;
 // the icon goes away at unload. The notification area is a recording double here (there is
 // none on the offscreen platform).
