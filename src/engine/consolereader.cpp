@@ -107,6 +107,32 @@ void ConsoleReader::reset() {
     finished_ = false;
     committed_ = ConsoleState();
     committedMask_ = 0;
+    firstHeaderLine_ = 0;
+    firstHeaderMB_ = 0;
+    lastProgressLine_ = 0;
+}
+
+void ConsoleReader::noteAddLine(const QString& line, qint64 index) {
+    if (job_ != ConsoleJob::Add)
+        return;
+    ProgressState probe;
+    if (firstHeaderLine_ == 0 && ParseAddHeader(line, probe)) {
+        firstHeaderLine_ = index;
+        firstHeaderMB_ = probe.totalMB;
+    }
+    if (ParseAddProgress(line, probe))
+        lastProgressLine_ = index;
+}
+
+QString ConsoleReader::roundSizesText(const ConsoleState& next) const {
+    // A whole re-read starts from the previous round's state: once a total has been taken, the
+    // header is passed over and every progress line is read with that total; before that, the
+    // first header line sets it for the progress lines that follow it.
+    const bool headerFirst = firstHeaderLine_ > 0 && firstHeaderLine_ <= lastProgressLine_;
+    ProgressState at = next.progress;
+    at.totalMB =
+        state_.progress.totalSeen || !headerFirst ? state_.progress.totalMB : firstHeaderMB_;
+    return SizesText(at);
 }
 
 bool ConsoleReader::poll() {
@@ -144,6 +170,8 @@ void ConsoleReader::applyComplete(const QString& line) {
     }
     const LineResult r = applyLine(line, completeLines_, job_, committed_);
     committedMask_ |= r.groups;
+    if (!r.scan.isError())
+        noteAddLine(line, completeLines_);
     if (r.scan.isError()) {
         finished_ = true;
         setError(committed_, r.scan, completeLines_, job_);
@@ -190,12 +218,25 @@ void ConsoleReader::feed(const QByteArray& appended) {
         next.versionRequest = committed_.versionRequest;
         next.fileClosed = committed_.fileClosed;
         partial_.clear();
-    } else if (!partial_.isEmpty()) {
+    }
+    const qint64 completeHeader = firstHeaderLine_;
+    const double completeHeaderMB = firstHeaderMB_;
+    const qint64 completeProgress = lastProgressLine_;
+    if (!finished_ && !partial_.isEmpty()) {
         ++next.lineCount;
-        const LineResult r = applyLine(DecodeConsoleLine(partial_), next.lineCount, job_, next);
+        const QString line = DecodeConsoleLine(partial_);
+        const LineResult r = applyLine(line, next.lineCount, job_, next);
         if (r.scan.isError())
             setError(next, r.scan, next.lineCount, job_);
+        else
+            noteAddLine(line, next.lineCount);
     }
+    if (job_ == ConsoleJob::Add && lastProgressLine_ > 0)
+        next.sizesText = roundSizesText(next);
+    // The unfinished line may still grow: what it showed is not kept for the next round.
+    firstHeaderLine_ = completeHeader;
+    firstHeaderMB_ = completeHeaderMB;
+    lastProgressLine_ = completeProgress;
     state_ = next;
 }
 

@@ -65,6 +65,10 @@ public:
 private:
     void applyComplete(const QString& line);
     void reset();
+    // Notes where the add header and the add progress lines stand (1-based line numbers).
+    void noteAddLine(const QString& line, qint64 index);
+    // The sizes line as a whole re-read builds it this round (add jobs).
+    QString roundSizesText(const ConsoleState& next) const;
 
     ConsoleJob job_;
     QString path_;
@@ -78,6 +82,11 @@ private:
     // has set. Groups no complete line has set come from the previous round's state.
     ConsoleState committed_;
     unsigned committedMask_ = 0;
+    // Add jobs: the first header line among the complete lines and the total it gives, and the
+    // last progress line (complete or, for the round, the unfinished one).
+    qint64 firstHeaderLine_ = 0;
+    double firstHeaderMB_ = 0;
+    qint64 lastProgressLine_ = 0;
 
     ConsoleState state_;
 };

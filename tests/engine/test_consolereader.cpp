@@ -283,6 +283,24 @@ TEST(ConsoleReader, HeaderNumberSeenWhileStillBeingWritten) {
     EXPECT_DOUBLE_EQ(r.state().progress.totalMB, 0.0);
 }
 
+TEST(ConsoleReader, ProgressLineBeforeTheHeaderTakesTheTotalOfLaterRounds) {
+    // A re-reading window reads the progress line with no total in the round that first sees
+    // the header after it, and with that header's total in every later round.
+    const QByteArray progress =
+        "Adding folder\\a.txt                  Total: 50%     524288          0    0.0%\r\n";
+    const QByteArray header = "Adding 8 files (2097152 bytes)    size     packed   ratio\r\n";
+    ConsoleReader r(ConsoleJob::Add);
+    ConsoleState reference;
+    r.feed(progress + header);
+    ReadConsoleOutput(progress + header, ConsoleJob::Add, reference);
+    EXPECT_TRUE(sameState(r.state(), reference));
+    EXPECT_EQ(r.state().sizesText, "Progress: 0.5 MB (Packed  0 MB) of 0 MB Ratio: 0.0%");
+    r.feed("more");
+    ReadConsoleOutput(progress + header + "more", ConsoleJob::Add, reference);
+    EXPECT_TRUE(sameState(r.state(), reference));
+    EXPECT_EQ(r.state().sizesText, "Progress: 0.5 MB (Packed  0 MB) of 2 MB Ratio: 0.0%");
+}
+
 TEST(ConsoleReader, StopsAtACompleteErrorLine) {
     ConsoleReader r(ConsoleJob::Test);
     r.feed(sample("test-crc-error.out"));
