@@ -148,3 +148,45 @@ TEST_F(StandinListing, EveryArchiveOpenedStaysInTheMirrorTree) {
     EXPECT_EQ(scratchFiles(), QStringList({"a/b/c.txt", "a/d.txt", "extra.txt", "root.txt"}));
     EXPECT_EQ(lister.Info()->filesLabel(), "Files: 4");
 }
+
+TEST_F(StandinListing, WindowsEngineRunsThroughTheLauncherWithATerminal) {
+    // The engine file is a Windows program ("MZ"); the launcher is a stand-in for wine that
+    // records its arguments, refuses to run without a terminal on its standard input, turns
+    // the Z:\ paths back into host paths and runs the stand-in engine.
+    const QString archive = makeArchive(kSix, "through-wine.uha", {"-m1"});
+    QFile::remove(places_.programFolder() + "/uharc.exe");
+    writeFile(places_.programFolder() + "/uharc.exe", "MZ\x90\x00 a Windows program");
+    const QString record = places_.path() + "/launcher.txt";
+    const QString launcher = places_.path() + "/fake-wine";
+    writeExecutable(launcher, "#!/bin/sh\n"
+                              "printf '%s\\n' \"$@\" > '" +
+                                  record.toLocal8Bit() +
+                                  "'\n"
+                                  "[ -t 0 ] || { echo 'no terminal' >> '" +
+                                  record.toLocal8Bit() +
+                                  "'; exit 3; }\n"
+                                  "shift\n"
+                                  "for a in \"$@\"; do\n"
+                                  "  case \"$a\" in *Z:\\\\*) a=$(printf '%s' \"$a\" | sed "
+                                  "'s#Z:\\\\#/#; s#\\\\#/#g');; esac\n"
+                                  "  set -- \"$@\" \"$a\"; shift\n"
+                                  "done\n"
+                                  "exec '" +
+                                  kSix.toLocal8Bit() + "' \"$@\"\n");
+    qputenv("QUOVARA_WINE", launcher.toLocal8Bit());
+    ArchiveLister lister(prompter_, switch_);
+    const bool listed = lister.OpenSelectedArchive(archive);
+    qunsetenv("QUOVARA_WINE");
+    ASSERT_TRUE(listed);
+    const QStringList args =
+        QString::fromLocal8Bit(readAll(record)).split('\n', Qt::SkipEmptyParts);
+    ASSERT_GE(args.size(), 6) << args.join('|').toStdString();
+    EXPECT_EQ(args[0], places_.programFolder() + "/uharc.exe");
+    EXPECT_EQ(args.mid(1, 3), QStringList({"l", "-d2", "-y+"}));
+    EXPECT_EQ(args[4], "-lgZ:" + QString(WorkFile(names::ListLog)).replace('/', '\\'));
+    EXPECT_EQ(args[5], "Z:" + QString(archive).replace('/', '\\'));
+    EXPECT_FALSE(args.contains("no terminal"));
+    EXPECT_EQ(lister.listing().status, ListStatus::Opened);
+    EXPECT_EQ(scratchFiles(), QStringList({"a/b/c.txt", "a/d.txt", "root.txt"}));
+    EXPECT_EQ(lister.Info()->modeLabel(), "Mode: ALZ Fast");
+}
