@@ -24,19 +24,6 @@ Q_LOGGING_CATEGORY(lcAddDialog, "quovara.dialog.add", QtInfoMsg)
 
 namespace quovara {
 
-namespace {
-
-template <typename W> W* named(W* widget, const char* name) {
-    widget->setObjectName(QLatin1String(name));
-    return widget;
-}
-
-QString text(const char* latin1) {
-    return QString::fromLatin1(latin1);
-}
-
-} // namespace
-
 QStringList QtNameFilters(const QString& windowsFilter) {
     const QStringList parts = windowsFilter.split(QLatin1Char('|'));
     QStringList filters;

@@ -10,15 +10,6 @@
 
 namespace quovara {
 
-namespace {
-
-template <typename W> W* named(W* widget, const char* name) {
-    widget->setObjectName(QLatin1String(name));
-    return widget;
-}
-
-} // namespace
-
 FileChoice FileChoiceControls::choice() const {
     if (OpFileType->isChecked())
         return FileChoice::FileTypes;

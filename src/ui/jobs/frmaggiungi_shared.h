@@ -57,6 +57,17 @@ FileChoiceControls BuildFileChoiceFrame(const char* frameName, const QString& fi
 // Chains the Tab order through `widgets`, in order.
 void ChainTabOrder(const QList<QWidget*>& widgets);
 
+// Gives a new control its form name and returns it.
+template <typename W> W* named(W* widget, const char* name) {
+    widget->setObjectName(QLatin1String(name));
+    return widget;
+}
+
+// A fixed caption of the dialogs (Latin-1 text constants).
+inline QString text(const char* latin1) {
+    return QString::fromLatin1(latin1);
+}
+
 // The same path written two ways ("/a/b/" and "/a/b", native or not) compares equal.
 bool SamePath(const QString& a, const QString& b);
 

@@ -24,19 +24,6 @@ Q_LOGGING_CATEGORY(lcExtractDialog, "quovara.dialog.extract", QtInfoMsg)
 
 namespace quovara {
 
-namespace {
-
-template <typename W> W* named(W* widget, const char* name) {
-    widget->setObjectName(QLatin1String(name));
-    return widget;
-}
-
-QString text(const char* latin1) {
-    return QString::fromLatin1(latin1);
-}
-
-} // namespace
-
 frmEstrai::frmEstrai(const QString& archivePath, Prompter& prompter, JobHandOver handOver,
                      QWidget* parent)
     : QDialog(parent), prompter_(prompter), handOver_(std::move(handOver)),
