@@ -297,45 +297,39 @@ void TaskPaneBar::itemNotFound() {
                                       "Item Key Especified doesn't match with the existing Items"));
 }
 
-void TaskPaneBar::SetItemIcon(const QVariant& Group, const QVariant& item, int iNewIcon) {
+TaskPaneBar::Item* TaskPaneBar::itemToChange(const QVariant& Group, const QVariant& item,
+                                             const char* what) {
     auto* g = group(ResolveGroup(Group));
     if (!g) {
         qCDebug(lcTaskPane).noquote()
             << QStringLiteral("The group '") + groupText(Group) + QStringLiteral("' desn't exist");
-        return;
+        return nullptr;
     }
     const int at = findItem(*g, item);
     if (at == 0) {
         itemNotFound();
-        return;
+        return nullptr;
     }
     if (at < 0) {
-        qCDebug(lcTaskPane) << "SetItemIcon: no item" << item.toInt() << "in group" << g->key;
-        return;
+        qCDebug(lcTaskPane) << what << ": no item" << item.toInt() << "in group" << g->key;
+        return nullptr;
     }
-    g->items[at - 1].icon = iNewIcon;
-    repaintPane();
+    return &g->items[at - 1];
+}
+
+void TaskPaneBar::SetItemIcon(const QVariant& Group, const QVariant& item, int iNewIcon) {
+    if (Item* it = itemToChange(Group, item, "SetItemIcon")) {
+        it->icon = iNewIcon;
+        repaintPane();
+    }
 }
 
 void TaskPaneBar::SetItemText(const QVariant& Group, const QVariant& item,
                               const QString& sNewCaption) {
-    auto* g = group(ResolveGroup(Group));
-    if (!g) {
-        qCDebug(lcTaskPane).noquote()
-            << QStringLiteral("The group '") + groupText(Group) + QStringLiteral("' desn't exist");
-        return;
+    if (Item* it = itemToChange(Group, item, "SetItemText")) {
+        it->caption = sNewCaption;
+        repaintPane();
     }
-    const int at = findItem(*g, item);
-    if (at == 0) {
-        itemNotFound();
-        return;
-    }
-    if (at < 0) {
-        qCDebug(lcTaskPane) << "SetItemText: no item" << item.toInt() << "in group" << g->key;
-        return;
-    }
-    g->items[at - 1].caption = sNewCaption;
-    repaintPane();
 }
 
 void TaskPaneBar::DisableUpdates(bool bDisable) {

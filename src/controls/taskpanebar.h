@@ -208,6 +208,8 @@ private:
     QString groupText(const QVariant& Group) const;
     int findItem(const Group& g, const QVariant& item) const;
     void itemNotFound();
+    // The item that SetItemIcon / SetItemText change, or null (reported as they require).
+    Item* itemToChange(const QVariant& Group, const QVariant& item, const char* what);
     void repaintPane();
     void relayout();
     int layoutGroup(Group& g, int index, int top, int left, int width);
