@@ -13,6 +13,8 @@ mkdir -p "$demo/program" "$demo/sources/quovara-sample/docs" "$demo/sources/quov
 # program's start-up makes 0.6 the active engine.
 cp "$bin/uharc-standin-0.4" "$demo/program/uharc.exe"
 cp "$bin/uharc-standin-0.6" "$demo/program/Uharc0.6.fns"
+# The demonstration self-extractor stub, so that "Make SFX" builds a file that runs here.
+cp "$bin/uharc-sfx-standin" "$demo/program/SFX.exe"
 
 src="$demo/sources/quovara-sample"
 cp README.md "$src/README.md"
