@@ -3,6 +3,8 @@
 #pragma once
 
 #include <QAccessible>
+#include <QAccessibleActionInterface>
+#include <QAccessibleInterface>
 #include <QHash>
 #include <QtGlobal>
 
@@ -37,6 +39,26 @@ public:
 
 private:
     QHash<quint64, QAccessible::Id> m_ids;
+};
+
+// An accessible part of a custom-painted control that has no widget and no children of its
+// own (a toolbar button, a task-pane header or item): the childless answers once, and the
+// action interface reached through interface_cast.
+class AccessibleLeaf : public QAccessibleInterface, public QAccessibleActionInterface {
+public:
+    QObject* object() const override { return nullptr; }
+    QAccessibleInterface* child(int) const override { return nullptr; }
+    int childCount() const override { return 0; }
+    int indexOfChild(const QAccessibleInterface*) const override { return -1; }
+    QAccessibleInterface* childAt(int, int) const override { return nullptr; }
+    QAccessibleInterface* focusChild() const override { return nullptr; }
+    void setText(QAccessible::Text, const QString&) override {}
+    QStringList keyBindingsForAction(const QString&) const override { return {}; }
+    void* interface_cast(QAccessible::InterfaceType type) override {
+        if (type == QAccessible::ActionInterface)
+            return static_cast<QAccessibleActionInterface*>(this);
+        return nullptr;
+    }
 };
 
 } // namespace quovara

@@ -133,12 +133,6 @@ QAccessible::State TaskPaneElementAccessible::state() const {
     return s;
 }
 
-void* TaskPaneElementAccessible::interface_cast(QAccessible::InterfaceType type) {
-    if (type == QAccessible::ActionInterface)
-        return static_cast<QAccessibleActionInterface*>(this);
-    return nullptr;
-}
-
 QStringList TaskPaneElementAccessible::actionNames() const {
     switch (m_element.kind) {
     case TaskPaneBar::Element::Header:

@@ -26,7 +26,7 @@ private:
     mutable AccessibleChildCache m_children;
 };
 
-class TaskPaneElementAccessible : public QAccessibleInterface, public QAccessibleActionInterface {
+class TaskPaneElementAccessible : public AccessibleLeaf {
 public:
     TaskPaneElementAccessible(TaskPaneBar* pane, const TaskPaneBar::Element& e)
         : m_pane(pane), m_element(e) {}
@@ -34,24 +34,15 @@ public:
     const TaskPaneBar::Element& element() const { return m_element; }
 
     bool isValid() const override;
-    QObject* object() const override { return nullptr; }
     QWindow* window() const override;
     QAccessibleInterface* parent() const override;
-    QAccessibleInterface* child(int) const override { return nullptr; }
-    int childCount() const override { return 0; }
-    int indexOfChild(const QAccessibleInterface*) const override { return -1; }
-    QAccessibleInterface* childAt(int, int) const override { return nullptr; }
-    QAccessibleInterface* focusChild() const override { return nullptr; }
     QString text(QAccessible::Text t) const override;
-    void setText(QAccessible::Text, const QString&) override {}
     QRect rect() const override;
     QAccessible::Role role() const override;
     QAccessible::State state() const override;
-    void* interface_cast(QAccessible::InterfaceType type) override;
 
     QStringList actionNames() const override;
     void doAction(const QString& actionName) override;
-    QStringList keyBindingsForAction(const QString&) const override { return {}; }
 
 private:
     QPointer<TaskPaneBar> m_pane;

@@ -112,12 +112,6 @@ QAccessible::State ToolbarButtonAccessible::state() const {
     return s;
 }
 
-void* ToolbarButtonAccessible::interface_cast(QAccessible::InterfaceType type) {
-    if (type == QAccessible::ActionInterface)
-        return static_cast<QAccessibleActionInterface*>(this);
-    return nullptr;
-}
-
 QStringList ToolbarButtonAccessible::actionNames() const {
     if (!isValid() || m_toolbar->ButtonStyleOf(m_id) == ucToolbar::tbrSeparator)
         return {};

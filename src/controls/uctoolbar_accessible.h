@@ -26,31 +26,22 @@ private:
 };
 
 // One toolbar button (or separator).
-class ToolbarButtonAccessible : public QAccessibleInterface, public QAccessibleActionInterface {
+class ToolbarButtonAccessible : public AccessibleLeaf {
 public:
     ToolbarButtonAccessible(ucToolbar* toolbar, int id) : m_toolbar(toolbar), m_id(id) {}
 
     int buttonId() const { return m_id; }
 
     bool isValid() const override;
-    QObject* object() const override { return nullptr; }
     QWindow* window() const override;
     QAccessibleInterface* parent() const override;
-    QAccessibleInterface* child(int) const override { return nullptr; }
-    int childCount() const override { return 0; }
-    int indexOfChild(const QAccessibleInterface*) const override { return -1; }
-    QAccessibleInterface* childAt(int, int) const override { return nullptr; }
-    QAccessibleInterface* focusChild() const override { return nullptr; }
     QString text(QAccessible::Text t) const override;
-    void setText(QAccessible::Text, const QString&) override {}
     QRect rect() const override;
     QAccessible::Role role() const override;
     QAccessible::State state() const override;
-    void* interface_cast(QAccessible::InterfaceType type) override;
 
     QStringList actionNames() const override;
     void doAction(const QString& actionName) override;
-    QStringList keyBindingsForAction(const QString&) const override { return {}; }
 
 private:
     QPointer<ucToolbar> m_toolbar;
