@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <cstdlib>
+#include <limits>
 #include <string>
 
 namespace quovara {
@@ -173,6 +174,24 @@ double Val(const QString& text) {
     return v;
 }
 
+QString TrimLeadingBlanks(const QString& text) {
+    qsizetype start = 0;
+    while (start < text.size() && text[start] == QLatin1Char(' '))
+        ++start;
+    return text.mid(start);
+}
+
+QString TrimTrailingBlanks(const QString& text) {
+    qsizetype end = text.size();
+    while (end > 0 && text[end - 1] == QLatin1Char(' '))
+        --end;
+    return text.left(end);
+}
+
+QString TrimBlanks(const QString& text) {
+    return TrimLeadingBlanks(TrimTrailingBlanks(text));
+}
+
 double RoundHalfEven(double value, int decimals) {
     if (!std::isfinite(value))
         return value;
@@ -180,9 +199,11 @@ double RoundHalfEven(double value, int decimals) {
     const double scaled = value * scale;
     const double lower = std::floor(scaled);
     const double diff = scaled - lower;
-    // Decimal fractions such as 0.125 are not exact in binary; a tie is a distance from
-    // one half that is within the representation error of the scaled value.
-    const double eps = 1e-9 * std::max(1.0, std::fabs(scaled));
+    // Decimal fractions such as 0.125 are not exact in binary, and scaling adds one more
+    // rounding: a tie is a distance from one half within a few units in the last place of the
+    // scaled value. Anything farther is a real difference, however large the value.
+    const double eps =
+        8.0 * std::numeric_limits<double>::epsilon() * std::max(1.0, std::fabs(scaled));
     double r;
     if (std::fabs(diff - 0.5) <= eps)
         r = std::fmod(lower, 2.0) == 0.0 ? lower : lower + 1.0;

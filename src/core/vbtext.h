@@ -19,7 +19,15 @@ bool WildcardMatch(const QString& name, const QString& pattern);
 // character that cannot continue a number; no number gives 0.
 double Val(const QString& text);
 
-// Rounds to `decimals` places with halves going to the even digit.
+// Removes blanks (U+0020 only) from both ends, or from the start or the end: tabs, line feeds
+// and U+00A0 (byte 0xFF of code page 437) are text and stay.
+QString TrimBlanks(const QString& text);
+QString TrimLeadingBlanks(const QString& text);
+QString TrimTrailingBlanks(const QString& text);
+
+// Rounds to `decimals` places with halves going to the even digit. A tie is a value whose
+// distance from one half is within the rounding error of the scaled value itself (a few units in
+// its last place), so decimal ties such as 0.125 are found while large values are not moved.
 double RoundHalfEven(double value, int decimals = 0);
 
 // 16-bit conversion (halves to even). Empty when the value does not fit.

@@ -128,3 +128,37 @@ TEST(TimeText, DayPart) {
     EXPECT_EQ(TimeText(86400), "1d 00:00:00");
     EXPECT_EQ(TimeText(90061), "1d 01:01:01");
 }
+
+TEST(RoundHalfEven, LargeValuesAreNotTakenForTies) {
+    EXPECT_DOUBLE_EQ(RoundHalfEven(1e9 + 1.2), 1000000001);
+    EXPECT_DOUBLE_EQ(RoundHalfEven(1e9 + 1.5), 1000000002);
+    EXPECT_DOUBLE_EQ(RoundHalfEven(1e9 + 2.5), 1000000002);
+    EXPECT_DOUBLE_EQ(RoundHalfEven(1e9 + 2.49), 1000000002);
+    EXPECT_DOUBLE_EQ(RoundHalfEven(1e9 + 2.51), 1000000003);
+    // 1073747067 bytes are 1024.0050001... MB: not a tie.
+    EXPECT_EQ(NumberText(RoundHalfEven(1073747067.0 / 1048576.0, 2)), "1024.01");
+    // Exactly 1024.005 MB would be a tie, and goes to the even digit.
+    EXPECT_EQ(NumberText(RoundHalfEven(1024.005, 2)), "1024");
+    EXPECT_EQ(NumberText(RoundHalfEven(1024.015, 2)), "1024.02");
+}
+
+TEST(RoundHalfEven, TerabytesInBytes) {
+    // 5 TB, 2 TiB and 7.5 TiB plus a few bytes, shown in mebibytes with two decimals.
+    EXPECT_EQ(NumberText(RoundHalfEven(5e12 / 1048576.0, 2)), "4768371.58");
+    EXPECT_EQ(NumberText(RoundHalfEven(2199023255552.0 / 1048576.0, 2)), "2097152");
+    EXPECT_EQ(NumberText(RoundHalfEven((8246337208320.0 + 5243.0) / 1048576.0, 2)), "7864320.01");
+    EXPECT_EQ(NumberText(RoundHalfEven((8246337208320.0 + 5242.0) / 1048576.0, 2)), "7864320");
+    // One decimal, as the progress windows show sizes.
+    EXPECT_EQ(NumberText(RoundHalfEven(3298534883328.0 / 1048576.0 + 0.05, 1)), "3145728");
+    EXPECT_EQ(NumberText(RoundHalfEven(3298534883328.0 / 1048576.0 + 0.15, 1)), "3145728.2");
+}
+
+TEST(TrimBlanks, RemovesBlanksOnly) {
+    EXPECT_EQ(TrimBlanks("  a b  "), "a b");
+    EXPECT_EQ(TrimBlanks(QString::fromUtf8("\u00a0a\u00a0")), QString::fromUtf8("\u00a0a\u00a0"));
+    EXPECT_EQ(TrimBlanks(" \ta\t "), "\ta\t");
+    EXPECT_EQ(TrimBlanks("\n"), "\n");
+    EXPECT_EQ(TrimBlanks("   "), "");
+    EXPECT_EQ(TrimLeadingBlanks("  a  "), "a  ");
+    EXPECT_EQ(TrimTrailingBlanks("  a  "), "  a");
+}
