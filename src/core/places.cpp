@@ -9,6 +9,15 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#ifdef Q_OS_UNIX
+#include <cerrno>
+#include <cstring>
+#include <pwd.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <vector>
+#endif
+
 namespace quovara {
 
 PathStyle PathStyle::host() {
@@ -23,8 +32,101 @@ PathStyle PathStyle::windows() {
     return PathStyle{QLatin1Char('\\')};
 }
 
+namespace {
+
+#ifdef Q_OS_UNIX
+QString currentUserName() {
+    const uid_t uid = ::geteuid();
+    long size = ::sysconf(_SC_GETPW_R_SIZE_MAX);
+    std::vector<char> buffer(size > 0 ? size_t(size) : 16384);
+    struct passwd pw;
+    struct passwd* result = nullptr;
+    if (::getpwuid_r(uid, &pw, buffer.data(), buffer.size(), &result) == 0 && result)
+        return QFile::decodeName(result->pw_name);
+    return QString();
+}
+#endif
+
+} // namespace
+
+QString PrivateTempFolderName(const QString& userName, uint uid) {
+    const bool usable = !userName.isEmpty() && !userName.contains(QLatin1Char('/')) &&
+                        !userName.contains(QLatin1Char('\\')) && userName != QLatin1String(".") &&
+                        userName != QLatin1String("..");
+    return QStringLiteral("quovara-") + (usable ? userName : QString::number(uid));
+}
+
 QString TempRoot() {
+#ifdef Q_OS_UNIX
+    const QString fromEnv = qEnvironmentVariable("TMPDIR");
+    if (!fromEnv.isEmpty())
+        return QDir::toNativeSeparators(QDir::cleanPath(fromEnv));
+    // The system temporary folder is shared by every user: each user gets a private folder of
+    // their own inside it, as long-lived tools do.
+    const QString root =
+        PathStyle::host().join(QDir::toNativeSeparators(QDir::tempPath()),
+                               PrivateTempFolderName(currentUserName(), uint(::geteuid())));
+    const QString problem = PrivateFolderProblem(root, true);
+    if (!problem.isEmpty())
+        qCDebug(lcFiles) << "the private temporary folder" << root << "cannot be used:" << problem;
+    return root;
+#else
     return QDir::toNativeSeparators(QDir::tempPath());
+#endif
+}
+
+QString PrivateFolderProblem(const QString& folder, bool create) {
+#ifdef Q_OS_UNIX
+    const QByteArray path = QFile::encodeName(folder);
+    struct stat st;
+    if (::lstat(path.constData(), &st) != 0) {
+        if (errno != ENOENT || !create)
+            return QStringLiteral("it cannot be reached (%1)")
+                .arg(QString::fromLocal8Bit(std::strerror(errno)));
+        if (::mkdir(path.constData(), 0700) != 0 && errno != EEXIST)
+            return QStringLiteral("it cannot be created (%1)")
+                .arg(QString::fromLocal8Bit(std::strerror(errno)));
+        if (::lstat(path.constData(), &st) != 0)
+            return QStringLiteral("it cannot be reached (%1)")
+                .arg(QString::fromLocal8Bit(std::strerror(errno)));
+    }
+    if (S_ISLNK(st.st_mode))
+        return QStringLiteral("it is a symbolic link");
+    if (!S_ISDIR(st.st_mode))
+        return QStringLiteral("it is not a folder");
+    if (st.st_uid != ::geteuid())
+        return QStringLiteral("it belongs to another user");
+    if ((st.st_mode & 077) != 0)
+        return QStringLiteral("other users have access to it (mode %1)")
+            .arg(st.st_mode & 07777, 4, 8, QLatin1Char('0'));
+    return QString();
+#else
+    if (!QFileInfo(folder).isDir() && !(create && QDir().mkpath(folder)))
+        return QStringLiteral("it cannot be created");
+    return QString();
+#endif
+}
+
+QString WorkFolderMessage(const QString& folder, const QString& problem) {
+    return QStringLiteral("Quovara cannot use its work folder\n%1\nbecause %2.\n"
+                          "Nothing is written there, and no job runs until this is put right.")
+        .arg(folder, problem);
+}
+
+QString EnsurePrivateWorkFolder() {
+    const QString work = WorkFolder();
+#ifdef Q_OS_UNIX
+    // The private TempRoot first (when TMPDIR is not set): a folder someone else made in its
+    // place would let them reach into ours.
+    if (qEnvironmentVariable("TMPDIR").isEmpty()) {
+        const QString root = TempRoot();
+        const QString problem = PrivateFolderProblem(root, true);
+        if (!problem.isEmpty())
+            return WorkFolderMessage(root, problem);
+    }
+#endif
+    const QString problem = PrivateFolderProblem(work, true);
+    return problem.isEmpty() ? QString() : WorkFolderMessage(work, problem);
 }
 
 QString WorkFolder() {
@@ -72,8 +174,14 @@ void CleanWorkFolder() {
 void MakeDir(const QString& path) {
     if (QFileInfo(path).isDir())
         return;
+#ifdef Q_OS_UNIX
+    // Folders of ours are private to the user (mode 0700).
+    if (::mkdir(QFile::encodeName(path).constData(), 0700) != 0)
+        qCDebug(lcFiles) << "could not create folder" << path << std::strerror(errno);
+#else
     if (!QDir().mkdir(path))
         qCDebug(lcFiles) << "could not create folder" << path;
+#endif
 }
 
 bool FileExists(const QString& path) {

@@ -31,8 +31,29 @@ inline constexpr char EngineTempArchive[] = "UHA$0000.$$$";
 inline constexpr char SfxStub[] = "SFX.exe";
 } // namespace names
 
-// The user's temporary folder, asked afresh every time (honours TMPDIR).
+// The user's own temporary folder, asked afresh every time: $TMPDIR when it is set; else a
+// private folder of this user inside the system temporary folder ("quovara-<user name>",
+// created with mode 0700 when missing).
 QString TempRoot();
+
+// The private folder of user `userName` (uid `uid`) inside `systemTemp`, as TempRoot() makes it
+// when TMPDIR is not set: "quovara-<user name>", or "quovara-<uid>" for a name that is empty or
+// holds a separator.
+QString PrivateTempFolderName(const QString& userName, uint uid);
+
+// Checks that `folder` can hold our job scripts and logs: a real folder (not a link), owned by
+// the user running the program, with no access for group or others. With `create`, a missing
+// folder is made that way (mode 0700). Empty when it is fine; otherwise the reason in words
+// ("it is a symbolic link", "it belongs to another user", ...).
+QString PrivateFolderProblem(const QString& folder, bool create);
+
+// Makes sure the WorkFolder (and the private TempRoot it lives in) exists and is private, as
+// PrivateFolderProblem says. Empty when it is fine; otherwise the message to show, which names
+// the folder and what is wrong. Nothing may be written into a WorkFolder that fails.
+QString EnsurePrivateWorkFolder();
+
+// The message for a folder that fails the check.
+QString WorkFolderMessage(const QString& folder, const QString& problem);
 // TempRoot + sep + "Corvana".
 QString WorkFolder();
 // TempRoot + sep + "Corvana" + sep + "Tessimo".

@@ -17,7 +17,13 @@ void StartupEngineSwap(const QString& programFolder) {
 
 bool PrepareWorkspace(Prompter& prompter) {
     CleanWorkFolder();
-    MakeDir(WorkFolder());
+    // The WorkFolder is made private to the user; one that fails the check (a link, another
+    // user's folder, a folder others can write) is never written into.
+    const QString problem = EnsurePrivateWorkFolder();
+    if (!problem.isEmpty()) {
+        prompter.critical(problem);
+        return false;
+    }
     const QString program = ProgramFolder();
     if (!FileExists(PathStyle::host().join(program, QStringLiteral("Uharc.exe")))) {
         prompter.critical(QString::fromLatin1(kEngineMissingText));

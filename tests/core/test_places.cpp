@@ -11,6 +11,9 @@
 #include <QLockFile>
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 using namespace quovara;
 using namespace quovara::testing;
 
@@ -201,4 +204,108 @@ TEST(FromCp437, DecodesTheHighHalf) {
     EXPECT_EQ(FromCp437("abc"), "abc");
     EXPECT_EQ(FromCp437("\x82t\x82"), QString::fromUtf8("\u00e9t\u00e9"));
     EXPECT_EQ(FromCp437("\xc4\xb3"), QString::fromUtf8("\u2500\u2502"));
+}
+
+namespace {
+
+// Unsets TMPDIR for one test and puts it back afterwards.
+class NoTmpDir {
+public:
+    NoTmpDir() : old_(qgetenv("TMPDIR")) { qunsetenv("TMPDIR"); }
+    ~NoTmpDir() {
+        if (!old_.isNull())
+            qputenv("TMPDIR", old_);
+    }
+
+private:
+    QByteArray old_;
+};
+
+} // namespace
+
+TEST(Places, WithoutTmpDirTheTempRootIsAPrivateFolderOfTheUser) {
+    NoTmpDir noTmp;
+    const QString root = TempRoot();
+    EXPECT_EQ(QFileInfo(root).absolutePath(), QDir::tempPath());
+    EXPECT_TRUE(QFileInfo(root).fileName().startsWith("quovara-"));
+    struct stat st;
+    ASSERT_EQ(::lstat(QFile::encodeName(root).constData(), &st), 0);
+    EXPECT_TRUE(S_ISDIR(st.st_mode));
+    EXPECT_EQ(st.st_uid, ::geteuid());
+    EXPECT_EQ(st.st_mode & 0777, 0700u);
+    EXPECT_EQ(WorkFolder(), root + "/Corvana");
+}
+
+TEST(Places, TwoUsersGetTwoPrivateFolders) {
+    EXPECT_EQ(PrivateTempFolderName("anna", 1000), "quovara-anna");
+    EXPECT_EQ(PrivateTempFolderName("bartek", 1001), "quovara-bartek");
+    EXPECT_EQ(PrivateTempFolderName(QString::fromUtf8("łukasz"), 1002),
+              QString::fromUtf8("quovara-łukasz"));
+    // A name that cannot be a folder name falls back to the user's number.
+    EXPECT_EQ(PrivateTempFolderName("", 1003), "quovara-1003");
+    EXPECT_EQ(PrivateTempFolderName("../x", 1004), "quovara-1004");
+    EXPECT_EQ(PrivateTempFolderName("..", 1005), "quovara-1005");
+}
+
+TEST(Places, TwoProgramsWithTheirOwnTmpDirHaveTheirOwnWorkFolders) {
+    ScopedPlaces first;
+    const QString firstWork = WorkFolder();
+    ASSERT_EQ(EnsurePrivateWorkFolder(), QString());
+    writeFile(WorkFile(names::ListLog), "first");
+    {
+        ScopedPlaces second;
+        ASSERT_EQ(EnsurePrivateWorkFolder(), QString());
+        EXPECT_NE(WorkFolder(), firstWork);
+        writeFile(WorkFile(names::ListLog), "second");
+    }
+    EXPECT_EQ(readAll(firstWork + "/uharc.log"), QByteArray("first"));
+}
+
+TEST(EnsurePrivateWorkFolder, MakesTheWorkFolderPrivate) {
+    ScopedPlaces places;
+    ASSERT_EQ(EnsurePrivateWorkFolder(), QString());
+    struct stat st;
+    ASSERT_EQ(::lstat(QFile::encodeName(WorkFolder()).constData(), &st), 0);
+    EXPECT_EQ(st.st_mode & 0777, 0700u);
+}
+
+TEST(EnsurePrivateWorkFolder, RefusesALinkAFolderOpenToOthersAndAFile) {
+    ScopedPlaces places;
+    const QString target = places.path() + "/planted";
+    ASSERT_TRUE(QDir().mkdir(target));
+    ASSERT_TRUE(QFile::link(target, WorkFolder()));
+    EXPECT_EQ(EnsurePrivateWorkFolder(),
+              "Quovara cannot use its work folder\n" + WorkFolder() +
+                  "\nbecause it is a symbolic link.\nNothing is written there, and no job runs "
+                  "until this is put right.");
+    QFile::remove(WorkFolder());
+
+    ASSERT_TRUE(QDir().mkdir(WorkFolder()));
+    ASSERT_EQ(::chmod(QFile::encodeName(WorkFolder()).constData(), 0777), 0);
+    EXPECT_TRUE(EnsurePrivateWorkFolder().contains("because other users have access to it (mode "
+                                                   "0777)."));
+    QDir(WorkFolder()).removeRecursively();
+
+    writeFile(WorkFolder(), "a file");
+    EXPECT_TRUE(EnsurePrivateWorkFolder().contains("because it is not a folder."));
+    QFile::remove(WorkFolder());
+
+    EXPECT_TRUE(QDir(target).isEmpty());
+}
+
+TEST(PrepareWorkspace, AWorkFolderThatCannotBeMadePrivateStopsTheProgramWithItsPath) {
+    ScopedPlaces places;
+    writeFile(places.programFolder() + "/uharc.exe", "engine");
+    // TMPDIR names a file: no folder can be made inside it.
+    const QString file = places.path() + "/not-a-folder";
+    writeFile(file, "x");
+    const QByteArray old = qgetenv("TMPDIR");
+    qputenv("TMPDIR", file.toLocal8Bit());
+    RecordingPrompter prompter;
+    EXPECT_FALSE(PrepareWorkspace(prompter));
+    qputenv("TMPDIR", old);
+    EXPECT_EQ(prompter.shown,
+              QStringList({"critical: Quovara cannot use its work folder\n" + file +
+                           "/Corvana\nbecause it cannot be reached (Not a directory).\nNothing "
+                           "is written there, and no job runs until this is put right."}));
 }
