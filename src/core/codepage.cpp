@@ -1,5 +1,8 @@
 #include "codepage.h"
 
+#include "enginefiles.h"
+#include "places.h"
+
 namespace quovara {
 
 namespace {
@@ -27,6 +30,35 @@ QString FromCp437(const char* data, qsizetype size) {
         d[i] = b < 0x80 ? QChar(b) : QChar(kHigh[b - 0x80]);
     }
     return out;
+}
+
+bool RepresentableInCp437(const QString& text) {
+    for (const QChar c : text) {
+        if (c.unicode() < 0x80)
+            continue;
+        bool found = false;
+        for (char16_t h : kHigh) {
+            if (h == c.unicode()) {
+                found = true;
+                break;
+            }
+        }
+        if (!found)
+            return false;
+    }
+    return true;
+}
+
+QString DecodeEngineText(const char* data, qsizetype size, EngineCodec codec) {
+    if (codec == EngineCodec::Utf8)
+        return QString::fromUtf8(data, size);
+    return FromCp437(data, size);
+}
+
+EngineCodec ActiveEngineCodec() {
+    const QString engine = ResolveEngineFile(ProgramFolder(), QStringLiteral("uharc.exe"));
+    return !engine.isEmpty() && IsWindowsExecutable(engine) ? EngineCodec::Cp437
+                                                            : EngineCodec::Utf8;
 }
 
 QStringList SplitEngineLines(const QString& text) {

@@ -1,7 +1,10 @@
 #include "jobprocess.h"
 
 #include "enginefiles.h"
+#include "jobscript.h"
 #include "logging.h"
+#include "places.h"
+#include "processcontrol.h"
 
 #include <QDir>
 #include <QFile>
@@ -11,6 +14,9 @@
 #include <QStandardPaths>
 
 #ifdef Q_OS_UNIX
+#include <cerrno>
+#include <csignal>
+#include <cstring>
 #include <fcntl.h>
 #include <sys/ioctl.h>
 #include <sys/resource.h>
@@ -28,66 +34,112 @@ QString LauncherPath() {
     return QStandardPaths::findExecutable(QStringLiteral("wine"));
 }
 
-namespace {
-
-// The program file named by the script, found without regard to case for engine names and
-// relative paths taken from the working folder.
-QString resolveProgram(const QString& written, const QString& workingFolder) {
-    QFileInfo info(written);
-    if (info.isRelative())
-        info = QFileInfo(QDir(workingFolder), written);
-    if (info.isFile())
-        return info.absoluteFilePath();
-    return ResolveEngineFile(info.absolutePath(), info.fileName());
-}
-
-} // namespace
-
 JobProcess::JobProcess(QObject* parent) : QObject(parent) {}
 
 JobProcess::~JobProcess() {
     if (process_ && process_->state() != QProcess::NotRunning) {
         // The owner is gone: the job must not outlive it unseen.
-        process_->kill();
+        kill();
         process_->waitForFinished(2000);
     }
     closeTerminal();
+    if (group_ > 0)
+        UnregisterJobGroup(group_);
 }
+
+namespace {
+
+// The engine file of the ProgramFolder that a script's program names, or why it is refused.
+// Only the engine ever runs: any other program named by a script is refused.
+QString engineOf(const QString& written, QString& error) {
+    const QString program = ProgramFolder();
+    const QString engine = ResolveEngineFile(program, QStringLiteral("uharc.exe"));
+    const QFileInfo named(written);
+    const QString resolved =
+        named.isAbsolute() ? ResolveEngineFile(named.absolutePath(), named.fileName()) : QString();
+    if (engine.isEmpty() || resolved.isEmpty()) {
+        error = QStringLiteral("the engine %1 does not exist").arg(written);
+        return QString();
+    }
+    if (QFileInfo(resolved).canonicalFilePath() != QFileInfo(engine).canonicalFilePath()) {
+        error = QStringLiteral("the job names %1, which is not the engine of the program "
+                               "folder %2; it was not started")
+                    .arg(written, program);
+        return QString();
+    }
+    return engine;
+}
+
+// Reads the script back without following a link.
+QByteArray readScript(const QString& path, bool& ok) {
+    ok = false;
+#ifdef Q_OS_UNIX
+    const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC);
+    if (fd < 0)
+        return QByteArray();
+    QFile file;
+    if (!file.open(fd, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
+        ::close(fd);
+        return QByteArray();
+    }
+#else
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return QByteArray();
+#endif
+    ok = true;
+    return file.readAll();
+}
+
+} // namespace
 
 bool JobProcess::start(const QString& scriptPath, const QString& workingFolder) {
     error_.clear();
-    QFile script(scriptPath);
-    if (!script.open(QIODevice::ReadOnly)) {
-        error_ = QStringLiteral("cannot read the job script %1").arg(scriptPath);
+    auto refuse = [this](const QString& why) {
+        error_ = why;
         qCDebug(lcRunner) << error_;
         return false;
-    }
-    const ParsedJob job = ParseJobScript(script.readAll());
-    script.close();
-    if (!job.isValid()) {
-        error_ = QStringLiteral("the job script %1 names no command").arg(scriptPath);
-        qCDebug(lcRunner) << error_;
-        return false;
-    }
+    };
+    // Only a script this program wrote runs, and only as it was written: the job is taken
+    // from the pieces it was written from, never from a re-reading of its text.
+    const std::optional<WrittenScript> written = WrittenJobScript(scriptPath);
+    if (!written)
+        return refuse(
+            QStringLiteral("the job script %1 was not written by this program").arg(scriptPath));
+    bool readOk = false;
+    const QByteArray onDisk = readScript(scriptPath, readOk);
+    if (!readOk)
+        return refuse(QStringLiteral("cannot read the job script %1").arg(scriptPath));
+    if (onDisk != written->bytes)
+        return refuse(
+            QStringLiteral("the job script %1 was changed after it was written; it was not run")
+                .arg(scriptPath));
+    const ParsedJob& job = written->job;
+    if (!job.isValid())
+        return refuse(QStringLiteral("the job script %1 names no command").arg(scriptPath));
     const QString folder =
         workingFolder.isEmpty() ? QFileInfo(scriptPath).absolutePath() : workingFolder;
-    const QString engine = resolveProgram(job.arguments.first(), folder);
-    if (engine.isEmpty()) {
-        error_ = QStringLiteral("the program %1 does not exist").arg(job.arguments.first());
-        qCDebug(lcRunner) << error_;
-        return false;
+    QString engineError;
+    const QString engine = engineOf(job.arguments.first(), engineError);
+    if (engine.isEmpty())
+        return refuse(engineError);
+    // The one redirection a job may ask for: the console output into das.txt in the WorkFolder.
+    QString target;
+    if (!job.outputTarget.isEmpty()) {
+        target = QDir::cleanPath(QFileInfo(QDir(folder), job.outputTarget).absoluteFilePath());
+        if (target != QDir::cleanPath(WorkFile(names::ConsoleOutput)))
+            return refuse(QStringLiteral("the job asks to write its output to %1, which is not "
+                                         "the console output file of the work folder")
+                              .arg(job.outputTarget));
     }
 
     QStringList args = job.arguments.mid(1);
     const bool windowsProgram = IsWindowsExecutable(engine);
     if (windowsProgram) {
         const QString launcher = LauncherPath();
-        if (launcher.isEmpty()) {
-            error_ = QStringLiteral("%1 is a Windows program and no launcher (wine) was found")
-                         .arg(engine);
-            qCDebug(lcRunner) << error_;
-            return false;
-        }
+        if (launcher.isEmpty())
+            return refuse(QStringLiteral("%1 is a Windows program and no launcher (wine) was found")
+                              .arg(engine));
         for (QString& a : args)
             a = ToLauncherPath(a);
         args.prepend(engine);
@@ -105,47 +157,50 @@ bool JobProcess::start(const QString& scriptPath, const QString& workingFolder) 
     for (const auto& [name, value] : job.environment)
         env.insert(name, value);
     process_->setProcessEnvironment(env);
-    if (!job.outputTarget.isEmpty()) {
-        QString target = job.outputTarget;
-        if (QFileInfo(target).isRelative())
-            target = QDir(folder).filePath(target);
-        process_->setStandardOutputFile(target,
-                                        job.appendOutput ? QIODevice::Append : QIODevice::Truncate);
-    } else {
-        process_->setStandardOutputFile(QProcess::nullDevice());
-    }
+    process_->setStandardOutputFile(QProcess::nullDevice());
     process_->setStandardInputFile(QProcess::nullDevice());
     connect(process_, &QProcess::readyReadStandardError, this, [this] {
         qCDebug(lcRunner).noquote() << "engine:" << process_->readAllStandardError().trimmed();
     });
 
 #ifdef Q_OS_UNIX
-    // A Windows engine needs a console: without one it waits for a key for ever. It gets a
-    // pseudo-terminal as standard input and controlling terminal; nothing is ever typed in.
+    // The output file is opened here, without following a link, and handed to the engine as
+    // its standard output.
+    int outFd = -1;
+    if (!target.isEmpty()) {
+        const int flags =
+            O_WRONLY | O_CREAT | O_NOFOLLOW | O_CLOEXEC | (job.appendOutput ? O_APPEND : O_TRUNC);
+        outFd = ::open(QFile::encodeName(target).constData(), flags, 0600);
+        if (outFd < 0)
+            return refuse(QStringLiteral("cannot create the output file %1: %2")
+                              .arg(target, QString::fromLocal8Bit(std::strerror(errno))));
+    }
+    // The engine needs a console: without one the real engine waits for a key for ever, and it
+    // asks its questions there. Every engine gets a pseudo-terminal as standard input and
+    // controlling terminal, in a session of its own, so that the whole job (the launcher's
+    // children too) can be ended as one group.
     QByteArray slaveName;
-    if (windowsProgram) {
-        ptyMaster_ = posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC);
-        if (ptyMaster_ >= 0 && grantpt(ptyMaster_) == 0 && unlockpt(ptyMaster_) == 0) {
-            slaveName = QByteArray(ptsname(ptyMaster_));
-            // Whatever the engine writes to its console is read and dropped, so that a full
-            // terminal buffer never blocks it.
-            ptyNotifier_ = new QSocketNotifier(ptyMaster_, QSocketNotifier::Read, this);
-            connect(ptyNotifier_, &QSocketNotifier::activated, this, [this] {
-                char buf[4096];
-                const ssize_t n = ::read(ptyMaster_, buf, sizeof buf);
-                if (n <= 0)
-                    ptyNotifier_->setEnabled(false);
-            });
-        } else {
-            qCDebug(lcRunner) << "no pseudo-terminal for the engine";
-            closeTerminal();
-        }
+    ptyMaster_ = posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC);
+    if (ptyMaster_ >= 0 && grantpt(ptyMaster_) == 0 && unlockpt(ptyMaster_) == 0) {
+        slaveName = QByteArray(ptsname(ptyMaster_));
+        // What the engine writes to its console is read and dropped, so that a full terminal
+        // buffer never blocks it.
+        ptyNotifier_ = new QSocketNotifier(ptyMaster_, QSocketNotifier::Read, this);
+        connect(ptyNotifier_, &QSocketNotifier::activated, this, [this] {
+            char buf[4096];
+            const ssize_t n = ::read(ptyMaster_, buf, sizeof buf);
+            if (n <= 0)
+                ptyNotifier_->setEnabled(false);
+        });
+    } else {
+        qCDebug(lcRunner) << "no pseudo-terminal for the engine";
+        closeTerminal();
     }
     const std::string slave = slaveName.toStdString();
-    process_->setChildProcessModifier([slave] {
+    process_->setChildProcessModifier([slave, outFd] {
         // Runs in the child between fork and exec: async-signal-safe calls only.
+        ::setsid();
         if (!slave.empty()) {
-            ::setsid();
             const int fd = ::open(slave.c_str(), O_RDWR);
             if (fd >= 0) {
                 ::ioctl(fd, TIOCSCTTY, 0);
@@ -154,25 +209,48 @@ bool JobProcess::start(const QString& scriptPath, const QString& workingFolder) 
                     ::close(fd);
             }
         }
+        if (outFd >= 0)
+            ::dup2(outFd, STDOUT_FILENO);
         ::setpriority(PRIO_PROCESS, 0, 19);
     });
 #endif
 
-    connect(process_, &QProcess::finished, this, [this](int code, QProcess::ExitStatus) {
-        qCDebug(lcRunner) << "job ended with" << code;
+    connect(process_, &QProcess::finished, this, [this](int code, QProcess::ExitStatus status) {
+        exitStatus_ = status;
+        exitCode_ = code;
+        qCDebug(lcRunner) << "job ended with" << code
+                          << (status == QProcess::CrashExit ? "(crashed)" : "");
         closeTerminal();
         emit finished(code);
     });
     qCDebug(lcRunner) << "starting" << program_ << arguments_ << "in" << folder;
     process_->start();
-    if (!process_->waitForStarted(10000)) {
-        error_ =
-            QStringLiteral("%1 could not be started: %2").arg(program_, process_->errorString());
-        qCDebug(lcRunner) << error_;
+    const bool started = process_->waitForStarted(10000);
+#ifdef Q_OS_UNIX
+    if (outFd >= 0)
+        ::close(outFd);
+#endif
+    if (!started) {
         closeTerminal();
-        return false;
+        return refuse(
+            QStringLiteral("%1 could not be started: %2").arg(program_, process_->errorString()));
     }
+    group_ = process_->processId();
+    RegisterJobGroup(group_);
     return true;
+}
+
+bool JobProcess::answer(char key) {
+#ifdef Q_OS_UNIX
+    if (ptyMaster_ < 0 || !isRunning())
+        return false;
+    const ssize_t n = ::write(ptyMaster_, &key, 1);
+    qCDebug(lcRunner) << "typed one key into the engine's console:" << (n == 1);
+    return n == 1;
+#else
+    Q_UNUSED(key);
+    return false;
+#endif
 }
 
 bool JobProcess::isRunning() const {
@@ -184,8 +262,14 @@ qint64 JobProcess::processId() const {
 }
 
 void JobProcess::kill() {
-    if (isRunning())
-        process_->kill();
+    if (!isRunning())
+        return;
+#ifdef Q_OS_UNIX
+    // The whole job: the engine and whatever the launcher started for it.
+    if (group_ > 0 && ::kill(-static_cast<pid_t>(group_), SIGKILL) != 0)
+        qCDebug(lcRunner) << "could not end the job's process group" << group_;
+#endif
+    process_->kill();
 }
 
 void JobProcess::closeTerminal() {

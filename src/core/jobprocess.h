@@ -21,10 +21,19 @@ public:
     explicit JobProcess(QObject* parent = nullptr);
     ~JobProcess() override;
 
-    // Starts the script. `workingFolder` empty: the script's own folder. False when the script
-    // cannot be read, names no command, its program is missing, or a Windows program has no
-    // launcher; errorText() then says why.
+    // Starts the script. `workingFolder` empty: the script's own folder. Only a script that
+    // this program wrote (WriteJobScript), unchanged on disk, whose program is the engine of the
+    // ProgramFolder, with no redirection but das.txt in the WorkFolder, is started; the job is
+    // taken from the pieces it was written from. False when it is refused, its engine is
+    // missing, or a Windows engine has no launcher; errorText() then says why.
     bool start(const QString& scriptPath, const QString& workingFolder = QString());
+
+    // Types one key into the engine's console (its answer to a question it asks there).
+    bool answer(char key);
+
+    // How the job ended (valid once finished() was emitted).
+    bool crashed() const { return exitStatus_ == QProcess::CrashExit; }
+    int exitCode() const { return exitCode_; }
 
     bool isRunning() const;
     qint64 processId() const;
@@ -33,7 +42,8 @@ public:
     QString program() const { return program_; }
     QStringList arguments() const { return arguments_; }
 
-    // Ends the process at once (used when the window that owns the job closes).
+    // Ends the job at once, the engine's whole process group with it (used when the window
+    // that owns the job closes).
     void kill();
 
 signals:
@@ -45,6 +55,9 @@ private:
     QProcess* process_ = nullptr;
     int ptyMaster_ = -1;
     QSocketNotifier* ptyNotifier_ = nullptr;
+    qint64 group_ = 0;
+    QProcess::ExitStatus exitStatus_ = QProcess::NormalExit;
+    int exitCode_ = 0;
     QString error_;
     QString program_;
     QStringList arguments_;

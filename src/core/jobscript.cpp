@@ -1,10 +1,231 @@
 #include "jobscript.h"
 
+#include "codepage.h"
+#include "enginefiles.h"
 #include "logging.h"
+#include "places.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QHash>
+#include <ostream>
+
+#ifdef Q_OS_UNIX
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
 
 namespace quovara {
+
+Fragment::Fragment(const QString& fixedText) {
+    if (!fixedText.isEmpty())
+        parts_.append(ScriptPart{fixedText, false, QString()});
+}
+
+Fragment::Fragment(const char* fixedText) : Fragment(QString::fromUtf8(fixedText)) {}
+
+Fragment Fragment::Value(const QString& text, const QString& field) {
+    Fragment f;
+    f.parts_.append(ScriptPart{text, true, field});
+    return f;
+}
+
+Fragment& Fragment::operator+=(const Fragment& other) {
+    parts_.append(other.parts_);
+    return *this;
+}
+
+QString Fragment::text() const {
+    QString out;
+    for (const ScriptPart& p : parts_)
+        out += p.text;
+    return out;
+}
+
+Fragment operator+(Fragment a, const Fragment& b) {
+    a += b;
+    return a;
+}
+
+bool operator==(const Fragment& a, const QString& b) {
+    return a.text() == b;
+}
+
+void PrintTo(const Fragment& f, std::ostream* os) {
+    *os << '"' << f.text().toStdString() << '"';
+}
+
+CommandPieces::CommandPieces(std::initializer_list<Fragment> fragments) : fragments_(fragments) {}
+
+CommandPieces::CommandPieces(const QStringList& texts) {
+    for (const QString& t : texts)
+        fragments_.append(Fragment(t));
+}
+
+CommandPieces& CommandPieces::operator<<(const Fragment& fragment) {
+    fragments_.append(fragment);
+    return *this;
+}
+
+QStringList CommandPieces::texts() const {
+    QStringList out;
+    for (const Fragment& f : fragments_)
+        out << f.text();
+    return out;
+}
+
+QString CommandLine(const CommandPieces& pieces) {
+    return pieces.texts().join(QString());
+}
+
+namespace {
+
+bool isBlank(QChar c) {
+    return c == QLatin1Char(' ') || c == QLatin1Char('\t');
+}
+
+// Splits fixed text and values into arguments: one pass over the parts, where only the fixed
+// text can open or close quotes, separate arguments or redirect.
+class Splitter {
+public:
+    void fixed(const QString& text) {
+        for (qsizetype i = 0; i < text.size(); ++i) {
+            const QChar c = text[i];
+            if (c == QLatin1Char('"')) {
+                quoted_ = !quoted_;
+                inWord_ = true;
+                continue;
+            }
+            if (!quoted_ && isBlank(c)) {
+                endWord();
+                continue;
+            }
+            if (!quoted_ && c == QLatin1Char('>')) {
+                endWord();
+                redirect_ = true;
+                job_.appendOutput = i + 1 < text.size() && text[i + 1] == QLatin1Char('>');
+                if (job_.appendOutput)
+                    ++i;
+                continue;
+            }
+            word_.append(c);
+            inWord_ = true;
+        }
+    }
+    void value(const QString& text) {
+        word_.append(text);
+        inWord_ = true;
+    }
+    ParsedJob finish() {
+        endWord();
+        return job_;
+    }
+
+private:
+    void endWord() {
+        if (!inWord_)
+            return;
+        if (redirect_) {
+            job_.outputTarget = word_;
+            redirect_ = false;
+        } else {
+            job_.arguments.append(word_);
+        }
+        word_.clear();
+        inWord_ = false;
+    }
+
+    ParsedJob job_;
+    QString word_;
+    bool inWord_ = false;
+    bool quoted_ = false;
+    bool redirect_ = false;
+};
+
+bool holdsLineBreak(const QString& text) {
+    return text.contains(QLatin1Char('\r')) || text.contains(QLatin1Char('\n')) ||
+           text.contains(QChar(0));
+}
+
+// The scripts this program wrote, by absolute path: only these run, and only unchanged.
+QHash<QString, WrittenScript>& writtenScripts() {
+    static QHash<QString, WrittenScript> scripts;
+    return scripts;
+}
+
+QString scriptKey(const QString& path) {
+    return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+}
+
+// Writes `bytes` to `path` without following a link, private to the user. Empty on success,
+// otherwise the reason.
+QString writePrivateFile(const QString& path, const QByteArray& bytes) {
+#ifdef Q_OS_UNIX
+    const QByteArray name = QFile::encodeName(path);
+    const int fd =
+        ::open(name.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW | O_CLOEXEC, 0600);
+    if (fd < 0) {
+        if (errno == ELOOP)
+            return QStringLiteral("a symbolic link stands where the script belongs");
+        return QString::fromLocal8Bit(std::strerror(errno));
+    }
+    struct stat st;
+    if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode) || st.st_uid != ::geteuid()) {
+        ::close(fd);
+        return QStringLiteral("the file that stands where the script belongs is not ours");
+    }
+    qsizetype done = 0;
+    while (done < bytes.size()) {
+        const ssize_t n = ::write(fd, bytes.constData() + done, size_t(bytes.size() - done));
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n <= 0) {
+            const QString why = QString::fromLocal8Bit(std::strerror(errno));
+            ::close(fd);
+            return why;
+        }
+        done += n;
+    }
+    if (::close(fd) != 0)
+        return QString::fromLocal8Bit(std::strerror(errno));
+    return QString();
+#else
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        return file.errorString();
+    if (file.write(bytes) != bytes.size())
+        return file.errorString();
+    file.close();
+    return QString();
+#endif
+}
+
+QString fieldName(const ScriptPart& part) {
+    return part.field.isEmpty() ? QStringLiteral("command line") : part.field;
+}
+
+} // namespace
+
+ParsedJob SplitPieces(const CommandPieces& pieces) {
+    Splitter splitter;
+    for (const Fragment& f : pieces.fragments()) {
+        for (const ScriptPart& p : f.parts()) {
+            if (p.isValue)
+                splitter.value(p.text);
+            else
+                splitter.fixed(p.text);
+        }
+    }
+    return splitter.finish();
+}
+
+QByteArray ToScriptEncoding(const QString& text) {
+    return text.toLocal8Bit();
+}
 
 QByteArray ToAnsi(const QString& text) {
     QByteArray out;
@@ -14,30 +235,98 @@ QByteArray ToAnsi(const QString& text) {
     return out;
 }
 
-QByteArray JobScriptBytes(Preamble preamble, const QStringList& commandPieces, LastLine last) {
+QByteArray JobScriptBytes(Preamble preamble, const CommandPieces& commandPieces, LastLine last) {
     QByteArray out;
     if (preamble == Preamble::List)
         out += "cls\r\n@echo off\r\n";
     else
         out += "@echo off\r\ncls\r\nset uharc_opt= -d2\r\n";
-    for (const QString& piece : commandPieces)
-        out += ToAnsi(piece);
+    for (const Fragment& f : commandPieces.fragments())
+        out += ToScriptEncoding(f.text());
     if (last == LastLine::LineEnd)
         out += "\r\n";
     return out;
 }
 
-bool WriteJobScript(const QString& path, Preamble preamble, const QStringList& commandPieces,
-                    LastLine last) {
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
-        qCDebug(lcRunner) << "cannot write job script" << path << file.errorString();
-        return false;
+QString CommandPiecesProblem(const CommandPieces& commandPieces, bool windowsEngine) {
+    for (const Fragment& f : commandPieces.fragments()) {
+        for (const ScriptPart& p : f.parts()) {
+            const bool secret = p.field == QLatin1String("password");
+            if (holdsLineBreak(p.text)) {
+                if (secret)
+                    return QStringLiteral("The password holds a line break, which a job line "
+                                          "cannot carry. Nothing was run.");
+                return QStringLiteral("The %1 holds a line break, which a job line cannot "
+                                      "carry:\n%2\nNothing was run.")
+                    .arg(fieldName(p), QString(p.text)
+                                           .replace(QLatin1Char('\r'), QStringLiteral("\\r"))
+                                           .replace(QLatin1Char('\n'), QStringLiteral("\\n"))
+                                           .replace(QChar(0), QStringLiteral("\\0")));
+            }
+            if (windowsEngine && p.isValue && !RepresentableInCp437(p.text)) {
+                const QString what =
+                    secret ? QStringLiteral("The password holds")
+                           : QStringLiteral("The %1\n%2\nholds").arg(fieldName(p), p.text);
+                return what +
+                       QStringLiteral(" letters that the engine cannot read: it is a Windows "
+                                      "console program that knows only the letters of code page "
+                                      "437. Nothing was run; rename it with such letters.");
+            }
+        }
     }
-    const QByteArray bytes = JobScriptBytes(preamble, commandPieces, last);
-    const bool ok = file.write(bytes) == bytes.size();
-    file.close();
-    return ok;
+    return QString();
+}
+
+bool WriteJobScript(const QString& path, Preamble preamble, const CommandPieces& commandPieces,
+                    LastLine last, QString* error) {
+    auto refuse = [&](const QString& why) {
+        qCDebug(lcRunner) << "job script" << path << "refused:" << why;
+        if (error)
+            *error = why;
+        return false;
+    };
+    const ParsedJob job = SplitPieces(commandPieces);
+    bool windowsEngine = false;
+    if (!job.arguments.isEmpty()) {
+        const QFileInfo program(job.arguments.first());
+        const QString resolved = ResolveEngineFile(program.absolutePath(), program.fileName());
+        windowsEngine = !resolved.isEmpty() && IsWindowsExecutable(resolved);
+    }
+    const QString problem = CommandPiecesProblem(commandPieces, windowsEngine);
+    if (!problem.isEmpty())
+        return refuse(problem);
+    // The folder must be private to the user: the WorkFolder is checked (and made when
+    // missing) with the private TempRoot it lives in; any other folder is checked as it is.
+    const QString folder = QDir::cleanPath(QFileInfo(path).absolutePath());
+    if (folder == QDir::cleanPath(WorkFolder())) {
+        const QString message = EnsurePrivateWorkFolder();
+        if (!message.isEmpty())
+            return refuse(message);
+    } else {
+        const QString folderProblem = PrivateFolderProblem(folder, false);
+        if (!folderProblem.isEmpty())
+            return refuse(WorkFolderMessage(folder, folderProblem));
+    }
+
+    WrittenScript written;
+    written.bytes = JobScriptBytes(preamble, commandPieces, last);
+    written.job = job;
+    if (preamble == Preamble::Job)
+        written.job.environment.append({QStringLiteral("uharc_opt"), QStringLiteral(" -d2")});
+    // Forget the old script first: a failed write must not leave it runnable.
+    writtenScripts().remove(scriptKey(path));
+    const QString why = writePrivateFile(path, written.bytes);
+    if (!why.isEmpty())
+        return refuse(QStringLiteral("The job script %1 cannot be written: %2.").arg(path, why));
+    writtenScripts().insert(scriptKey(path), written);
+    return true;
+}
+
+std::optional<WrittenScript> WrittenJobScript(const QString& path) {
+    const auto it = writtenScripts().constFind(scriptKey(path));
+    if (it == writtenScripts().constEnd())
+        return std::nullopt;
+    return *it;
 }
 
 } // namespace quovara

@@ -5,6 +5,7 @@
 
 #include <QFile>
 #include <QList>
+#include <QSet>
 #include <algorithm>
 
 #ifdef Q_OS_UNIX
@@ -32,7 +33,41 @@ QByteArray readProcFile(qint64 pid, const char* name) {
     return f.read(4096);
 }
 
+QSet<qint64>& jobGroups() {
+    static QSet<qint64> groups;
+    return groups;
+}
+
+// The session id of a process (field 6 of /proc/<pid>/stat), or -1.
+qint64 sessionOf(qint64 pid) {
+    const QByteArray stat = readProcFile(pid, "stat");
+    // The command name stands in parentheses and may hold blanks: fields follow the last ')'.
+    const qsizetype close = stat.lastIndexOf(')');
+    if (close < 0)
+        return -1;
+    const QList<QByteArray> fields = stat.mid(close + 2).split(' ');
+    // state, ppid, pgrp, session
+    if (fields.size() < 4)
+        return -1;
+    bool ok = false;
+    const qint64 session = fields[3].toLongLong(&ok);
+    return ok ? session : -1;
+}
+
 } // namespace
+
+void RegisterJobGroup(qint64 sessionId) {
+    if (sessionId > 0)
+        jobGroups().insert(sessionId);
+}
+
+void UnregisterJobGroup(qint64 sessionId) {
+    jobGroups().remove(sessionId);
+}
+
+bool IsJobGroup(qint64 sessionId) {
+    return jobGroups().contains(sessionId);
+}
 
 qint64 TerminateProcessByName(const QString& name, Prompter* prompter) {
 #ifdef Q_OS_UNIX
@@ -61,6 +96,8 @@ qint64 TerminateProcessByName(const QString& name, Prompter* prompter) {
         const QByteArray procPath = QByteArray("/proc/") + QByteArray::number(pid);
         if (::stat(procPath.constData(), &st) != 0 || st.st_uid != me)
             continue;
+        if (!IsJobGroup(sessionOf(pid)))
+            continue; // not started by this program
         const QString comm = QString::fromLocal8Bit(readProcFile(pid, "comm")).trimmed();
         const QByteArray cmdline = readProcFile(pid, "cmdline");
         const QString argv0 = baseName(QString::fromLocal8Bit(cmdline.left(cmdline.indexOf('\0'))));

@@ -7,12 +7,20 @@ namespace quovara {
 
 class Prompter;
 
-// Ends the first of the current user's processes (in process-id order) whose executable name
-// equals `name` without regard to case: the kernel's short name and the file name of its first
-// argument are both compared, so a Windows program under the launcher is found too. Only the
-// first match ends. The pid that was ended, or 0. When the process list cannot be closed
-// properly, "Couldn't terminate process" is shown through `prompter` (when given).
+// Ends the first process (in process-id order) whose executable name equals `name` without
+// regard to case, among the processes this program started: those in the sessions of its
+// running jobs (the engine, and under the launcher its children). An unrelated program of the
+// same name is never touched. The kernel's short name and the file name of the first argument
+// are both compared, so a Windows program under the launcher is found too. Only the first
+// match ends. The pid that was ended, or 0. When the process list cannot be closed properly,
+// "Couldn't terminate process" is shown through `prompter` (when given).
 qint64 TerminateProcessByName(const QString& name, Prompter* prompter = nullptr);
+
+// The sessions of the jobs this program has started and not yet forgotten (each job runs in a
+// session of its own whose id is the job's first process id).
+void RegisterJobGroup(qint64 sessionId);
+void UnregisterJobGroup(qint64 sessionId);
+bool IsJobGroup(qint64 sessionId);
 
 // Puts the program's own process at the lowest scheduling priority (nice 19), so that it and
 // the jobs it starts yield to every other work on the machine.

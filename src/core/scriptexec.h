@@ -1,5 +1,5 @@
-// Reading a JobScript back into what it asks for, so that it can be run without a batch
-// interpreter and without ever handing the command line to a shell.
+// What a JobScript asks for (program, arguments, variables, output target), so that it can be
+// run without a batch interpreter and without ever handing the command line to a shell.
 #pragma once
 
 #include <QByteArray>
@@ -23,15 +23,12 @@ struct ParsedJob {
     bool isValid() const { return !arguments.isEmpty(); }
 };
 
-// Splits a command line with the Windows rules that matter for our scripts: blanks separate
-// arguments, double quotes group and are removed (-pw"a b" is one argument "-pwa b"), every
-// other character, backslashes included, stands for itself. Outside quotes, ">" or ">>" takes
-// the next word as the output target. Nothing else (&, |, %, $, ;) means anything.
+// Splits a command line of fixed text with the Windows rules that matter for our scripts:
+// blanks separate arguments, double quotes group and are removed (-pw"a b" is one argument
+// "-pwa b"), every other character, backslashes included, stands for itself. Outside quotes,
+// ">" or ">>" takes the next word as the output target. Nothing else (&, |, %, $, ;) means
+// anything.
 ParsedJob SplitCommandLine(const QString& line);
-
-// Reads a whole script: "@echo off" and "cls" do nothing, "set NAME=VALUE" sets a variable,
-// the last other non-empty line is the command.
-ParsedJob ParseJobScript(const QByteArray& script);
 
 // Turns an absolute host path into the form a Windows program under the launcher sees
 // ("/a/b" -> "Z:\a\b"), also after a switch prefix ("-t/a", "-lg/a", "@/a", "!/a").

@@ -1,20 +1,29 @@
 #include "grammar.h"
 
-#include "core/jobscript.h"
-
 namespace quovara {
 
 namespace {
 
-const QChar Quote = QLatin1Char('"');
-
-QString quoted(const QString& text) {
-    return Quote + text + Quote;
+// A value between double quotes.
+Fragment quoted(const QString& text, const char* field) {
+    return Fragment("\"") + Fragment::Value(text, QString::fromLatin1(field)) + Fragment("\"");
 }
 
-QString dasPath(const QString& tempRoot, PathStyle style) {
-    return style.join(style.join(tempRoot, QString::fromLatin1(names::WorkFolderName)),
-                      QString::fromLatin1(names::ConsoleOutput));
+// The program folder (or TempRoot) is a value; the names joined to it are fixed text.
+Fragment joined(const QString& folder, const char* field, PathStyle style, const QString& name) {
+    return Fragment::Value(folder, QString::fromLatin1(field)) + Fragment(style.sep + name);
+}
+
+Fragment quotedEngine(const QString& programFolder, PathStyle style, const char* name) {
+    return Fragment("\"") +
+           joined(programFolder, "program folder", style, QString::fromLatin1(name)) +
+           Fragment("\"");
+}
+
+Fragment workFile(const QString& tempRoot, PathStyle style, const char* name) {
+    return joined(tempRoot, "temporary folder", style,
+                  QString::fromLatin1(names::WorkFolderName) + style.sep +
+                      QString::fromLatin1(name));
 }
 
 } // namespace
@@ -29,9 +38,8 @@ QStringList DictionaryItems() {
             QStringLiteral("8192"), QStringLiteral("16384"), QStringLiteral("32768")};
 }
 
-QString EngineFragment(const QString& programFolder, PathStyle style) {
-    return quoted(style.join(programFolder, QString::fromLatin1(fragment::EngineName))) +
-           QLatin1Char(' ');
+Fragment EngineFragment(const QString& programFolder, PathStyle style) {
+    return quotedEngine(programFolder, style, fragment::EngineName) + Fragment(" ");
 }
 
 QString MethodFragment(int position) {
@@ -42,52 +50,56 @@ QString MethodFragment(int position) {
     return QString::fromLatin1(switches[position]);
 }
 
-QString DictionarySizeFragment(const QString& sizeText) {
-    return QStringLiteral("-md") + sizeText + QLatin1Char(' ');
+Fragment DictionarySizeFragment(const QString& sizeText) {
+    return Fragment("-md") + Fragment::Value(sizeText, QStringLiteral("dictionary size")) +
+           Fragment(" ");
 }
 
-QString PasswordFragment(const QString& password) {
-    return QStringLiteral("-pw") + quoted(password) + QLatin1Char(' ');
+Fragment PasswordFragment(const QString& password) {
+    return Fragment("-pw") + quoted(password, "password") + Fragment(" ");
 }
 
-QString TargetFragment(const QString& folder) {
-    return QStringLiteral("-t") + quoted(folder);
+Fragment TargetFragment(const QString& folder) {
+    return Fragment("-t") + quoted(folder, "destination folder");
 }
 
-QString AddArchiveFragment(const QString& archive) {
-    return quoted(archive) + QLatin1Char(' ');
+Fragment AddArchiveFragment(const QString& archive) {
+    return quoted(archive, "archive") + Fragment(" ");
 }
 
-QString ExtractArchiveFragment(const QString& archive) {
-    return quoted(archive);
+Fragment ExtractArchiveFragment(const QString& archive) {
+    return quoted(archive, "archive");
 }
 
-QString AddIncludeFragment(const QString& sourceFolder, const QString& pattern, PathStyle style) {
-    return quoted(style.join(sourceFolder, pattern)) + QLatin1Char(' ');
+Fragment AddIncludeFragment(const QString& sourceFolder, const QString& pattern, PathStyle style) {
+    return Fragment("\"") + Fragment::Value(sourceFolder, QStringLiteral("source")) +
+           Fragment(QString(style.sep)) + Fragment::Value(pattern, QStringLiteral("file type")) +
+           Fragment("\" ");
 }
 
-QString WholeFolderFragment(const QString& sourceFolder, PathStyle style) {
-    return quoted(style.join(sourceFolder, QStringLiteral("*.*")));
+Fragment WholeFolderFragment(const QString& sourceFolder, PathStyle style) {
+    return Fragment("\"") + joined(sourceFolder, "source", style, QStringLiteral("*.*")) +
+           Fragment("\"");
 }
 
-QString SingleFileFragment(const QString& file) {
-    return quoted(file);
+Fragment SingleFileFragment(const QString& file) {
+    return quoted(file, "source");
 }
 
-QString ExtractIncludeFragment(const QString& pattern) {
-    return QLatin1Char(' ') + quoted(pattern);
+Fragment ExtractIncludeFragment(const QString& pattern) {
+    return Fragment(" ") + quoted(pattern, "file type");
 }
 
-QString ExcludeFragment(const QString& pattern) {
-    return QStringLiteral(" !") + quoted(pattern);
+Fragment ExcludeFragment(const QString& pattern) {
+    return Fragment(" !") + quoted(pattern, "exclusion");
 }
 
-QString ListFileFragment(const QString& listFile) {
-    return QStringLiteral(" @") + quoted(listFile);
+Fragment ListFileFragment(const QString& listFile) {
+    return Fragment(" @") + quoted(listFile, "list file");
 }
 
-QString RedirectFragment(const QString& tempRoot, PathStyle style) {
-    return QStringLiteral(" > ") + dasPath(tempRoot, style);
+Fragment RedirectFragment(const QString& tempRoot, PathStyle style) {
+    return Fragment(" > ") + workFile(tempRoot, style, names::ConsoleOutput);
 }
 
 QStringList SplitPatterns(const QString& text) {
@@ -103,10 +115,10 @@ QString MethodMemory::choose(int position) {
     return switch_;
 }
 
-QStringList AddCommandPieces(const AddOptions& o, MethodMemory& methods,
-                             const QString& programFolder, const QString& tempRoot,
-                             PathStyle style) {
-    QStringList pieces;
+CommandPieces AddCommandPieces(const AddOptions& o, MethodMemory& methods,
+                               const QString& programFolder, const QString& tempRoot,
+                               PathStyle style) {
+    CommandPieces pieces;
     pieces << EngineFragment(programFolder, style);
     pieces << QString::fromLatin1(o.move ? fragment::Move : fragment::Add);
     pieces << QString::fromLatin1(o.recurse ? fragment::RecurseOn : fragment::RecurseOff);
@@ -139,9 +151,9 @@ QStringList AddCommandPieces(const AddOptions& o, MethodMemory& methods,
     return pieces;
 }
 
-QStringList ExtractCommandPieces(const ExtractOptions& o, const QString& programFolder,
-                                 const QString& tempRoot, PathStyle style) {
-    QStringList pieces;
+CommandPieces ExtractCommandPieces(const ExtractOptions& o, const QString& programFolder,
+                                   const QString& tempRoot, PathStyle style) {
+    CommandPieces pieces;
     pieces << EngineFragment(programFolder, style);
     // The command letter and whether the target is written come from the two controls; the
     // four cases are exclusive.
@@ -182,58 +194,57 @@ QStringList ExtractCommandPieces(const ExtractOptions& o, const QString& program
     return pieces;
 }
 
-QStringList ListCommandPieces(const QString& programFolder, const QString& tempRoot,
-                              const QString& password, const QString& archive, PathStyle style) {
-    QStringList pieces;
-    pieces << quoted(style.join(programFolder, QString::fromLatin1(fragment::EngineName)));
+CommandPieces ListCommandPieces(const QString& programFolder, const QString& tempRoot,
+                                const QString& password, const QString& archive, PathStyle style) {
+    CommandPieces pieces;
+    pieces << quotedEngine(programFolder, style, fragment::EngineName);
     pieces << QString::fromLatin1(fragment::List);
-    pieces << style.join(style.join(tempRoot, QString::fromLatin1(names::WorkFolderName)),
-                         QString::fromLatin1(names::ListLog)) +
-                  QLatin1Char(' ');
+    pieces << workFile(tempRoot, style, names::ListLog) + Fragment(" ");
     if (!password.isEmpty())
         pieces << PasswordFragment(password);
-    pieces << quoted(archive);
+    pieces << quoted(archive, "archive");
     return pieces;
 }
 
-QStringList TestCommandPieces(const QString& programFolder, const QString& tempRoot,
-                              const QString& archive, PathStyle style) {
-    QStringList pieces;
-    pieces << quoted(style.join(programFolder, QString::fromLatin1(fragment::EngineNameUpper)));
+CommandPieces TestCommandPieces(const QString& programFolder, const QString& tempRoot,
+                                const QString& archive, PathStyle style) {
+    CommandPieces pieces;
+    pieces << quotedEngine(programFolder, style, fragment::EngineNameUpper);
     pieces << QString::fromLatin1(fragment::Test);
-    pieces << quoted(archive);
+    pieces << quoted(archive, "archive");
     pieces << RedirectFragment(tempRoot, style);
     return pieces;
 }
 
-QStringList SingleItemCommandPieces(const QString& programFolder, const QString& tempRoot,
-                                    const QString& password, const QString& archive,
-                                    const QString& item, PathStyle style) {
-    QStringList pieces;
-    pieces << quoted(style.join(programFolder, QString::fromLatin1(fragment::EngineNameUpper))) +
-                  QString::fromLatin1(fragment::SingleItemExtract) +
-                  quoted(style.join(tempRoot, QString::fromLatin1(names::WorkFolderName))) +
-                  QString::fromLatin1(fragment::YesToAll);
+CommandPieces SingleItemCommandPieces(const QString& programFolder, const QString& tempRoot,
+                                      const QString& password, const QString& archive,
+                                      const QString& item, PathStyle style) {
+    CommandPieces pieces;
+    pieces << quotedEngine(programFolder, style, fragment::EngineNameUpper) +
+                  Fragment(fragment::SingleItemExtract) + Fragment("\"") +
+                  joined(tempRoot, "temporary folder", style,
+                         QString::fromLatin1(names::WorkFolderName)) +
+                  Fragment("\"") + Fragment(fragment::YesToAll);
     if (!password.isEmpty())
         pieces << PasswordFragment(password);
-    pieces << quoted(archive) + QLatin1Char(' ') + quoted(item);
+    pieces << quoted(archive, "archive") + Fragment(" ") + quoted(item, "item");
     return pieces;
 }
 
-QString CommandLine(const QStringList& pieces) {
-    return pieces.join(QString());
-}
-
 bool WriteAddJobScript(const QString& scriptPath, const AddOptions& options, MethodMemory& methods,
-                       const QString& programFolder, const QString& tempRoot, PathStyle style) {
+                       const QString& programFolder, const QString& tempRoot, PathStyle style,
+                       QString* error) {
     return WriteJobScript(scriptPath, Preamble::Job,
-                          AddCommandPieces(options, methods, programFolder, tempRoot, style));
+                          AddCommandPieces(options, methods, programFolder, tempRoot, style),
+                          LastLine::NoLineEnd, error);
 }
 
 bool WriteExtractJobScript(const QString& scriptPath, const ExtractOptions& options,
-                           const QString& programFolder, const QString& tempRoot, PathStyle style) {
+                           const QString& programFolder, const QString& tempRoot, PathStyle style,
+                           QString* error) {
     return WriteJobScript(scriptPath, Preamble::Job,
-                          ExtractCommandPieces(options, programFolder, tempRoot, style));
+                          ExtractCommandPieces(options, programFolder, tempRoot, style),
+                          LastLine::NoLineEnd, error);
 }
 
 } // namespace quovara

@@ -5,9 +5,12 @@
 // A command line is a list of pieces appended one after the other with nothing between them.
 // Most pieces carry their own leading or trailing blank, so the spacing of the line (two blanks
 // in a row in some places, none in others) comes from the pieces themselves. Nothing is quoted,
-// escaped or validated beyond what a piece says: a quote inside a password breaks the line.
+// escaped or validated beyond what a piece says: a quote inside a password stands unescaped in
+// the script. Paths, passwords and patterns are values of their pieces (core/jobscript.h), so
+// the job that runs keeps each of them inside its own argument.
 #pragma once
 
+#include "core/jobscript.h"
 #include "core/places.h"
 
 #include <QString>
@@ -46,32 +49,32 @@ inline constexpr int DefaultMethodPosition = 2;
 inline constexpr int DefaultDictionaryPosition = 2;
 
 // '"' + programFolder + sep + "uharc.exe" + '"' + ' '.
-QString EngineFragment(const QString& programFolder, PathStyle style);
+Fragment EngineFragment(const QString& programFolder, PathStyle style);
 // The method switch of a list position ("-m0 " ... "-mz "); empty outside 0..5.
 QString MethodFragment(int position);
 // "-md" + size text + ' '.
-QString DictionarySizeFragment(const QString& sizeText);
+Fragment DictionarySizeFragment(const QString& sizeText);
 // "-pw" + '"' + password + '"' + ' ' (the password as it stands, even when empty).
-QString PasswordFragment(const QString& password);
+Fragment PasswordFragment(const QString& password);
 // "-t" + '"' + folder + '"'.
-QString TargetFragment(const QString& folder);
+Fragment TargetFragment(const QString& folder);
 // '"' + archive + '"' + ' ' (Add) or without the blank (Extract).
-QString AddArchiveFragment(const QString& archive);
-QString ExtractArchiveFragment(const QString& archive);
+Fragment AddArchiveFragment(const QString& archive);
+Fragment ExtractArchiveFragment(const QString& archive);
 // '"' + folder + sep + pattern + '"' + ' '.
-QString AddIncludeFragment(const QString& sourceFolder, const QString& pattern, PathStyle style);
+Fragment AddIncludeFragment(const QString& sourceFolder, const QString& pattern, PathStyle style);
 // '"' + folder + sep + "*.*" + '"'.
-QString WholeFolderFragment(const QString& sourceFolder, PathStyle style);
+Fragment WholeFolderFragment(const QString& sourceFolder, PathStyle style);
 // '"' + file + '"'.
-QString SingleFileFragment(const QString& file);
+Fragment SingleFileFragment(const QString& file);
 // ' ' + '"' + pattern + '"'.
-QString ExtractIncludeFragment(const QString& pattern);
+Fragment ExtractIncludeFragment(const QString& pattern);
 // " !" + '"' + pattern + '"'.
-QString ExcludeFragment(const QString& pattern);
+Fragment ExcludeFragment(const QString& pattern);
 // " @" + '"' + list file + '"'.
-QString ListFileFragment(const QString& listFile);
+Fragment ListFileFragment(const QString& listFile);
 // " > " + tempRoot + sep + "Corvana" + sep + "das.txt", not quoted.
-QString RedirectFragment(const QString& tempRoot, PathStyle style);
+Fragment RedirectFragment(const QString& tempRoot, PathStyle style);
 
 // Splits a pattern text at every comma. Elements are kept exactly as they come out (blanks
 // around commas stay, two adjacent commas give an empty element); an empty text gives none.
@@ -132,35 +135,34 @@ struct ExtractOptions {
 
 // The command pieces of an Add line (engine to redirection), in order. `methods` is the
 // dialog's method memory and is updated from `options.methodPosition`.
-QStringList AddCommandPieces(const AddOptions& options, MethodMemory& methods,
-                             const QString& programFolder, const QString& tempRoot,
-                             PathStyle style);
-QStringList ExtractCommandPieces(const ExtractOptions& options, const QString& programFolder,
-                                 const QString& tempRoot, PathStyle style);
+CommandPieces AddCommandPieces(const AddOptions& options, MethodMemory& methods,
+                               const QString& programFolder, const QString& tempRoot,
+                               PathStyle style);
+CommandPieces ExtractCommandPieces(const ExtractOptions& options, const QString& programFolder,
+                                   const QString& tempRoot, PathStyle style);
 
 // The list line: '"' + engine + '"', " l -d2 -y+ -lg", the log path + ' ', the password
 // fragment when a password is known, the quoted archive.
-QStringList ListCommandPieces(const QString& programFolder, const QString& tempRoot,
-                              const QString& password, const QString& archive, PathStyle style);
+CommandPieces ListCommandPieces(const QString& programFolder, const QString& tempRoot,
+                                const QString& password, const QString& archive, PathStyle style);
 // The test line: '"' + engine ("UHARC.exe") + '"', " t -y+ ", the quoted archive, the
 // redirection. Its script ends the line with a line break.
-QStringList TestCommandPieces(const QString& programFolder, const QString& tempRoot,
-                              const QString& archive, PathStyle style);
+CommandPieces TestCommandPieces(const QString& programFolder, const QString& tempRoot,
+                                const QString& archive, PathStyle style);
 // The single-item line: '"' + engine ("UHARC.exe") + '"' + " e  -o+ -t" + '"' + WorkFolder +
 // '"' + " -y+ ", the password fragment when a password is known, then the quoted archive, a
 // blank and the quoted item. No redirection.
-QStringList SingleItemCommandPieces(const QString& programFolder, const QString& tempRoot,
-                                    const QString& password, const QString& archive,
-                                    const QString& item, PathStyle style);
-
-// The pieces joined: the command line exactly as it stands in the script.
-QString CommandLine(const QStringList& pieces);
+CommandPieces SingleItemCommandPieces(const QString& programFolder, const QString& tempRoot,
+                                      const QString& password, const QString& archive,
+                                      const QString& item, PathStyle style);
 
 // Writes the Add or Extract job script ("@echo off", "cls", "set uharc_opt= -d2", then the line
-// without a line end). False when the file cannot be written.
+// without a line end). False when it is refused or cannot be written; `error` then says why.
 bool WriteAddJobScript(const QString& scriptPath, const AddOptions& options, MethodMemory& methods,
-                       const QString& programFolder, const QString& tempRoot, PathStyle style);
+                       const QString& programFolder, const QString& tempRoot, PathStyle style,
+                       QString* error = nullptr);
 bool WriteExtractJobScript(const QString& scriptPath, const ExtractOptions& options,
-                           const QString& programFolder, const QString& tempRoot, PathStyle style);
+                           const QString& programFolder, const QString& tempRoot, PathStyle style,
+                           QString* error = nullptr);
 
 } // namespace quovara

@@ -171,6 +171,20 @@ private:
 
 } // namespace
 
+QString EntryName(const QString& line) {
+    return TrimBlanks(line).replace(QLatin1Char('/'), QLatin1Char('\\'));
+}
+
+QString FileCountText(const QString& field) {
+    // The engine writes "<n> files", and "1 file" for one: the count is the number the
+    // field starts with, whatever word follows it.
+    const QString t = TrimBlanks(field);
+    qsizetype n = 0;
+    while (n < t.size() && t[n].unicode() >= '0' && t[n].unicode() <= '9')
+        ++n;
+    return t.left(n);
+}
+
 bool BuildMirrorTree(const QStringList& lines, const QString& scratchFolder) {
     MirrorWriter writer(scratchFolder);
     if (!writer.rootOk())
@@ -185,11 +199,13 @@ bool BuildMirrorTree(const QStringList& lines, const QString& scratchFolder) {
             qCDebug(lcListing) << "listing ends before its separator line";
             return false;
         }
-        name = lines[next].trimmed();
+        name = EntryName(lines[next]);
         next += 2;
         QString folder = sGivePath(name);
         if (Tipo(folder) == 1)
             folder = folder.mid(2);
+        else if (folder.size() == 2 && folder[1] == QLatin1Char(':'))
+            folder.clear(); // an entry at a drive's root ("C:\a.txt") lands at the root
         const QString file = sGiveFile(name);
         writer.placeholder(writer.makeFolder(folder), file);
     }
@@ -210,13 +226,9 @@ std::optional<ArchiveTotals> ReadTotals(const QStringList& lines) {
     const QString line2 = i + 2 < lines.size() ? lines[i + 2] : QString();
 
     ArchiveTotals t;
-    const QString count = line1.left(20).trimmed();
-    t.fileCountText = count.left(std::max<qsizetype>(0, count.size() - 6));
+    t.fileCountText = FileCountText(line1.left(20));
     auto mb = [](const QString& field) {
-        QString s = field;
-        while (!s.isEmpty() && s.front() == QLatin1Char(' '))
-            s.remove(0, 1);
-        return NumberText(RoundHalfEven(Val(s) / 1048576.0, 2));
+        return NumberText(RoundHalfEven(Val(TrimLeadingBlanks(field)) / 1048576.0, 2));
     };
     t.normalSizeMB = mb(line1.mid(20));
     t.packedSizeMB = mb(line2.left(40));
@@ -251,13 +263,25 @@ ArchiveLister::ArchiveLister(Prompter& prompter, EngineSwitchState& engineSwitch
 
 void ArchiveLister::Batch() {
     const QString log = WorkFile(names::ListLog);
-    if (FileExists(log) && !QFile::remove(log))
-        qCDebug(lcListing) << "could not delete" << log;
-    const QString script = WorkFile(names::ListScript);
-    WriteJobScript(script, Preamble::List,
-                   ListCommandPieces(ProgramFolder(), TempRoot(), listing_.password,
-                                     listing_.archivePath, PathStyle::host()));
+    // The engine appends to its log: any old one goes, also an empty one or a link standing in
+    // its place (removing a link never touches what it points to).
+    if (QFileInfo(log).exists() || QFileInfo(log).isSymLink()) {
+        if (!QFile::remove(log))
+            qCDebug(lcListing) << "could not delete" << log;
+    }
     startError_.clear();
+    const QString script = WorkFile(names::ListScript);
+    QString refused;
+    if (!WriteJobScript(script, Preamble::List,
+                        ListCommandPieces(ProgramFolder(), TempRoot(), listing_.password,
+                                          listing_.archivePath, PathStyle::host()),
+                        LastLine::NoLineEnd, &refused)) {
+        // Nothing runs: the user is told what is wrong, and the listing fails.
+        prompter_->critical(refused);
+        startError_ = refused;
+        listing_.status = ListStatus::Failed;
+        return;
+    }
     if (!RunAndWait(script, 0, WorkFolder(), {}, &startError_))
         qCDebug(lcListing) << "list job not started:" << startError_;
     if (!QFileInfo::exists(log)) {
@@ -280,7 +304,7 @@ ListStatus ArchiveLister::SpecificaErrore(const QString& message) {
         SwitchEngine(switch_, ProgramFolder(), message);
         return ListStatus::EngineSwitched;
     }
-    const QString t = message.trimmed();
+    const QString t = TrimBlanks(message);
     if (t == QLatin1String("Archive requires a password to access")) {
         if (!QFile::remove(log))
             qCDebug(lcListing) << "could not delete" << log;

@@ -25,7 +25,8 @@ struct ArchiveTotals {
     QString normalSizeMB; // bytes / 1048576, rounded to 2 decimals, as text
     QString packedSizeMB;
     QString modeText;
-    qint16 ratio = 0;
+    // Empty when the engine's ratio does not fit 16 bits: the ratio bar then keeps its value.
+    std::optional<qint16> ratio;
 
     QString filesLabel() const { return QStringLiteral("Files: ") + fileCountText; }
     QString normalSizeLabel() const {
@@ -61,6 +62,15 @@ QStringList ReadEngineLines(const QString& path, bool* opened = nullptr);
 // The error message in the listing log's lines: the last "ERROR:" line's text (cut before its
 // first "--"), or an engine version request, which ends the scan. Empty when there is none.
 QString ScanListingErrors(const QStringList& lines);
+
+// The stored name of an entry line as the mirror tree uses it: blanks trimmed, and "/" taken
+// as the folder separator "\" (the engine treats both alike), so that a name is split into
+// folders and file one way everywhere.
+QString EntryName(const QString& line);
+
+// The file count of the first totals line's field (columns 1-20): the number it starts with.
+// "15 files" and "1 file" give "15" and "1".
+QString FileCountText(const QString& field);
 
 // Builds the mirror tree from the log's lines under `scratchFolder`. False when the log ends
 // before the separator line. No entry name ("..", drives, leading separators, links) can make

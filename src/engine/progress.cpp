@@ -64,13 +64,13 @@ std::optional<QString> ParseAddProgress(const QString& line, ProgressState& stat
     state.percent = Val(columns(line, 46, 50));
     // Column 61 belongs to both size fields: the format has them overlap by one column.
     state.doneMB = megabytes(Val(columns(line, 51, 61)));
-    state.packedMB = megabytes(Val(columns(line, 61, 72).trimmed()));
-    state.ratioText = columns(line, 73, 79).trimmed();
+    state.packedMB = megabytes(Val(TrimBlanks(columns(line, 61, 72))));
+    state.ratioText = TrimBlanks(columns(line, 73, 79));
     return SizesText(state);
 }
 
 void ParseExtractProgress(const QString& line, ProgressState& state) {
-    state.jobText = columns(line, 1, 69).trimmed();
+    state.jobText = TrimBlanks(columns(line, 1, 69));
     state.percent = Val(columns(line, 76, 79));
 }
 

@@ -12,7 +12,7 @@ bool IsVersionRequest(const QString& message, const EngineSwitchState& state) {
 
 void SwitchEngine(EngineSwitchState& state, const QString& programFolder, const QString& message) {
     state.engineSwitched = true;
-    state.switchedVersion = message.trimmed().right(3);
+    state.switchedVersion = TrimBlanks(message).right(3);
     qCDebug(lcEngineSwitch) << "switching to engine" << state.switchedVersion;
     RenameEngineFile(programFolder, QStringLiteral("Uharc.exe"), QStringLiteral("Uharc0.6.fns"));
     RenameEngineFile(programFolder,

@@ -1,8 +1,12 @@
 #include "core/jobscript.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 using namespace quovara;
 
@@ -45,4 +49,138 @@ TEST(JobScript, WriteReplacesAnOlderScript) {
 
 TEST(JobScript, UnwritablePathFails) {
     EXPECT_FALSE(WriteJobScript("/nonexistent-folder/x/Apri.bat", Preamble::List, {"x"}));
+}
+
+namespace {
+
+QByteArray fileBytes(const QString& path) {
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+// An archive job as the dialogs write it, with `archive` and `password` as values.
+CommandPieces addPieces(const QString& archive, const QString& password = QString()) {
+    CommandPieces pieces{Fragment("\"") + Fragment::Value("/p/uharc.exe", "program folder") + "\" ",
+                         "a "};
+    if (!password.isEmpty())
+        pieces << "-pw\"" + Fragment::Value(password, "password") + "\" ";
+    pieces << "\"" + Fragment::Value(archive, "archive") + "\"";
+    return pieces;
+}
+
+} // namespace
+
+TEST(JobScript, NamesInEveryScriptAreWrittenAsUtf8ByteForByte) {
+    QTemporaryDir dir;
+    const QString path = dir.filePath("Archivia.bat");
+    const QString archive = QString::fromUtf8("/home/Łukasz/Привет Αθήνα 日本語 📦 it's.uha");
+    const QString password = QString::fromUtf8("zażółć-пароль-パス");
+    ASSERT_TRUE(WriteJobScript(path, Preamble::Job, addPieces(archive, password)));
+    EXPECT_EQ(fileBytes(path),
+              QByteArray("@echo off\r\ncls\r\nset uharc_opt= -d2\r\n\"/p/uharc.exe\" a -pw\"") +
+                  password.toUtf8() + "\" \"" + archive.toUtf8() + "\"");
+    // The job that runs is made of the same values, unchanged.
+    const auto written = WrittenJobScript(path);
+    ASSERT_TRUE(written.has_value());
+    EXPECT_EQ(written->job.arguments,
+              QStringList({"/p/uharc.exe", "a", "-pw" + password, archive}));
+}
+
+TEST(JobScript, ALineBreakInAnyValueIsRefusedAndNothingIsWritten) {
+    QTemporaryDir dir;
+    const QString path = dir.filePath("Apri.bat");
+    QString error;
+    EXPECT_FALSE(WriteJobScript(path, Preamble::List, addPieces("/tmp/x\nrun.sh"),
+                                LastLine::NoLineEnd, &error));
+    EXPECT_EQ(error, "The archive holds a line break, which a job line cannot carry:\n"
+                     "/tmp/x\\nrun.sh\nNothing was run.");
+    EXPECT_FALSE(QFile::exists(path));
+
+    EXPECT_FALSE(WriteJobScript(path, Preamble::List, addPieces("/tmp/a.uha", "secret\r\n"),
+                                LastLine::NoLineEnd, &error));
+    // The password itself is never shown.
+    EXPECT_EQ(error, "The password holds a line break, which a job line cannot carry. Nothing "
+                     "was run.");
+    EXPECT_FALSE(
+        WriteJobScript(path, Preamble::List,
+                       {"\"/p/uharc.exe\" a \"" +
+                        Fragment::Value(QString("/tmp/a") + QChar(0) + "b", "source") + "\""},
+                       LastLine::NoLineEnd, &error));
+    EXPECT_EQ(error, "The source holds a line break, which a job line cannot carry:\n"
+                     "/tmp/a\\0b\nNothing was run.");
+    EXPECT_FALSE(QFile::exists(path));
+    EXPECT_FALSE(WrittenJobScript(path).has_value());
+}
+
+TEST(JobScript, AWindowsEngineRefusesANameOutsideItsCodePage) {
+    EXPECT_EQ(CommandPiecesProblem(addPieces(QString::fromUtf8("/d/café ñ ü.uha")), true),
+              QString());
+    EXPECT_EQ(CommandPiecesProblem(addPieces(QString::fromUtf8("/d/Łódź.uha")), true),
+              QString::fromUtf8("The archive\n/d/Łódź.uha\nholds letters that the engine cannot "
+                                "read: it is a Windows console program that knows only the "
+                                "letters of code page 437. Nothing was run; rename it with such "
+                                "letters."));
+    EXPECT_TRUE(CommandPiecesProblem(addPieces("/d/a.uha", QString::fromUtf8("пароль")), true)
+                    .startsWith("The password holds letters that the engine cannot read"));
+    // A Linux engine takes every name.
+    EXPECT_EQ(CommandPiecesProblem(addPieces(QString::fromUtf8("/d/Łódź 📦.uha")), false),
+              QString());
+}
+
+TEST(JobScript, ALinkPlantedAsTheScriptIsNotWrittenThrough) {
+    QTemporaryDir dir;
+    const QString victim = dir.filePath("victim.txt");
+    {
+        QFile f(victim);
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+        f.write("keep me");
+    }
+    const QString path = dir.filePath("Apri.bat");
+    ASSERT_TRUE(QFile::link(victim, path));
+    QString error;
+    EXPECT_FALSE(WriteJobScript(path, Preamble::List, {"x"}, LastLine::NoLineEnd, &error));
+    EXPECT_TRUE(error.startsWith("The job script " + path + " cannot be written:"))
+        << error.toStdString();
+    EXPECT_EQ(fileBytes(victim), QByteArray("keep me"));
+    EXPECT_FALSE(WrittenJobScript(path).has_value());
+}
+
+TEST(JobScript, AFolderOthersCanWriteIsRefused) {
+    QTemporaryDir dir;
+    const QString folder = dir.filePath("shared");
+    ASSERT_TRUE(QDir().mkdir(folder));
+    QFile::setPermissions(folder, QFileDevice::Permissions(0x7777));
+    const QString path = folder + "/Apri.bat";
+    QString error;
+    EXPECT_FALSE(WriteJobScript(path, Preamble::List, {"x"}, LastLine::NoLineEnd, &error));
+    EXPECT_EQ(error, "Quovara cannot use its work folder\n" + folder +
+                         "\nbecause other users have access to it (mode 0777).\nNothing is "
+                         "written there, and no job runs until this is put right.");
+    EXPECT_FALSE(QFile::exists(path));
+}
+
+TEST(JobScript, AFolderOfAnotherUserIsRefused) {
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "giving a folder to another user needs root";
+    QTemporaryDir dir;
+    const QString folder = dir.filePath("theirs");
+    ASSERT_TRUE(QDir().mkdir(folder));
+    ASSERT_EQ(::chmod(QFile::encodeName(folder).constData(), 0700), 0);
+    ASSERT_EQ(::chown(QFile::encodeName(folder).constData(), 65534, 65534), 0);
+    QString error;
+    EXPECT_FALSE(
+        WriteJobScript(folder + "/Apri.bat", Preamble::List, {"x"}, LastLine::NoLineEnd, &error));
+    EXPECT_EQ(error, "Quovara cannot use its work folder\n" + folder +
+                         "\nbecause it belongs to another user.\nNothing is written there, and "
+                         "no job runs until this is put right.");
+    EXPECT_FALSE(QFile::exists(folder + "/Apri.bat"));
+}
+
+TEST(JobScript, AScriptIsCreatedReadableOnlyByItsUser) {
+    QTemporaryDir dir;
+    const QString path = dir.filePath("Apri.bat");
+    ASSERT_TRUE(WriteJobScript(path, Preamble::List, {"x"}));
+    struct stat st;
+    ASSERT_EQ(::lstat(QFile::encodeName(path).constData(), &st), 0);
+    EXPECT_EQ(st.st_mode & 0777, 0600u);
 }

@@ -1,5 +1,6 @@
 #include "core/jobprocess.h"
 #include "core/jobscript.h"
+#include "core/places.h"
 #include "core/processcontrol.h"
 #include "core/runner.h"
 #include "test_support.h"
@@ -8,6 +9,7 @@
 #include <QProcess>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QTimer>
 #include <gtest/gtest.h>
 
@@ -56,33 +58,47 @@ TEST(DeadlineReached, DeadlinePastMidnightWaitsForTheWrap) {
     EXPECT_TRUE(DeadlineReached(10, 86398, 3, true));
 }
 
-TEST(RunAndWait, RunsTheScriptsCommandWithItsVariablesAndRedirection) {
-    QTemporaryDir dir;
-    const QString engine = dir.filePath("uharc.exe");
-    writeExecutable(engine, kRecordingEngine);
-    const QString record = dir.filePath("record.txt");
+// Each runner test has its own TempRoot and ProgramFolder: the engine is "uharc.exe" in the
+// ProgramFolder and the scripts are written into the private WorkFolder, as the program does.
+class Runner : public ::testing::Test {
+protected:
+    void SetUp() override { ASSERT_TRUE(EnsurePrivateWorkFolder().isEmpty()); }
+    QString engine() const { return places.programFolder() + "/uharc.exe"; }
+    QString quotedEngine() const { return "\"" + engine() + "\" "; }
+    QString das() const { return WorkFile(names::ConsoleOutput); }
+    QString script(const char* name) const { return WorkFile(name); }
+    // The engine is a copy of sleep: it runs as long as its argument says.
+    void sleeperEngine() {
+        QFile::remove(engine());
+        copyOfSleep(places.programFolder(), "uharc.exe");
+    }
+    ScopedPlaces places;
+};
+
+TEST_F(Runner, RunsTheScriptsCommandWithItsVariablesAndRedirection) {
+    writeExecutable(engine(), kRecordingEngine);
+    const QString record = places.path() + "/record.txt";
     qputenv("QV_RECORD", record.toLocal8Bit());
-    const QString script = dir.filePath("Archivia.bat");
-    const QString das = dir.filePath("das.txt");
-    ASSERT_TRUE(WriteJobScript(script, Preamble::Job,
-                               {"\"" + dir.filePath("UHARC.exe") + "\" ", "a ",
-                                "-pw\"a b;c&d$(touch " + dir.filePath("pwned") + ")\" ",
-                                "\"" + dir.filePath("x y.uha") + "\"", " > " + das}));
-    EXPECT_TRUE(RunAndWait(script, 0, dir.path()));
-    EXPECT_EQ(readAll(das), QByteArray("engine output\r\n"));
-    const QString expected = "a\n-pwa b;c&d$(touch " + dir.filePath("pwned") + ")\n" +
-                             dir.filePath("x y.uha") + "\nnotty\nopt=[ -d2]\ncwd=" + dir.path() +
-                             "\n";
+    const QString pwned = places.path() + "/pwned";
+    ASSERT_TRUE(WriteJobScript(
+        script(names::AddScript), Preamble::Job,
+        {Fragment("\"") + Fragment::Value(engine(), "program") + "\" ", "a ",
+         "-pw\"" + Fragment::Value("a b;c&d$(touch " + pwned + ")", "password") + "\" ",
+         "\"" + Fragment::Value(places.path() + "/x y.uha", "archive") + "\"",
+         " > " + Fragment::Value(das(), "output")}));
+    EXPECT_TRUE(RunAndWait(script(names::AddScript), 0, places.path()));
+    EXPECT_EQ(readAll(das()), QByteArray("engine output\r\n"));
+    // Every engine has a terminal as its console.
+    const QString expected = "a\n-pwa b;c&d$(touch " + pwned + ")\n" + places.path() +
+                             "/x y.uha\ntty\nopt=[ -d2]\ncwd=" + places.path() + "\n";
     EXPECT_EQ(QString::fromLocal8Bit(readAll(record)), expected);
-    EXPECT_FALSE(QFile::exists(dir.filePath("pwned")));
+    EXPECT_FALSE(QFile::exists(pwned));
 }
 
-TEST(RunAndWait, MissingProgramIsAFailedStart) {
-    QTemporaryDir dir;
-    const QString script = dir.filePath("Apri.bat");
-    WriteJobScript(script, Preamble::List, {"\"" + dir.filePath("uharc.exe") + "\" l"});
+TEST_F(Runner, MissingProgramIsAFailedStart) {
+    WriteJobScript(script(names::ListScript), Preamble::List, {quotedEngine() + "l"});
     QString error;
-    EXPECT_FALSE(RunAndWait(script, 0, dir.path(), {}, &error));
+    EXPECT_FALSE(RunAndWait(script(names::ListScript), 0, places.path(), {}, &error));
     EXPECT_TRUE(error.contains("does not exist")) << error.toStdString();
 }
 
@@ -90,36 +106,33 @@ TEST(RunAndWait, MissingScriptIsAFailedStart) {
     EXPECT_FALSE(RunAndWait("/nonexistent/Apri.bat", 0));
 }
 
-TEST(RunAndWait, WindowsEngineWithoutLauncherIsAFailedStart) {
-    QTemporaryDir dir;
-    writeFile(dir.filePath("uharc.exe"), "MZ\x90\x00 not really a program");
-    const QString script = dir.filePath("Apri.bat");
-    WriteJobScript(script, Preamble::List, {"\"" + dir.filePath("uharc.exe") + "\" l"});
-    qputenv("QUOVARA_WINE", dir.filePath("no-such-launcher").toLocal8Bit());
+TEST_F(Runner, WindowsEngineWithoutLauncherIsAFailedStart) {
+    writeFile(engine(), "MZ\x90\x00 not really a program");
+    WriteJobScript(script(names::ListScript), Preamble::List, {quotedEngine() + "l"});
+    qputenv("QUOVARA_WINE", (places.path() + "/no-such-launcher").toLocal8Bit());
     QString error;
-    EXPECT_FALSE(RunAndWait(script, 0, dir.path(), {}, &error));
+    EXPECT_FALSE(RunAndWait(script(names::ListScript), 0, places.path(), {}, &error));
     EXPECT_TRUE(error.contains("launcher")) << error.toStdString();
     qunsetenv("QUOVARA_WINE");
 }
 
-TEST(RunAndWait, WindowsEngineRunsThroughTheLauncherWithATerminal) {
-    QTemporaryDir dir;
-    writeFile(dir.filePath("uharc.exe"), "MZ\x90\x00 a Windows program");
-    const QString launcher = dir.filePath("fake-wine");
+TEST_F(Runner, WindowsEngineRunsThroughTheLauncherWithATerminal) {
+    writeFile(engine(), "MZ\x90\x00 a Windows program");
+    const QString launcher = places.path() + "/fake-wine";
     writeExecutable(launcher, kRecordingEngine);
-    const QString record = dir.filePath("record.txt");
+    const QString record = places.path() + "/record.txt";
     qputenv("QV_RECORD", record.toLocal8Bit());
     qputenv("QUOVARA_WINE", launcher.toLocal8Bit());
-    const QString script = dir.filePath("Estrai.bat");
-    WriteJobScript(script, Preamble::Job,
-                   {"\"" + dir.filePath("Uharc.exe") + "\" ", "x ", "-t\"/out/dir\"", " -o+ ",
-                    "\"/arch/a.uha\"", " !\"*.bak\"", " @\"/l/list.txt\"",
-                    " > " + dir.filePath("das.txt")});
-    EXPECT_TRUE(RunAndWait(script, 0, dir.path()));
+    // The engine's name in another spelling of its case is still the engine.
+    const QString otherCase = places.programFolder() + "/Uharc.exe";
+    WriteJobScript(script(names::ExtractScript), Preamble::Job,
+                   {"\"" + otherCase + "\" ", "x ", "-t\"/out/dir\"", " -o+ ", "\"/arch/a.uha\"",
+                    " !\"*.bak\"", " @\"/l/list.txt\"", " > " + das()});
+    EXPECT_TRUE(RunAndWait(script(names::ExtractScript), 0, places.path()));
     qunsetenv("QUOVARA_WINE");
     const QStringList lines = QString::fromLocal8Bit(readAll(record)).split('\n');
     ASSERT_GE(lines.size(), 8);
-    EXPECT_EQ(lines[0], dir.filePath("uharc.exe"));
+    EXPECT_EQ(lines[0], engine());
     EXPECT_EQ(lines[1], "x");
     EXPECT_EQ(lines[2], "-tZ:\\out\\dir");
     EXPECT_EQ(lines[3], "-o+");
@@ -127,38 +140,32 @@ TEST(RunAndWait, WindowsEngineRunsThroughTheLauncherWithATerminal) {
     EXPECT_EQ(lines[5], "!*.bak");
     EXPECT_EQ(lines[6], "@Z:\\l\\list.txt");
     EXPECT_EQ(lines[7], "tty");
-    EXPECT_EQ(readAll(dir.filePath("das.txt")), QByteArray("engine output\r\n"));
+    EXPECT_EQ(readAll(das()), QByteArray("engine output\r\n"));
 }
 
-TEST(RunAndWait, TimeOutZeroWaitsAsLongAsTheProcessRuns) {
-    QTemporaryDir dir;
-    copyOfSleep(dir.path(), "qvsleeper");
-    const QString script = dir.filePath("Apri.bat");
-    WriteJobScript(script, Preamble::List, {"\"" + dir.filePath("qvsleeper") + "\" 0.6"});
+TEST_F(Runner, TimeOutZeroWaitsAsLongAsTheProcessRuns) {
+    sleeperEngine();
+    WriteJobScript(script(names::ListScript), Preamble::List, {quotedEngine() + "0.6"});
     QElapsedTimer t;
     t.start();
-    EXPECT_TRUE(RunAndWait(script, 0));
+    EXPECT_TRUE(RunAndWait(script(names::ListScript), 0));
     EXPECT_GE(t.elapsed(), 550);
 }
 
-TEST(RunAndWait, KeepsTheEventLoopLiveWhileWaiting) {
-    QTemporaryDir dir;
-    copyOfSleep(dir.path(), "qvsleeper");
-    const QString script = dir.filePath("Apri.bat");
-    WriteJobScript(script, Preamble::List, {"\"" + dir.filePath("qvsleeper") + "\" 1"});
+TEST_F(Runner, KeepsTheEventLoopLiveWhileWaiting) {
+    sleeperEngine();
+    WriteJobScript(script(names::ListScript), Preamble::List, {quotedEngine() + "1"});
     int ticks = 0;
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, [&] { ++ticks; });
     timer.start(50);
-    EXPECT_TRUE(RunAndWait(script, 0));
+    EXPECT_TRUE(RunAndWait(script(names::ListScript), 0));
     EXPECT_GE(ticks, 10);
 }
 
-TEST(RunAndWait, TimeOutPastMidnightWaitsUntilTheClockHasWrapped) {
-    QTemporaryDir dir;
-    copyOfSleep(dir.path(), "qvsleeper");
-    const QString script = dir.filePath("Apri.bat");
-    WriteJobScript(script, Preamble::List, {"\"" + dir.filePath("qvsleeper") + "\" 30"});
+TEST_F(Runner, TimeOutPastMidnightWaitsUntilTheClockHasWrapped) {
+    sleeperEngine();
+    WriteJobScript(script(names::ListScript), Preamble::List, {quotedEngine() + "30"});
     qint64 calls = 0;
     QList<qint64> seen;
     auto clock = [&] {
@@ -168,32 +175,28 @@ TEST(RunAndWait, TimeOutPastMidnightWaitsUntilTheClockHasWrapped) {
     };
     QElapsedTimer elapsed;
     elapsed.start();
-    EXPECT_TRUE(RunAndWait(script, 5, QString(), clock));
+    EXPECT_TRUE(RunAndWait(script(names::ListScript), 5, QString(), clock));
     EXPECT_LT(elapsed.elapsed(), 10000);
     // 86398 at the start, then 86399, 0, 1, 2 and finally 3, the deadline after midnight.
     EXPECT_EQ(seen, QList<qint64>({86398, 86399, 0, 1, 2, 3}));
-    // The job goes on after the time-out; end it here.
-    EXPECT_GT(TerminateProcessByName("qvsleeper"), 0);
+    // The job goes on after the time-out; end it here (it is this program's own engine).
+    EXPECT_GT(TerminateProcessByName("UHARC.EXE"), 0);
 }
 
-TEST(RunAndWait, PlainTimeOutStopsWaitingAtTheDeadline) {
-    QTemporaryDir dir;
-    copyOfSleep(dir.path(), "qvsleeper");
-    const QString script = dir.filePath("Apri.bat");
-    WriteJobScript(script, Preamble::List, {"\"" + dir.filePath("qvsleeper") + "\" 30"});
+TEST_F(Runner, PlainTimeOutStopsWaitingAtTheDeadline) {
+    sleeperEngine();
+    WriteJobScript(script(names::ListScript), Preamble::List, {quotedEngine() + "30"});
     qint64 t = 1000;
-    EXPECT_TRUE(RunAndWait(script, 3, QString(), [&] { return t++; }));
+    EXPECT_TRUE(RunAndWait(script(names::ListScript), 3, QString(), [&] { return t++; }));
     EXPECT_EQ(t, 1004);
-    EXPECT_GT(TerminateProcessByName("qvsleeper"), 0);
+    EXPECT_GT(TerminateProcessByName("uharc.exe"), 0);
 }
 
-TEST(JobProcess, StartsAtTheLowestPriority) {
-    QTemporaryDir dir;
-    copyOfSleep(dir.path(), "qvsleeper");
-    const QString script = dir.filePath("Apri.bat");
-    WriteJobScript(script, Preamble::List, {"\"" + dir.filePath("qvsleeper") + "\" 5"});
+TEST_F(Runner, JobStartsAtTheLowestPriority) {
+    sleeperEngine();
+    WriteJobScript(script(names::ListScript), Preamble::List, {quotedEngine() + "5"});
     JobProcess job;
-    ASSERT_TRUE(job.start(script));
+    ASSERT_TRUE(job.start(script(names::ListScript)));
     const QByteArray stat = readAll(QString("/proc/%1/stat").arg(job.processId()));
     // Field 19 of /proc/<pid>/stat is the nice value.
     const QList<QByteArray> fields = stat.mid(stat.lastIndexOf(')') + 2).split(' ');
@@ -202,29 +205,123 @@ TEST(JobProcess, StartsAtTheLowestPriority) {
     job.kill();
 }
 
-TEST(TerminateProcessByName, EndsOnlyTheFirstMatchWhateverItsCase) {
-    QTemporaryDir dir;
-    QDir(dir.path()).mkdir("a");
-    QDir(dir.path()).mkdir("b");
-    // Names of this test's own, so that no other engine of the user is touched.
-    const QString lower = copyOfSleep(dir.filePath("a"), "qvtest.exe");
-    const QString upper = copyOfSleep(dir.filePath("b"), "QVTEST.EXE");
-    QProcess first, second;
-    first.start(lower, {"30"});
-    second.start(upper, {"30"});
-    ASSERT_TRUE(first.waitForStarted());
-    ASSERT_TRUE(second.waitForStarted());
+TEST_F(Runner, OnlyAScriptThisProgramWroteRuns) {
+    sleeperEngine();
+    // Written by someone else: same shape, never registered.
+    writeFile(script(names::ListScript), "cls\r\n@echo off\r\n\"" + engine().toUtf8() + "\" 0");
+    JobProcess job;
+    EXPECT_FALSE(job.start(script(names::ListScript)));
+    EXPECT_TRUE(job.errorText().contains("was not written by this program"))
+        << job.errorText().toStdString();
+}
+
+TEST_F(Runner, AScriptChangedAfterItWasWrittenIsRefused) {
+    writeExecutable(engine(), kRecordingEngine);
+    const QString record = places.path() + "/record.txt";
+    qputenv("QV_RECORD", record.toLocal8Bit());
+    ASSERT_TRUE(WriteJobScript(script(names::ListScript), Preamble::List, {quotedEngine() + "l"}));
+    // Same length, one letter changed.
+    QByteArray bytes = readAll(script(names::ListScript));
+    bytes[bytes.size() - 1] = 't';
+    writeFile(script(names::ListScript), bytes);
+    JobProcess job;
+    EXPECT_FALSE(job.start(script(names::ListScript)));
+    EXPECT_TRUE(job.errorText().contains("was changed after it was written"))
+        << job.errorText().toStdString();
+    EXPECT_FALSE(QFile::exists(record));
+}
+
+TEST_F(Runner, AProgramOtherThanTheEngineIsNeverStarted) {
+    writeExecutable(engine(), kRecordingEngine);
+    const QString other = places.path() + "/run.sh";
+    const QString proof = places.path() + "/started";
+    writeExecutable(other, "#!/bin/sh\ntouch '" + proof.toUtf8() + "'\n");
+    // A copy of the engine elsewhere is not the engine either.
+    const QString copy = places.path() + "/uharc.exe";
+    writeExecutable(copy, "#!/bin/sh\ntouch '" + proof.toUtf8() + "'\n");
+    for (const QString& program : {other, copy}) {
+        ASSERT_TRUE(
+            WriteJobScript(script(names::ListScript), Preamble::List, {"\"" + program + "\" l"}));
+        JobProcess job;
+        EXPECT_FALSE(job.start(script(names::ListScript))) << program.toStdString();
+        EXPECT_TRUE(job.errorText().contains("which is not the engine of the program folder"))
+            << job.errorText().toStdString();
+    }
+    EXPECT_FALSE(QFile::exists(proof));
+}
+
+TEST_F(Runner, OutputCanOnlyGoToTheConsoleOutputFile) {
+    writeExecutable(engine(), kRecordingEngine);
+    const QString elsewhere = places.path() + "/elsewhere.txt";
+    ASSERT_TRUE(WriteJobScript(script(names::ListScript), Preamble::List,
+                               {quotedEngine() + "l > " + elsewhere}));
+    JobProcess job;
+    EXPECT_FALSE(job.start(script(names::ListScript)));
+    EXPECT_FALSE(QFile::exists(elsewhere));
+}
+
+TEST_F(Runner, TheConsoleOutputFileIsNotWrittenThroughALink) {
+    writeExecutable(engine(), kRecordingEngine);
+    qputenv("QV_RECORD", (places.path() + "/record.txt").toLocal8Bit());
+    const QString victim = places.path() + "/victim.txt";
+    writeFile(victim, "keep me");
+    ASSERT_TRUE(QFile::link(victim, das()));
+    ASSERT_TRUE(
+        WriteJobScript(script(names::AddScript), Preamble::Job, {quotedEngine() + "a > " + das()}));
+    JobProcess job;
+    EXPECT_FALSE(job.start(script(names::AddScript)));
+    EXPECT_EQ(readAll(victim), QByteArray("keep me"));
+}
+
+TEST_F(Runner, KillEndsTheWholeJobTheEnginesChildrenToo) {
+    // An engine that starts a child of its own, as the launcher does, and records its pid.
+    const QString childPid = places.path() + "/child.pid";
+    writeExecutable(engine(),
+                    "#!/bin/sh\nsleep 30 &\necho $! > '" + childPid.toUtf8() + "'\nwait\n");
+    ASSERT_TRUE(WriteJobScript(script(names::ListScript), Preamble::List, {quotedEngine() + "l"}));
+    JobProcess job;
+    ASSERT_TRUE(job.start(script(names::ListScript)));
+    QElapsedTimer t;
+    t.start();
+    while (readAll(childPid).trimmed().isEmpty() && t.elapsed() < 5000)
+        QTest::qWait(20);
+    const qint64 child = readAll(childPid).trimmed().toLongLong();
+    ASSERT_GT(child, 0);
+    job.kill();
+    QSignalSpy ended(&job, &JobProcess::finished);
+    EXPECT_TRUE(ended.wait(5000) || !job.isRunning());
+    t.restart();
+    while (alive(child) && t.elapsed() < 5000)
+        QTest::qWait(20);
+    EXPECT_FALSE(alive(child));
+}
+
+TEST_F(Runner, TerminateByNameEndsOnlyThisProgramsEngineAndOnlyTheFirst) {
+    // An unrelated program named like the engine, started first (so with the lowest pid).
+    QDir(places.path()).mkdir("other");
+    const QString unrelated = copyOfSleep(places.path() + "/other", "UHARC.EXE");
+    QProcess stranger;
+    stranger.start(unrelated, {"30"});
+    ASSERT_TRUE(stranger.waitForStarted());
+
+    sleeperEngine();
+    ASSERT_TRUE(WriteJobScript(script(names::ListScript), Preamble::List, {quotedEngine() + "30"}));
+    JobProcess first, second;
+    ASSERT_TRUE(first.start(script(names::ListScript)));
+    ASSERT_TRUE(second.start(script(names::ListScript)));
     const qint64 expected = std::min(first.processId(), second.processId());
     const qint64 other = std::max(first.processId(), second.processId());
 
-    EXPECT_EQ(TerminateProcessByName("QvTest.Exe"), expected);
-    QProcess& ended = first.processId() == expected ? first : second;
-    EXPECT_TRUE(ended.waitForFinished(5000));
+    EXPECT_EQ(TerminateProcessByName("UhArC.ExE"), expected);
+    JobProcess& ended = first.processId() == expected ? first : second;
+    QSignalSpy spy(&ended, &JobProcess::finished);
+    EXPECT_TRUE(spy.wait(5000));
     EXPECT_TRUE(alive(other));
+    EXPECT_TRUE(alive(stranger.processId()));
     first.kill();
     second.kill();
-    first.waitForFinished();
-    second.waitForFinished();
+    stranger.kill();
+    stranger.waitForFinished();
 }
 
 TEST(TerminateProcessByName, NoMatchDoesNothing) {

@@ -1,3 +1,4 @@
+#include "core/jobscript.h"
 #include "core/scriptexec.h"
 
 #include <gtest/gtest.h>
@@ -48,27 +49,43 @@ TEST(SplitCommandLine, AppendRedirection) {
     EXPECT_TRUE(job.appendOutput);
 }
 
-TEST(ParseJobScript, PreambleSetsVariablesAndTheLastLineIsTheCommand) {
-    const ParsedJob job =
-        ParseJobScript("@echo off\r\ncls\r\nset uharc_opt= -d2\r\n\"/p/uharc.exe\" t -y+ "
-                       "\"/a.uha\" > /t/das.txt\r\n");
-    ASSERT_EQ(job.environment.size(), 1);
-    EXPECT_EQ(job.environment[0].first, "uharc_opt");
-    EXPECT_EQ(job.environment[0].second, " -d2");
-    EXPECT_EQ(job.arguments, QStringList({"/p/uharc.exe", "t", "-y+", "/a.uha"}));
-    EXPECT_EQ(job.outputTarget, "/t/das.txt");
-}
-
-TEST(ParseJobScript, CommandWithoutLineEndIsNotLost) {
-    const ParsedJob job =
-        ParseJobScript("cls\r\n@echo off\r\n\"/p/uharc.exe\" l -d2 -y+ -lg/t/uharc.log \"/a.uha\"");
-    EXPECT_TRUE(job.environment.isEmpty());
+TEST(SplitPieces, AValueStaysInsideItsArgumentWhateverItHolds) {
+    // The measured injections: a quote in an archive name, in an entry name, in a password.
+    const CommandPieces pieces{
+        Fragment("\"") + Fragment::Value("/p", "program folder") + Fragment("/uharc.exe\" "),
+        Fragment(" l -d2 -y+ -lg") + Fragment::Value("/t", "temporary folder") +
+            Fragment("/Corvana/uharc.log "),
+        Fragment("-pw\"") + Fragment::Value("p\" > /tmp/FILE \"", "password") + Fragment("\" "),
+        Fragment("\"") + Fragment::Value("/d/x\" -pwINJECTED \"y.uha", "archive") +
+            Fragment("\" \"") + Fragment::Value("docs\\a\" -pwX -t\\tmp \"b.txt", "item") +
+            Fragment("\"")};
+    const ParsedJob job = SplitPieces(pieces);
     EXPECT_EQ(job.arguments,
-              QStringList({"/p/uharc.exe", "l", "-d2", "-y+", "-lg/t/uharc.log", "/a.uha"}));
+              QStringList({"/p/uharc.exe", "l", "-d2", "-y+", "-lg/t/Corvana/uharc.log",
+                           "-pwp\" > /tmp/FILE \"", "/d/x\" -pwINJECTED \"y.uha",
+                           "docs\\a\" -pwX -t\\tmp \"b.txt"}));
+    EXPECT_TRUE(job.outputTarget.isEmpty());
+    // The script holds the same text, unescaped.
+    EXPECT_EQ(CommandLine(pieces),
+              "\"/p/uharc.exe\"  l -d2 -y+ -lg/t/Corvana/uharc.log -pw\"p\" > /tmp/FILE \"\" "
+              "\"/d/x\" -pwINJECTED \"y.uha\" \"docs\\a\" -pwX -t\\tmp \"b.txt\"");
 }
 
-TEST(ParseJobScript, EmptyScriptIsInvalid) {
-    EXPECT_FALSE(ParseJobScript("@echo off\r\ncls\r\n").isValid());
+TEST(SplitPieces, OnlyTheFixedTextRedirects) {
+    const CommandPieces pieces{Fragment("\"/p/uharc.exe\" t -y+ "),
+                               Fragment("\"") + Fragment::Value("/a>b.uha", "archive") +
+                                   Fragment("\""),
+                               Fragment(" > ") + Fragment::Value("/t dir", "temporary folder") +
+                                   Fragment("/Corvana/das.txt")};
+    const ParsedJob job = SplitPieces(pieces);
+    EXPECT_EQ(job.arguments, QStringList({"/p/uharc.exe", "t", "-y+", "/a>b.uha"}));
+    EXPECT_EQ(job.outputTarget, "/t dir/Corvana/das.txt");
+}
+
+TEST(SplitPieces, AnEmptyQuotedValueIsAnArgument) {
+    const ParsedJob job = SplitPieces(
+        {Fragment("x "), Fragment("\"") + Fragment::Value("", "archive") + Fragment("\"")});
+    EXPECT_EQ(job.arguments, QStringList({"x", ""}));
 }
 
 TEST(ToLauncherPath, AbsolutePathsAlsoAfterSwitchPrefixes) {

@@ -38,7 +38,7 @@ QByteArray fakeEngine(const QString& tag) {
 class ListerTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        QDir().mkpath(WorkFolder());
+        ASSERT_EQ(EnsurePrivateWorkFolder(), QString());
         calls_ = places_.path() + "/calls.txt";
         qputenv("QV_CALLS", calls_.toLocal8Bit());
     }

@@ -113,6 +113,36 @@ TEST(ReadTotals, AlzBest) {
     EXPECT_EQ(t->ratio, 35);
 }
 
+TEST(ReadTotals, OneFileArchiveCountsOne) {
+    // The engine writes "1 file" (four letters) for an archive of one file.
+    const auto t = ReadTotals(sampleLines("list-one-file.log"));
+    ASSERT_TRUE(t.has_value());
+    EXPECT_EQ(t->filesLabel(), "Files: 1");
+    EXPECT_EQ(t->normalSizeMB, "0");
+    EXPECT_EQ(t->modeText, "ALZ Normal");
+    EXPECT_EQ(t->ratio, 183);
+}
+
+TEST(FileCountText, TheNumberAtTheStartOfTheField) {
+    EXPECT_EQ(FileCountText("1 file              "), "1");
+    EXPECT_EQ(FileCountText("8 files             "), "8");
+    EXPECT_EQ(FileCountText("  123456 files      "), "123456");
+    EXPECT_EQ(FileCountText("files"), "");
+    EXPECT_EQ(FileCountText(""), "");
+}
+
+TEST(ReadTotals, ARatioThatDoesNotFitSixteenBitsIsLeftOut) {
+    QStringList lines;
+    for (int i = 0; i < 9; ++i)
+        lines << "header";
+    lines << QString(79, '-') << "1 file                                 6"
+          << QString("%1").arg("11", 40) + " packed (ALZ:2-mode), ratio: 40000.0%";
+    const auto t = ReadTotals(lines);
+    ASSERT_TRUE(t.has_value());
+    EXPECT_FALSE(t->ratio.has_value());
+    EXPECT_EQ(t->fileCountText, "1");
+}
+
 TEST(ReadTotals, PpmReadsThreeCharactersAndTheRatioFromColumn67) {
     const auto t = ReadTotals(sampleLines("list-ppm.log"));
     ASSERT_TRUE(t.has_value());
@@ -176,8 +206,8 @@ TEST(BuildMirrorTree, AwkwardNamesStayInsideTheScratchFolder) {
     ASSERT_TRUE(BuildMirrorTree(sampleLines("list-awkward-names.log"), scratch));
     EXPECT_EQ(
         filesBelow(scratch),
-        QStringList({"caf\u00e9/r\u00e9sum\u00e9.txt", "deep/double/x.txt", "docs/a.txt",
-                     "escape1.txt", "escape4.txt", "etc/escape3.txt", "folder/dup.txt",
+        QStringList({"a/escape4.txt", "caf\u00e9/r\u00e9sum\u00e9.txt", "deep/double/x.txt",
+                     "docs/a.txt", "escape1.txt", "etc/escape3.txt", "folder/dup.txt",
                      "folder/escape2.txt", "lead.txt", "root.txt", "spaced/name with blanks.txt"}));
     // Nothing beside the scratch folder, and the separator artefact is gone.
     EXPECT_EQ(QDir(dir.filePath("outside")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
@@ -225,4 +255,43 @@ TEST(BuildMirrorTree, DriveEntriesLoseTheirDriveAndRootEntriesLandAtTheTop) {
           << "";
     ASSERT_TRUE(BuildMirrorTree(lines, dir.filePath("s")));
     EXPECT_EQ(filesBelow(dir.filePath("s")), QStringList({"docs/a.txt", "top.txt", "x/same.txt"}));
+}
+
+TEST(BuildMirrorTree, AnEntryAtADrivesRootLandsAtTheTop) {
+    QTemporaryDir dir;
+    QStringList lines(9);
+    lines << "C:\\a.txt"
+          << "d"
+          << "D:\\sub\\b.txt"
+          << "d" << QString(79, '-') << "2 files   0"
+          << "";
+    ASSERT_TRUE(BuildMirrorTree(lines, dir.filePath("s")));
+    EXPECT_EQ(filesBelow(dir.filePath("s")), QStringList({"a.txt", "sub/b.txt"}));
+    EXPECT_FALSE(QFileInfo::exists(dir.filePath("s/C:")));
+}
+
+TEST(BuildMirrorTree, ASlashSeparatesFoldersLikeABackslash) {
+    QTemporaryDir dir;
+    QStringList lines(9);
+    lines << "x\\a/b.txt"
+          << "d"
+          << "p/q/c.txt"
+          << "d" << QString(79, '-') << "2 files   0"
+          << "";
+    ASSERT_TRUE(BuildMirrorTree(lines, dir.filePath("s")));
+    EXPECT_EQ(filesBelow(dir.filePath("s")), QStringList({"p/q/c.txt", "x/a/b.txt"}));
+    EXPECT_EQ(EntryName("x\\a/b.txt"), "x\\a\\b.txt");
+}
+
+TEST(BuildMirrorTree, OnlyBlanksAreTrimmedFromAnEntry) {
+    // Byte 0xFF of code page 437 is U+00A0: part of the name, not a blank.
+    QTemporaryDir dir;
+    QStringList lines(9);
+    lines << "  name\u00a0  "
+          << "d"
+          << "tab\t"
+          << "d" << QString(79, '-') << "2 files 0"
+          << "";
+    ASSERT_TRUE(BuildMirrorTree(lines, dir.filePath("s")));
+    EXPECT_EQ(filesBelow(dir.filePath("s")), QStringList({"name\u00a0", "tab\t"}));
 }

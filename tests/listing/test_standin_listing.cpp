@@ -22,7 +22,7 @@ const QString kCantRead =
 class StandinListing : public ::testing::Test {
 protected:
     void SetUp() override {
-        QDir().mkpath(WorkFolder());
+        ASSERT_EQ(EnsurePrivateWorkFolder(), QString());
         QFile::copy(kSix, places_.programFolder() + "/uharc.exe");
         QFile::copy(kFour, places_.programFolder() + "/Uharc0.4.fns");
         src_ = places_.path() + "/src";

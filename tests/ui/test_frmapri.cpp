@@ -185,7 +185,7 @@ TEST_F(MainWindow, MissingOrEmptyEngineEndsTheProgram) {
 TEST_F(MainWindow, SecondCopyIsRefusedBeforeTouchingTheWorkFolder) {
     QLockFile other(lockPath_);
     ASSERT_TRUE(other.tryLock(0));
-    QDir().mkpath(WorkFolder());
+    ASSERT_EQ(EnsurePrivateWorkFolder(), QString());
     writeFile(WorkFile(names::ListLog), "the first copy's log");
     EXPECT_FALSE(window_.Form_Load(""));
     EXPECT_EQ(prompter_.shown, QStringList({"exclamation: Quovara is already running"}));

@@ -372,7 +372,8 @@ void frmApri::showTotals(const ArchiveTotals& t) {
     GranNorm->setText(t.normalSizeLabel());
     GranComp->setText(t.packedSizeLabel());
     MetodoC->setText(t.modeLabel());
-    RatioBar->SetValue(t.ratio);
+    if (t.ratio)
+        RatioBar->SetValue(*t.ratio);
 }
 
 void frmApri::Uha() {
@@ -453,9 +454,14 @@ void frmApri::setStatus(const char* stato, const char* consiglio) {
 void frmApri::ExtractAndRun() {
     const QString script = WorkFile(names::SingleScript);
     const ArchiveListing& l = lister_.listing();
-    WriteJobScript(script, Preamble::Job,
-                   SingleItemCommandPieces(ProgramFolder(), TempRoot(), l.password, l.archivePath,
-                                           selectedItem_, PathStyle::host()));
+    QString refused;
+    if (!WriteJobScript(script, Preamble::Job,
+                        SingleItemCommandPieces(ProgramFolder(), TempRoot(), l.password,
+                                                l.archivePath, selectedItem_, PathStyle::host()),
+                        LastLine::NoLineEnd, &refused)) {
+        prompter_->critical(refused);
+        return;
+    }
     setStatus(apri::Skipping, apri::PleaseWait);
     QString error;
     if (!RunAndWait(script, 0, WorkFolder(), {}, &error))
@@ -493,10 +499,15 @@ bool frmApri::writeTestScript() {
             return false;
         }
     }
-    return WriteJobScript(
-        WorkFile(names::TestScript), Preamble::Job,
-        TestCommandPieces(ProgramFolder(), TempRoot(), archive, PathStyle::host()),
-        LastLine::LineEnd);
+    const QString script = WorkFile(names::TestScript);
+    QString refused;
+    if (!WriteJobScript(script, Preamble::Job,
+                        TestCommandPieces(ProgramFolder(), TempRoot(), archive, PathStyle::host()),
+                        LastLine::LineEnd, &refused)) {
+        prompter_->critical(refused);
+        return false;
+    }
+    return true;
 }
 
 void frmApri::ButtonClick(int index) {

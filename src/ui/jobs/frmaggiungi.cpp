@@ -264,14 +264,14 @@ void frmAggiungi::Command3_Click() {
         prompter_.information(text(aggiungi::NoArchiveName));
         return;
     }
-    MakeDir(WorkFolder());
     const QString script = WorkFile(names::AddScript);
+    QString refused;
     if (!WriteAddJobScript(script, options(), methods_, ProgramFolder(), TempRoot(),
-                           PathStyle::host())) {
+                           PathStyle::host(), &refused)) {
         // Handing over a script that is not there would leave the job waiting for output
         // that never comes.
         qCDebug(lcAddDialog) << "add script not written:" << script;
-        prompter_.critical(text(aggiungi::ScriptNotWritten) + QLatin1Char('\n') + script);
+        prompter_.critical(refused);
         return;
     }
     hide();

@@ -42,7 +42,6 @@ inline constexpr char NoArchiveName[] = "You have to specify the name of the arc
 inline constexpr char SaveTitle[] = "Salva il file";
 inline constexpr char SaveFilter[] = "Uha File (*.uha)|*.uha";
 // What the job's script could not be written says (the job is then not started).
-inline constexpr char ScriptNotWritten[] = "The job script could not be written:";
 } // namespace aggiungi
 
 // The name filters of a Windows-form filter ("Text (*.a)|*.a|Other|*.b;*.c") as a Qt file

@@ -247,11 +247,12 @@ void frmEstrai::Command2_Click() {
     Destination = selectedFolder();
     if (Destination.endsWith(PathStyle::host().sep))
         Destination.chop(1);
-    MakeDir(WorkFolder());
     const QString script = WorkFile(names::ExtractScript);
-    if (!WriteExtractJobScript(script, options(), ProgramFolder(), TempRoot(), PathStyle::host())) {
+    QString refused;
+    if (!WriteExtractJobScript(script, options(), ProgramFolder(), TempRoot(), PathStyle::host(),
+                               &refused)) {
         qCDebug(lcExtractDialog) << "extract script not written:" << script;
-        prompter_.critical(text(estrai::ScriptNotWritten) + QLatin1Char('\n') + script);
+        prompter_.critical(refused);
         return;
     }
     hide();

@@ -37,7 +37,6 @@ inline constexpr char Cancel[] = "Cancel";
 // The name a new folder gets before the user renames it ("New Folder (2)" and so on when
 // taken).
 inline constexpr char NewFolderName[] = "New Folder";
-inline constexpr char ScriptNotWritten[] = "The job script could not be written:";
 } // namespace estrai
 
 class frmEstrai : public QDialog {

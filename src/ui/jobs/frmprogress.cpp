@@ -1,6 +1,8 @@
 // The progress window's table, its controls (Load) and the modal entry point.
 #include "frmprogress.h"
 
+#include "core/jobscript.h"
+
 #include "core/jobprocess.h"
 #include "core/places.h"
 #include "core/scriptexec.h"
@@ -50,10 +52,10 @@ const ProgressKind kKinds[] = {
 
 // The archive a job script names: the first argument after the command that is not a switch.
 QString ScriptArchive(const QString& scriptPath) {
-    QFile f(scriptPath);
-    if (!f.open(QIODevice::ReadOnly))
+    const std::optional<WrittenScript> written = WrittenJobScript(scriptPath);
+    if (!written)
         return QString();
-    const ParsedJob job = ParseJobScript(f.readAll());
+    const ParsedJob& job = written->job;
     for (qsizetype i = 2; i < job.arguments.size(); ++i) {
         const QString& a = job.arguments.at(i);
         if (!a.startsWith(QLatin1Char('-')))

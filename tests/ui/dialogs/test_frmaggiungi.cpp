@@ -19,7 +19,7 @@ namespace {
 class AddDialog : public ::testing::Test {
 protected:
     void SetUp() override {
-        QDir().mkpath(WorkFolder());
+        ASSERT_EQ(EnsurePrivateWorkFolder(), QString());
         src_ = places_.path() + "/Src";
         QDir().mkpath(src_ + "/sub");
         writeFile(src_ + "/a.txt", "a");
@@ -438,7 +438,10 @@ TEST_F(AddDialog, AScriptThatCannotBeWrittenIsReportedAndNotHandedOver) {
     open(src_);
     ok();
     ASSERT_EQ(prompter_.shown.size(), 1);
-    EXPECT_TRUE(prompter_.shown[0].startsWith("critical: The job script could not be written:"));
+    EXPECT_EQ(prompter_.shown[0],
+              "critical: Quovara cannot use its work folder\n" + WorkFolder() +
+                  "\nbecause it is not a folder.\nNothing is written there, and no job runs "
+                  "until this is put right.");
     EXPECT_TRUE(handedOver_.isEmpty());
     EXPECT_TRUE(dialog_->isVisible());
 }

@@ -21,7 +21,7 @@ namespace {
 class ExtractDialog : public ::testing::Test {
 protected:
     void SetUp() override {
-        QDir().mkpath(WorkFolder());
+        ASSERT_EQ(EnsurePrivateWorkFolder(), QString());
         base_ = places_.path() + "/data";
         QDir().mkpath(base_ + "/out/inner");
         archive_ = base_ + "/x.uha";
