@@ -95,10 +95,11 @@ std::string attrText(std::uint8_t attr) {
     return s;
 }
 
-// "Adding 8 files (110354 bytes)" then the column titles ending at columns 60, 71 and 79.
+// "Adding 8 files (110354 bytes)", "Adding 1 file (4 bytes)", then the column titles ending
+// at columns 60, 71 and 79.
 std::string addHeaderLine(std::size_t files, std::uint64_t bytes) {
-    std::string left =
-        format("Adding %zu files (%llu bytes)", files, static_cast<unsigned long long>(bytes));
+    std::string left = format("Adding %zu %s (%llu bytes)", files, files == 1 ? "file" : "files",
+                              static_cast<unsigned long long>(bytes));
     return padRight(left, 49) + format("%11s%11s%8s", "size", "packed", "ratio");
 }
 

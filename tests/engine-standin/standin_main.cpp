@@ -9,6 +9,7 @@
 // that the engine version fallback can be exercised.
 #include "archive.h"
 #include "codec.h"
+#include "console_key.h"
 #include "layout.h"
 
 #include <algorithm>
@@ -573,10 +574,19 @@ std::string displayTarget(const std::string& target) {
 // parts removed and "/" turned into "\", so "/data/Src/*.*" stores "data\Src\a.txt" and
 // a relative "folder\*" stores "folder\sub\data.bin".
 
+// A file to add: where it is, its stored name, and its name as the progress lines show it
+// (the path as given, drive included, with "\" as separator: the engine shows
+// "Z:\tmp\src\two.txt" shortened for a file it stores as "tmp\src\two.txt").
 struct Source {
     fs::path path;
     std::string stored;
+    std::string shown;
 };
+
+std::string shownPrefix(const std::string& folder) {
+    std::string s = replaced(folder, '/', '\\');
+    return s.empty() || s.back() == '\\' ? s : s + "\\";
+}
 
 std::string storedPrefix(const std::string& folder) {
     auto parts = safeParts(folder);
@@ -587,8 +597,8 @@ bool isExcluded(const Options& o, const std::string& stored) {
     return anyMatches(o.excludes, stored);
 }
 
-void walk(const fs::path& dir, const std::string& prefix, const std::string& pattern,
-          const Options& o, std::vector<Source>& out) {
+void walk(const fs::path& dir, const std::string& prefix, const std::string& shown,
+          const std::string& pattern, const Options& o, std::vector<Source>& out) {
     std::vector<fs::directory_entry> files, dirs;
     std::error_code ec;
     for (fs::directory_iterator it(dir, ec), end; !ec && it != end; it.increment(ec)) {
@@ -607,10 +617,12 @@ void walk(const fs::path& dir, const std::string& prefix, const std::string& pat
         std::string name = f.path().filename().string();
         std::string stored = prefix + name;
         if (nameMatches(pattern, name) && !isExcluded(o, stored))
-            out.push_back({f.path(), stored});
+            out.push_back({f.path(), stored, shown + name});
     }
-    for (const auto& d : dirs)
-        walk(d.path(), prefix + d.path().filename().string() + "\\", pattern, o, out);
+    for (const auto& d : dirs) {
+        const std::string sub = d.path().filename().string() + "\\";
+        walk(d.path(), prefix + sub, shown + sub, pattern, o, out);
+    }
 }
 
 std::vector<Source> collectSources(const Options& o) {
@@ -630,14 +642,15 @@ std::vector<Source> collectSources(const Options& o) {
             pattern = pos == std::string::npos ? s : s.substr(pos + 1);
         }
         const std::string prefix = storedPrefix(dir);
+        const std::string shown = shownPrefix(dir);
         if (!hasWildcard(pattern)) {
             fs::path p = hostPath(s);
             std::string stored = prefix + pattern;
             if (fs::is_regular_file(p, ec) && !isExcluded(o, stored))
-                found.push_back({p, stored});
+                found.push_back({p, stored, shown + pattern});
             continue;
         }
-        walk(dir.empty() ? fs::path(".") : fs::path(dir), prefix, pattern, o, found);
+        walk(dir.empty() ? fs::path(".") : fs::path(dir), prefix, shown, pattern, o, found);
     }
     // One source per stored name (names compare without regard to case).
     std::vector<Source> unique;
@@ -660,7 +673,7 @@ double memoryMB(char method) {
     case '1':
         return 1.2;
     case '2':
-        return 2.3;
+        return 3.0;
     case '3':
         return 4.1;
     case 'x':
@@ -670,11 +683,34 @@ double memoryMB(char method) {
     }
 }
 
+// The smallest power of two KB that holds the data (the engine shows 1 KB for a few bytes),
+// at most the size asked for.
 unsigned shownDictionaryKB(unsigned requested, std::uint64_t bytes) {
-    unsigned kb = 32;
+    unsigned kb = 1;
     while (kb < requested && static_cast<std::uint64_t>(kb) * 1024 < bytes)
         kb *= 2;
     return std::min(kb, requested);
+}
+
+// The engine shows 216 KB of file buffers for an add of about 108 KB and 50 KB for an add of
+// a few bytes; the stand-in switches between the two at 64 KB.
+unsigned fileBufferKB(std::uint64_t bytes) {
+    return bytes < 64 * 1024 ? 50 : 216;
+}
+
+// The engine cannot add to an archive: an add that names an existing one asks at the
+// console whether to overwrite it, and "y" replaces it with a new archive. -y+ answers yes
+// without asking. Any other answer ends the run as an archive that cannot be created.
+void confirmOverwrite(Output& out, const Options& o, const fs::path& archivePath) {
+    std::error_code ec;
+    if (o.yes || !fs::exists(archivePath, ec))
+        return;
+    out.console("\r" + kBlankLine + "\rArchive \"" + o.archive +
+                "\" already exists. Overwrite (y/n) ?");
+    const int key = readOneKey();
+    out.console("\r" + kBlankLine + "\r");
+    if (key != 'y' && key != 'Y')
+        out.fail(kMsgCantCreate);
 }
 
 [[noreturn]] void commandAdd(Output& out, const Options& o) {
@@ -682,14 +718,9 @@ unsigned shownDictionaryKB(unsigned requested, std::uint64_t bytes) {
     const fs::path archivePath = hostPath(o.archive);
     const fs::path folder = archivePath.has_parent_path() ? archivePath.parent_path() : ".";
     const fs::path tempPath = folder / kTempName;
-
-    Archive old;
     std::error_code ec;
-    const bool updating = fs::exists(archivePath, ec);
-    if (updating) {
-        ReadResult r = readArchive(archivePath, kVersion, o.password, old);
-        failOnRead(out, r, old);
-    }
+
+    confirmOverwrite(out, o, archivePath);
 
     out.console("Searching files ...\r");
     std::vector<Source> sources;
@@ -716,45 +747,40 @@ unsigned shownDictionaryKB(unsigned requested, std::uint64_t bytes) {
     ArchiveWriter writer;
     Archive header;
     header.version = kVersion;
-    header.created = updating ? old.created : nowSeconds();
+    header.created = nowSeconds();
     header.method = o.method;
     if (!writer.open(tempPath, header, o.password))
         out.fail(kMsgCantCreate);
 
-    out.line(std::string(updating ? "Updating" : "Creating") + " archive \"" + o.archive + "\".");
+    out.line("Creating archive \"" + o.archive + "\".");
     out.line("Using " + methodField(o.method) + "-mode (" +
              std::to_string(shownDictionaryKB(o.dictionaryKB, total)) + " KB dictionary)" +
              (o.multimedia ? " with multimedia detection." : "."));
     char mem[96];
-    std::snprintf(mem, sizeof mem, "Using %.1f MB for compression and 216 KB for file buffers.",
-                  memoryMB(o.method));
+    std::snprintf(mem, sizeof mem, "Using %.1f MB for compression and %u KB for file buffers.",
+                  memoryMB(o.method), fileBufferKB(total));
     out.line(mem);
     out.line("");
     out.line(addHeaderLine(sources.size(), total));
     out.line(kDashes);
 
-    // Entries kept from the archive come first; a new file of the same name replaces one.
-    std::set<std::string> newNames;
-    for (const auto& s : sources)
-        newNames.insert(lower(s.stored));
-    for (const auto& e : old.entries)
-        if (!newNames.count(lower(e.name)) && !writer.add(e))
-            out.fail(kMsgCantCreate);
-
+    // Display mode 1 rewrites one progress line per file in place; mode 2 also ends each
+    // with the file's result line; mode 0 shows neither.
     const int delay = perFileDelayMs();
     const auto start = std::chrono::steady_clock::now();
     std::uint64_t done = 0, packedSoFar = 0;
+    const bool showProgress = o.display >= 1;
     const bool perFile = o.display >= 2;
     for (const auto& s : sources) {
-        if (perFile)
-            out.progress(addProgressLine(s.stored, percentDone(done, total), done, packedSoFar));
+        if (showProgress)
+            out.progress(addProgressLine(s.shown, percentDone(done, total), done, packedSoFar));
         sleepPerFile(delay);
         std::ifstream in(s.path, std::ios::binary);
         Bytes data((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
         if (!in.good() && !in.eof()) {
             writer.finish();
             fs::remove(tempPath, ec);
-            out.fail("Can't open file \"" + s.stored + "\"", perFile);
+            out.fail("Can't open file \"" + s.shown + "\"", showProgress);
         }
         Entry e;
         e.name = s.stored;
@@ -770,23 +796,26 @@ unsigned shownDictionaryKB(unsigned requested, std::uint64_t bytes) {
         if (!writer.add(e)) {
             writer.finish();
             fs::remove(tempPath, ec);
-            out.fail(kMsgCantCreate, perFile);
+            out.fail(kMsgCantCreate, showProgress);
         }
         done += e.size;
         packedSoFar += e.packed.size();
         if (perFile)
-            out.fileLine(addFileLine(s.stored, e.size, e.packed.size()));
+            out.fileLine(addFileLine(s.shown, e.size, e.packed.size()));
     }
     if (!writer.finish()) {
         fs::remove(tempPath, ec);
-        out.fail(kMsgCantCreate);
+        out.fail(kMsgCantCreate, showProgress && !perFile);
     }
     fs::rename(tempPath, archivePath, ec);
     if (ec) {
         fs::remove(tempPath, ec);
-        out.fail(kMsgCantCreate);
+        out.fail(kMsgCantCreate, showProgress && !perFile);
     }
-    out.line(kDashes);
+    if (showProgress && !perFile)
+        out.console("\r" + kBlankLine + "\r");
+    else
+        out.line(kDashes);
     out.line(addTotalLine(secondsSince(start), done, packedSoFar));
     if (move)
         for (const auto& s : sources)
