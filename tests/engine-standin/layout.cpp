@@ -143,8 +143,10 @@ std::string listDetailLine(std::uint64_t size, std::int64_t mtime, std::uint8_t 
            attrText(attr) + "  " + format("%08X", crc);
 }
 
+// "8 files" or "1 file" from column 1, the size ending at column 40.
 std::string listTotalsLine1(std::size_t files, std::uint64_t size) {
-    return padRight(format("%zu files", files), 20) + rightAligned(size, 20);
+    return padRight(format("%zu %s", files, files == 1 ? "file" : "files"), 20) +
+           rightAligned(size, 20);
 }
 
 std::string listTotalsLine2(std::uint64_t packed, char method, std::uint64_t size) {

@@ -797,6 +797,35 @@ TEST_F(StandinTerminalTest, SettingsComeBackWhenTheWaitIsEndedBySignal) {
     EXPECT_EQ(readFile(archiveFile()), original);
 }
 
+TEST_F(StandinTest, ListingOfOneFileSaysOneFile) {
+    // The capture's archive Z:\tmp\ucap\one.uha ("Z:" is a folder here) with src\one.txt.
+    writeFile(path("Z:/tmp/ucap/src/one.txt"), "one!\r\n");
+    const QString arc = "Z:\\tmp\\ucap\\one.uha";
+    ASSERT_EQ(run6({"a", "-y+", arc, "Z:\\tmp\\ucap\\src\\one.txt"}, dir.path()).exitCode, 0);
+    EngineRun l = run6({"l", "-d2", "-y+", "-lgZ:\\tmp\\ucap\\one.log", arc}, dir.path());
+    ASSERT_EQ(l.exitCode, 0) << l.out.toStdString();
+    const QByteArray log = readFile(path("Z:/tmp/ucap/one.log"));
+    const QByteArray sample = sampleFile("list-one-file.log");
+    expectSameLayout(sample, log, OutputKind::Log);
+    auto mine = crlfLines(log), engine = crlfLines(sample);
+    ASSERT_GE(mine.size(), 5u);
+    ASSERT_EQ(mine.size(), engine.size());
+    const std::string totals = "1 file" + std::string(33, ' ') + "6";
+    EXPECT_EQ(engine[engine.size() - 4], totals);
+    EXPECT_EQ(mine[mine.size() - 4], totals);
+    EXPECT_TRUE(l.out.contains(QByteArray::fromStdString("\r\n" + totals + "\r\n")));
+    EXPECT_EQ(listedNames(log), std::vector<std::string>{"tmp\\ucap\\src\\one.txt"});
+
+    // Two files and none stay plural.
+    writeFile(path("Z:/tmp/ucap/src/two.txt"), "two!");
+    ASSERT_EQ(run6({"a", "-y+", arc, "Z:\\tmp\\ucap\\src\\*.txt"}, dir.path()).exitCode, 0);
+    EngineRun two = run6({"l", "-y+", arc}, dir.path());
+    EXPECT_TRUE(hasLine(two.out, "2 files" + std::string(31, ' ') + "10")) << two.out.toStdString();
+    EngineRun none = run6({"l", "-y+", arc, "nothing.*"}, dir.path());
+    EXPECT_TRUE(hasLine(none.out, "0 files" + std::string(32, ' ') + "0"))
+        << none.out.toStdString();
+}
+
 TEST_F(StandinTest, OverwriteOffKeepsAndOnReplaces) {
     writeFile(path("d/a.txt"), "archived");
     ASSERT_EQ(run6({"a", "-y+", "o.uha", "d/a.txt"}, dir.path()).exitCode, 0);
