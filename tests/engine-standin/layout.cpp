@@ -1,5 +1,7 @@
 #include "layout.h"
 
+#include "utf8.h"
+
 #include <algorithm>
 #include <cstdio>
 #include <ctime>
@@ -32,7 +34,8 @@ std::string verbAndName(const std::string& verb, const std::string& name, std::s
 } // namespace
 
 std::string padRight(const std::string& s, std::size_t width) {
-    return s.size() >= width ? s : s + std::string(width - s.size(), ' ');
+    const std::size_t chars = charCount(s);
+    return chars >= width ? s : s + std::string(width - chars, ' ');
 }
 
 std::string rightAligned(std::uint64_t value, std::size_t width) {
@@ -41,9 +44,10 @@ std::string rightAligned(std::uint64_t value, std::size_t width) {
 }
 
 std::string shortened(const std::string& s, std::size_t width) {
-    if (s.size() <= width || width < 4)
+    const std::u32string chars = decodeUtf8(s);
+    if (chars.size() <= width || width < 4)
         return s;
-    return "..." + s.substr(s.size() - (width - 3));
+    return "..." + encodeUtf8(chars.substr(chars.size() - (width - 3)));
 }
 
 std::string ratioText(std::uint64_t packed, std::uint64_t size) {

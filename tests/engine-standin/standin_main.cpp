@@ -11,6 +11,7 @@
 #include "codec.h"
 #include "console_key.h"
 #include "layout.h"
+#include "utf8.h"
 
 #include <algorithm>
 #include <cctype>
@@ -118,28 +119,28 @@ bool hasWildcard(const std::string& s) {
     return s.find_first_of("*?") != std::string::npos;
 }
 
-// Case-insensitive whole-string match with "*" (any run, separators included) and "?".
-bool wildMatch(const char* p, const char* s) {
-    const char* star = nullptr;
-    const char* resume = nullptr;
-    while (*s) {
-        if (*p == '*') {
-            star = p++;
-            resume = s;
-        } else if (*p == '?' || std::tolower(static_cast<unsigned char>(*p)) ==
-                                    std::tolower(static_cast<unsigned char>(*s))) {
-            ++p;
-            ++s;
-        } else if (star) {
-            p = star + 1;
-            s = ++resume;
+// Case-insensitive whole-string match with "*" (any run, separators included) and "?" (one
+// character, however many bytes it takes in UTF-8).
+bool wildMatch(const std::string& pattern, const std::string& text) {
+    const std::u32string p = folded(pattern), s = folded(text);
+    std::size_t pi = 0, si = 0, star = std::u32string::npos, resume = 0;
+    while (si < s.size()) {
+        if (pi < p.size() && p[pi] == U'*') {
+            star = pi++;
+            resume = si;
+        } else if (pi < p.size() && (p[pi] == U'?' || p[pi] == s[si])) {
+            ++pi;
+            ++si;
+        } else if (star != std::u32string::npos) {
+            pi = star + 1;
+            si = ++resume;
         } else {
             return false;
         }
     }
-    while (*p == '*')
-        ++p;
-    return *p == 0;
+    while (pi < p.size() && p[pi] == U'*')
+        ++pi;
+    return pi == p.size();
 }
 
 // A pattern with a folder part is matched against the whole stored name, one without
@@ -152,10 +153,10 @@ bool nameMatches(const std::string& pattern, const std::string& stored) {
         return false;
     std::string target =
         pat.find('\\') != std::string::npos ? replaced(stored, '/', '\\') : filePart(stored);
-    if (wildMatch(pat.c_str(), target.c_str()))
+    if (wildMatch(pat, target))
         return true;
     if (pat.size() > 2 && pat.compare(pat.size() - 2, 2, ".*") == 0)
-        return wildMatch(pat.substr(0, pat.size() - 2).c_str(), target.c_str());
+        return wildMatch(pat.substr(0, pat.size() - 2), target);
     return false;
 }
 
@@ -267,9 +268,14 @@ std::vector<std::string> readListFile(const std::string& path, Options& o) {
         return names;
     }
     std::string line;
+    bool first = true;
     while (std::getline(in, line)) {
         if (!line.empty() && line.back() == '\r')
             line.pop_back();
+        // A list file saved as UTF-8 by an editor may start with a byte order mark.
+        if (first && line.rfind("\xEF\xBB\xBF", 0) == 0)
+            line.erase(0, 3);
+        first = false;
         if (!trim(line).empty())
             names.push_back(line);
     }
@@ -469,8 +475,8 @@ std::vector<const Entry*> selectEntries(const Archive& a, const Options& o) {
     auto sel = selectEntries(a, o);
     // Listed in the order of their file names, as the engine lists them.
     std::stable_sort(sel.begin(), sel.end(), [](const Entry* x, const Entry* y) {
-        auto fx = lower(filePart(x->name)), fy = lower(filePart(y->name));
-        return fx != fy ? fx < fy : lower(x->name) < lower(y->name);
+        auto fx = folded(filePart(x->name)), fy = folded(filePart(y->name));
+        return fx != fy ? fx < fy : folded(x->name) < folded(y->name);
     });
     out.line("");
     out.line("file                                size     date        time    attr   crc-32 ");
@@ -609,7 +615,7 @@ void walk(const fs::path& dir, const std::string& prefix, const std::string& sho
             dirs.push_back(*it);
     }
     auto byName = [](const fs::directory_entry& x, const fs::directory_entry& y) {
-        return lower(x.path().filename().string()) < lower(y.path().filename().string());
+        return folded(x.path().filename().string()) < folded(y.path().filename().string());
     };
     std::sort(files.begin(), files.end(), byName);
     std::sort(dirs.begin(), dirs.end(), byName);
@@ -654,9 +660,9 @@ std::vector<Source> collectSources(const Options& o) {
     }
     // One source per stored name (names compare without regard to case).
     std::vector<Source> unique;
-    std::set<std::string> seen;
+    std::set<std::u32string> seen;
     for (auto& s : found)
-        if (seen.insert(lower(s.stored)).second)
+        if (seen.insert(folded(s.stored)).second)
             unique.push_back(std::move(s));
     return unique;
 }

@@ -18,6 +18,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <map>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -824,6 +825,146 @@ TEST_F(StandinTest, ListingOfOneFileSaysOneFile) {
     EngineRun none = run6({"l", "-y+", arc, "nothing.*"}, dir.path());
     EXPECT_TRUE(hasLine(none.out, "0 files" + std::string(32, ' ') + "0"))
         << none.out.toStdString();
+}
+
+// Names beyond ASCII, a blank and an apostrophe, in the order the listing gives them (by
+// character code of the lower-case file name).
+const std::vector<std::string> kIntlNames = {"a b.txt",    "it's.txt",   "Łódź.txt", "Αθήνα.txt",
+                                             "Привет.txt", "日本語.txt", "📦.txt"};
+
+QString fromUtf8(const std::string& s) {
+    return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size()));
+}
+
+// Characters (code points) of a UTF-8 text.
+std::size_t charsOf(const std::string& s) {
+    return static_cast<std::size_t>(fromUtf8(s).toUcs4().size());
+}
+
+std::string padded(const std::string& s, std::size_t width) {
+    std::size_t n = charsOf(s);
+    return n >= width ? s : s + std::string(width - n, ' ');
+}
+
+std::string rightAt(const std::string& s, std::size_t width) {
+    return s.size() >= width ? s : std::string(width - s.size(), ' ') + s;
+}
+
+std::set<std::string> filesIn(const QString& folder) {
+    std::set<std::string> names;
+    for (const QString& n : QDir(folder).entryList(QDir::Files))
+        names.insert(n.toStdString());
+    return names;
+}
+
+TEST_F(StandinTest, Utf8NamesAreStoredListedAndExtractedAsGiven) {
+    std::set<std::string> all;
+    std::uint64_t total = 0;
+    for (const auto& n : kIntlNames) {
+        writeFile(path("intl/" + fromUtf8(n)), QByteArray::fromStdString("text of " + n));
+        all.insert(n);
+        total += 8 + n.size();
+    }
+    ASSERT_EQ(filesIn(path("intl")), all);
+
+    // Add the folder, stored (-m0) so that the result lines are known to the byte.
+    EngineRun a = run6({"a", "-m0", "-y+", "-d2", "u.uha", "intl"}, dir.path());
+    ASSERT_EQ(a.exitCode, 0) << a.out.toStdString();
+    EXPECT_TRUE(hasLine(a.out, padded("Adding 7 files (" + std::to_string(total) + " bytes)", 49) +
+                                   "       size     packed   ratio"));
+    for (const auto& n : kIntlNames) {
+        const std::string size = std::to_string(8 + n.size());
+        EXPECT_TRUE(hasLine(a.out, padded("Adding intl\\" + n, 49) + rightAt(size, 11) +
+                                       rightAt(size, 11) + "  100.0%"))
+            << n;
+    }
+    // Every add line is 79 characters wide, "Total:" at the same column as for ASCII names.
+    for (const auto& r : records(a.out)) {
+        if (r.text.rfind("Adding intl\\", 0) != 0)
+            continue;
+        EXPECT_EQ(charsOf(r.text), 79u) << r.text;
+        if (r.end == "\r") {
+            EXPECT_EQ(fromUtf8(r.text).toUcs4().mid(39, 6), QString("Total:").toUcs4()) << r.text;
+        }
+    }
+
+    // The listing log names every file once, in the listing order, with its detail line.
+    ASSERT_EQ(run6({"l", "-d2", "-y+", "-lglist.log", "u.uha"}, dir.path()).exitCode, 0);
+    const QByteArray log = readFile(path("list.log"));
+    std::vector<std::string> expected;
+    for (const auto& n : kIntlNames)
+        expected.push_back("intl\\" + n);
+    EXPECT_EQ(listedNames(log), expected);
+    auto lines = crlfLines(log);
+    for (std::size_t i = 0; i < kIntlNames.size(); ++i) {
+        const std::string& detail = lines[9 + 2 * i + 1];
+        EXPECT_EQ(detail.substr(0, 40), rightAt(std::to_string(8 + kIntlNames[i].size()), 40));
+        EXPECT_EQ(detail.size(), 79u);
+    }
+    EXPECT_EQ(lines[lines.size() - 4], padded("7 files", 20) + rightAt(std::to_string(total), 20));
+
+    // Selection by name: case-insensitive beyond ASCII, "?" is one character.
+    QFile::remove(path("sel.log"));
+    run6({"l", "-lgsel.log", "u.uha", "ПРИВЕТ.TXT", "łÓDŹ.txt", "?.txt"}, dir.path());
+    EXPECT_EQ(listedNames(readFile(path("sel.log"))),
+              (std::vector<std::string>{"intl\\Łódź.txt", "intl\\Привет.txt", "intl\\📦.txt"}));
+
+    // Test: one result line per file, 79 characters.
+    EngineRun t = run6({"t", "-d2", "-y+", "u.uha"}, dir.path());
+    ASSERT_EQ(t.exitCode, 0) << t.out.toStdString();
+    for (const auto& n : kIntlNames)
+        EXPECT_TRUE(hasLine(t.out, padded("Testing intl\\" + n, 79))) << n;
+
+    // Extract with paths, without paths, and one item.
+    EngineRun x = run6({"x", "-d2", "-y+", "-tout", "u.uha"}, dir.path());
+    ASSERT_EQ(x.exitCode, 0) << x.out.toStdString();
+    EXPECT_EQ(filesIn(path("out/intl")), all);
+    for (const auto& n : kIntlNames) {
+        EXPECT_EQ(readFile(path("out/intl/" + fromUtf8(n))),
+                  QByteArray::fromStdString("text of " + n));
+        EXPECT_TRUE(hasLine(x.out, padded("Extracting out\\intl\\" + n, 79))) << n;
+    }
+    EngineRun e = run6({"e", "-y+", "-tflat", "u.uha"}, dir.path());
+    ASSERT_EQ(e.exitCode, 0) << e.out.toStdString();
+    EXPECT_EQ(filesIn(path("flat")), all);
+    EXPECT_TRUE(QDir(path("flat")).entryList(QDir::Dirs | QDir::NoDotAndDotDot).isEmpty());
+    EngineRun one = run6(
+        {"e", "-o+", "-t" + path("single"), "-y+", path("u.uha"), "intl\\Αθήνα.txt"}, dir.path());
+    ASSERT_EQ(one.exitCode, 0) << one.out.toStdString();
+    EXPECT_EQ(filesIn(path("single")), std::set<std::string>{"Αθήνα.txt"});
+    EXPECT_EQ(readFile(path("single/Αθήνα.txt")), QByteArray("text of Αθήνα.txt"));
+}
+
+TEST_F(StandinTest, Utf8NamesFromTheCommandLineAndListFilesAndShortenedByCharacters) {
+    for (const auto& n : kIntlNames)
+        writeFile(path("intl/" + fromUtf8(n)), QByteArray::fromStdString(n));
+    // A list file saved with a byte order mark, and names on the command line.
+    writeFile(path("names.lst"), "\xEF\xBB\xBFintl/Łódź.txt\r\nintl\\📦.txt\r\n");
+    EngineRun a =
+        run6({"a", "-y+", "n.uha", "@names.lst", "intl/it's.txt", "intl\\日本語.txt"}, dir.path());
+    ASSERT_EQ(a.exitCode, 0) << a.out.toStdString();
+    run6({"l", "-lgn.log", "n.uha"}, dir.path());
+    EXPECT_EQ(listedNames(readFile(path("n.log"))),
+              (std::vector<std::string>{"intl\\it's.txt", "intl\\Łódź.txt", "intl\\日本語.txt",
+                                        "intl\\📦.txt"}));
+    writeFile(path("x.lst"), "intl\\a b.txt\nintl\\日本語.txt\n");
+    ASSERT_EQ(run6({"x", "-y+", "-tout", "n.uha", "@x.lst"}, dir.path()).exitCode, 0);
+    EXPECT_EQ(filesIn(path("out/intl")), std::set<std::string>{"日本語.txt"});
+
+    // A name longer than its field keeps its last characters behind "...", whole characters.
+    const std::string folder = "Очень длинная папка";
+    writeFile(path(fromUtf8(folder + "/Привет.txt")), "hello");
+    EngineRun l =
+        run6({"a", "-y+", "-d2", "long.uha", fromUtf8(folder + "/Привет.txt")}, dir.path());
+    ASSERT_EQ(l.exitCode, 0) << l.out.toStdString();
+    const QString shown = fromUtf8(folder + "\\Привет.txt");
+    const std::string tail22 = "..." + shown.right(19).toStdString();
+    EXPECT_TRUE(
+        hasLine(l.out, padded("Adding " + tail22, 39) + "Total:  0%          0          0    0.0%"))
+        << l.out.toStdString();
+    EXPECT_TRUE(hasLine(l.out, padded("Adding " + shown.toStdString(), 49) +
+                                   "          5          6  120.0%"))
+        << l.out.toStdString();
 }
 
 TEST_F(StandinTest, OverwriteOffKeepsAndOnReplaces) {
