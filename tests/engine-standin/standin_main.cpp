@@ -16,17 +16,21 @@
 #include <algorithm>
 #include <cctype>
 #include <chrono>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <set>
 #include <string>
 #include <thread>
 #include <vector>
+
+#include <unistd.h>
 
 #ifndef STANDIN_VERSION
 #error "STANDIN_VERSION must name the engine version, such as \"0.6\""
@@ -355,13 +359,26 @@ public:
     void line(const std::string& s) {
         console(s + "\r\n");
         log(s + "\r\n");
+        progressOpen_ = false;
     }
     // A per-file result that overwrites its progress line on the console.
     void fileLine(const std::string& s) {
         console("\r" + s + "\r\n");
         log(s + "\r\n");
+        progressOpen_ = false;
     }
-    void progress(const std::string& s) { console("\r" + s); }
+    void progress(const std::string& s) {
+        console("\r" + s);
+        progressOpen_ = true;
+    }
+    // A progress line is the last thing on the console (no line end after it).
+    bool progressOpen() const { return progressOpen_; }
+    // Everything written so far reaches the console and the log file.
+    void flush() {
+        std::fflush(stdout);
+        if (log_)
+            std::fflush(log_);
+    }
     [[noreturn]] void finish(int code) {
         log(std::string(kWidth, '=') + "\r\n\r\n");
         if (log_)
@@ -381,7 +398,96 @@ public:
 
 private:
     std::FILE* log_ = nullptr;
+    bool progressOpen_ = false;
 };
+
+// ---------------------------------------------------------------------------------------
+// Faults on demand, for tests of the program that runs the engine: QUOVARA_STANDIN_FAULT
+// makes a run end the way a real one can end badly, once its first progress output is out
+// (the first file's progress line in an add, extract or test, written or not by the display
+// mode; the first entry of a listing, so that the log holds part of the listing).
+//
+//   exit:N     the run ends with exit code N (0-255), no "ERROR:" line, no log closing line
+//   signal:N   signal N is raised with its default action (a signal whose default is to be
+//              ignored, or to stop until continued, lets the run carry on)
+//   hang       the run waits for ever, to be killed
+//   enospc     a failed write: "ERROR: No space left on device", "Process aborted.",
+//              exit 255; an add removes its temporary archive as for other write errors
+
+enum class FaultKind { None, Exit, Signal, Hang, NoSpace };
+
+struct Fault {
+    FaultKind kind = FaultKind::None;
+    int value = 0;
+    bool done = false;
+};
+
+Fault g_fault;
+
+bool numberIn(const std::string& s, int lo, int hi, int& out) {
+    if (s.empty() || s.size() > 3 ||
+        !std::all_of(s.begin(), s.end(), [](char c) { return c >= '0' && c <= '9'; }))
+        return false;
+    out = std::stoi(s);
+    return out >= lo && out <= hi;
+}
+
+// Reads QUOVARA_STANDIN_FAULT; a value that names no fault ends the run with exit code 2 and
+// a message on standard error, so that a mistyped test setting does not go unnoticed.
+void readFault() {
+    const char* v = std::getenv("QUOVARA_STANDIN_FAULT");
+    if (!v || !*v)
+        return;
+    const std::string value = v;
+    Fault f;
+    if (value == "hang")
+        f.kind = FaultKind::Hang;
+    else if (value == "enospc")
+        f.kind = FaultKind::NoSpace;
+    else if (value.rfind("exit:", 0) == 0 && numberIn(value.substr(5), 0, 255, f.value))
+        f.kind = FaultKind::Exit;
+    else if (value.rfind("signal:", 0) == 0 && numberIn(value.substr(7), 1, SIGRTMAX, f.value))
+        f.kind = FaultKind::Signal;
+    if (f.kind == FaultKind::None) {
+        std::fprintf(stderr,
+                     "QUOVARA_STANDIN_FAULT=\"%s\" names no fault (exit:N, signal:N, hang, "
+                     "enospc)\n",
+                     v);
+        std::exit(2);
+    }
+    g_fault = f;
+}
+
+// The place where the fault happens, once per run. `cleanUp` undoes what a failed write
+// would leave behind.
+void faultPoint(Output& out, const std::function<void()>& cleanUp = {}) {
+    if (g_fault.kind == FaultKind::None || g_fault.done)
+        return;
+    g_fault.done = true;
+    out.flush();
+    switch (g_fault.kind) {
+    case FaultKind::None:
+        return;
+    case FaultKind::Exit:
+        std::_Exit(g_fault.value);
+    case FaultKind::Signal: {
+        std::signal(g_fault.value, SIG_DFL);
+        sigset_t set;
+        sigemptyset(&set);
+        sigaddset(&set, g_fault.value);
+        sigprocmask(SIG_UNBLOCK, &set, nullptr);
+        std::raise(g_fault.value);
+        return;
+    }
+    case FaultKind::Hang:
+        for (;;)
+            pause();
+    case FaultKind::NoSpace:
+        if (cleanUp)
+            cleanUp();
+        out.fail("No space left on device", out.progressOpen());
+    }
+}
 
 std::string quoteIfBlank(const std::string& a) {
     return a.find(' ') != std::string::npos ? "\"" + a + "\"" : a;
@@ -485,9 +591,11 @@ std::vector<const Entry*> selectEntries(const Archive& a, const Options& o) {
     for (const Entry* e : sel) {
         out.line(e->name);
         out.line(listDetailLine(e->size, e->mtime, e->attr, e->crc));
+        faultPoint(out);
         size += e->size;
         packed += e->packed.size();
     }
+    faultPoint(out);
     out.line(kDashes);
     out.line(listTotalsLine1(sel.size(), size));
     out.line(listTotalsLine2(packed, a.method, size));
@@ -533,6 +641,7 @@ std::string displayTarget(const std::string& target) {
         std::string shown = extract ? shownBase + join(parts, "\\") : e->name;
         if (o.display >= 2)
             out.progress(jobProgressLine(verb, shown, percentDone(done, total)));
+        faultPoint(out);
         if (failed)
             out.fail("CRC-failure (file \"" + failed->name + "\")", o.display >= 2);
         sleepPerFile(delay);
@@ -568,6 +677,7 @@ std::string displayTarget(const std::string& target) {
         out.console("\r" + kBlankLine + "\r");
         out.fail("CRC-failure (file \"" + failed->name + "\")");
     }
+    faultPoint(out);
     out.line(kDashes);
     out.line(jobTotalLine(secondsSince(start)));
     out.finish(0);
@@ -780,6 +890,10 @@ void confirmOverwrite(Output& out, const Options& o, const fs::path& archivePath
     for (const auto& s : sources) {
         if (showProgress)
             out.progress(addProgressLine(s.shown, percentDone(done, total), done, packedSoFar));
+        faultPoint(out, [&] {
+            writer.finish();
+            fs::remove(tempPath, ec);
+        });
         sleepPerFile(delay);
         std::ifstream in(s.path, std::ios::binary);
         Bytes data((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
@@ -841,6 +955,7 @@ void writeUsage(Output& out) {
 } // namespace
 
 int main(int argc, char** argv) {
+    readFault();
     Output out;
     Options o;
     const std::string envValue = environmentOptions(o);
