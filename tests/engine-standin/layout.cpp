@@ -1,5 +1,7 @@
 #include "layout.h"
 
+#include "utf8.h"
+
 #include <algorithm>
 #include <cstdio>
 #include <ctime>
@@ -32,7 +34,8 @@ std::string verbAndName(const std::string& verb, const std::string& name, std::s
 } // namespace
 
 std::string padRight(const std::string& s, std::size_t width) {
-    return s.size() >= width ? s : s + std::string(width - s.size(), ' ');
+    const std::size_t chars = charCount(s);
+    return chars >= width ? s : s + std::string(width - chars, ' ');
 }
 
 std::string rightAligned(std::uint64_t value, std::size_t width) {
@@ -41,9 +44,10 @@ std::string rightAligned(std::uint64_t value, std::size_t width) {
 }
 
 std::string shortened(const std::string& s, std::size_t width) {
-    if (s.size() <= width || width < 4)
+    const std::u32string chars = decodeUtf8(s);
+    if (chars.size() <= width || width < 4)
         return s;
-    return "..." + s.substr(s.size() - (width - 3));
+    return "..." + encodeUtf8(chars.substr(chars.size() - (width - 3)));
 }
 
 std::string ratioText(std::uint64_t packed, std::uint64_t size) {
@@ -95,10 +99,11 @@ std::string attrText(std::uint8_t attr) {
     return s;
 }
 
-// "Adding 8 files (110354 bytes)" then the column titles ending at columns 60, 71 and 79.
+// "Adding 8 files (110354 bytes)", "Adding 1 file (4 bytes)", then the column titles ending
+// at columns 60, 71 and 79.
 std::string addHeaderLine(std::size_t files, std::uint64_t bytes) {
-    std::string left =
-        format("Adding %zu files (%llu bytes)", files, static_cast<unsigned long long>(bytes));
+    std::string left = format("Adding %zu %s (%llu bytes)", files, files == 1 ? "file" : "files",
+                              static_cast<unsigned long long>(bytes));
     return padRight(left, 49) + format("%11s%11s%8s", "size", "packed", "ratio");
 }
 
@@ -142,8 +147,10 @@ std::string listDetailLine(std::uint64_t size, std::int64_t mtime, std::uint8_t 
            attrText(attr) + "  " + format("%08X", crc);
 }
 
+// "8 files" or "1 file" from column 1, the size ending at column 40.
 std::string listTotalsLine1(std::size_t files, std::uint64_t size) {
-    return padRight(format("%zu files", files), 20) + rightAligned(size, 20);
+    return padRight(format("%zu %s", files, files == 1 ? "file" : "files"), 20) +
+           rightAligned(size, 20);
 }
 
 std::string listTotalsLine2(std::uint64_t packed, char method, std::uint64_t size) {

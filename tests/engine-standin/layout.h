@@ -1,5 +1,6 @@
 // Line layouts of the engine's console output and listing log: 79 columns, right-aligned
-// number columns, names shortened with "..." when their field is too narrow.
+// number columns, names shortened with "..." when their field is too narrow. Widths count
+// characters (names are UTF-8), so a line with "Łódź.txt" lines up as one with "Lodz.txt".
 #pragma once
 
 #include <cstdint>
@@ -9,9 +10,10 @@ namespace standin {
 
 inline constexpr std::size_t kWidth = 79;
 
-std::string padRight(const std::string& s, std::size_t width);
 std::string rightAligned(std::uint64_t value, std::size_t width);
-// The last `width` characters behind "..." when `s` is longer than `width`.
+// `s` (UTF-8) followed by blanks up to `width` characters.
+std::string padRight(const std::string& s, std::size_t width);
+// The last `width - 3` characters behind "..." when `s` is longer than `width` characters.
 std::string shortened(const std::string& s, std::size_t width);
 // Packed size in per cent of the size, one decimal ("34.8"); 0.0 for no data.
 std::string ratioText(std::uint64_t packed, std::uint64_t size);

@@ -9,22 +9,28 @@
 // that the engine version fallback can be exercised.
 #include "archive.h"
 #include "codec.h"
+#include "console_key.h"
 #include "layout.h"
+#include "utf8.h"
 
 #include <algorithm>
 #include <cctype>
 #include <chrono>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <set>
 #include <string>
 #include <thread>
 #include <vector>
+
+#include <unistd.h>
 
 #ifndef STANDIN_VERSION
 #error "STANDIN_VERSION must name the engine version, such as \"0.6\""
@@ -117,28 +123,28 @@ bool hasWildcard(const std::string& s) {
     return s.find_first_of("*?") != std::string::npos;
 }
 
-// Case-insensitive whole-string match with "*" (any run, separators included) and "?".
-bool wildMatch(const char* p, const char* s) {
-    const char* star = nullptr;
-    const char* resume = nullptr;
-    while (*s) {
-        if (*p == '*') {
-            star = p++;
-            resume = s;
-        } else if (*p == '?' || std::tolower(static_cast<unsigned char>(*p)) ==
-                                    std::tolower(static_cast<unsigned char>(*s))) {
-            ++p;
-            ++s;
-        } else if (star) {
-            p = star + 1;
-            s = ++resume;
+// Case-insensitive whole-string match with "*" (any run, separators included) and "?" (one
+// character, however many bytes it takes in UTF-8).
+bool wildMatch(const std::string& pattern, const std::string& text) {
+    const std::u32string p = folded(pattern), s = folded(text);
+    std::size_t pi = 0, si = 0, star = std::u32string::npos, resume = 0;
+    while (si < s.size()) {
+        if (pi < p.size() && p[pi] == U'*') {
+            star = pi++;
+            resume = si;
+        } else if (pi < p.size() && (p[pi] == U'?' || p[pi] == s[si])) {
+            ++pi;
+            ++si;
+        } else if (star != std::u32string::npos) {
+            pi = star + 1;
+            si = ++resume;
         } else {
             return false;
         }
     }
-    while (*p == '*')
-        ++p;
-    return *p == 0;
+    while (pi < p.size() && p[pi] == U'*')
+        ++pi;
+    return pi == p.size();
 }
 
 // A pattern with a folder part is matched against the whole stored name, one without
@@ -151,10 +157,10 @@ bool nameMatches(const std::string& pattern, const std::string& stored) {
         return false;
     std::string target =
         pat.find('\\') != std::string::npos ? replaced(stored, '/', '\\') : filePart(stored);
-    if (wildMatch(pat.c_str(), target.c_str()))
+    if (wildMatch(pat, target))
         return true;
     if (pat.size() > 2 && pat.compare(pat.size() - 2, 2, ".*") == 0)
-        return wildMatch(pat.substr(0, pat.size() - 2).c_str(), target.c_str());
+        return wildMatch(pat.substr(0, pat.size() - 2), target);
     return false;
 }
 
@@ -266,9 +272,14 @@ std::vector<std::string> readListFile(const std::string& path, Options& o) {
         return names;
     }
     std::string line;
+    bool first = true;
     while (std::getline(in, line)) {
         if (!line.empty() && line.back() == '\r')
             line.pop_back();
+        // A list file saved as UTF-8 by an editor may start with a byte order mark.
+        if (first && line.rfind("\xEF\xBB\xBF", 0) == 0)
+            line.erase(0, 3);
+        first = false;
         if (!trim(line).empty())
             names.push_back(line);
     }
@@ -348,13 +359,26 @@ public:
     void line(const std::string& s) {
         console(s + "\r\n");
         log(s + "\r\n");
+        progressOpen_ = false;
     }
     // A per-file result that overwrites its progress line on the console.
     void fileLine(const std::string& s) {
         console("\r" + s + "\r\n");
         log(s + "\r\n");
+        progressOpen_ = false;
     }
-    void progress(const std::string& s) { console("\r" + s); }
+    void progress(const std::string& s) {
+        console("\r" + s);
+        progressOpen_ = true;
+    }
+    // A progress line is the last thing on the console (no line end after it).
+    bool progressOpen() const { return progressOpen_; }
+    // Everything written so far reaches the console and the log file.
+    void flush() {
+        std::fflush(stdout);
+        if (log_)
+            std::fflush(log_);
+    }
     [[noreturn]] void finish(int code) {
         log(std::string(kWidth, '=') + "\r\n\r\n");
         if (log_)
@@ -374,7 +398,96 @@ public:
 
 private:
     std::FILE* log_ = nullptr;
+    bool progressOpen_ = false;
 };
+
+// ---------------------------------------------------------------------------------------
+// Faults on demand, for tests of the program that runs the engine: QUOVARA_STANDIN_FAULT
+// makes a run end the way a real one can end badly, once its first progress output is out
+// (the first file's progress line in an add, extract or test, written or not by the display
+// mode; the first entry of a listing, so that the log holds part of the listing).
+//
+//   exit:N     the run ends with exit code N (0-255), no "ERROR:" line, no log closing line
+//   signal:N   signal N is raised with its default action (a signal whose default is to be
+//              ignored, or to stop until continued, lets the run carry on)
+//   hang       the run waits for ever, to be killed
+//   enospc     a failed write: "ERROR: No space left on device", "Process aborted.",
+//              exit 255; an add removes its temporary archive as for other write errors
+
+enum class FaultKind { None, Exit, Signal, Hang, NoSpace };
+
+struct Fault {
+    FaultKind kind = FaultKind::None;
+    int value = 0;
+    bool done = false;
+};
+
+Fault g_fault;
+
+bool numberIn(const std::string& s, int lo, int hi, int& out) {
+    if (s.empty() || s.size() > 3 ||
+        !std::all_of(s.begin(), s.end(), [](char c) { return c >= '0' && c <= '9'; }))
+        return false;
+    out = std::stoi(s);
+    return out >= lo && out <= hi;
+}
+
+// Reads QUOVARA_STANDIN_FAULT; a value that names no fault ends the run with exit code 2 and
+// a message on standard error, so that a mistyped test setting does not go unnoticed.
+void readFault() {
+    const char* v = std::getenv("QUOVARA_STANDIN_FAULT");
+    if (!v || !*v)
+        return;
+    const std::string value = v;
+    Fault f;
+    if (value == "hang")
+        f.kind = FaultKind::Hang;
+    else if (value == "enospc")
+        f.kind = FaultKind::NoSpace;
+    else if (value.rfind("exit:", 0) == 0 && numberIn(value.substr(5), 0, 255, f.value))
+        f.kind = FaultKind::Exit;
+    else if (value.rfind("signal:", 0) == 0 && numberIn(value.substr(7), 1, SIGRTMAX, f.value))
+        f.kind = FaultKind::Signal;
+    if (f.kind == FaultKind::None) {
+        std::fprintf(stderr,
+                     "QUOVARA_STANDIN_FAULT=\"%s\" names no fault (exit:N, signal:N, hang, "
+                     "enospc)\n",
+                     v);
+        std::exit(2);
+    }
+    g_fault = f;
+}
+
+// The place where the fault happens, once per run. `cleanUp` undoes what a failed write
+// would leave behind.
+void faultPoint(Output& out, const std::function<void()>& cleanUp = {}) {
+    if (g_fault.kind == FaultKind::None || g_fault.done)
+        return;
+    g_fault.done = true;
+    out.flush();
+    switch (g_fault.kind) {
+    case FaultKind::None:
+        return;
+    case FaultKind::Exit:
+        std::_Exit(g_fault.value);
+    case FaultKind::Signal: {
+        std::signal(g_fault.value, SIG_DFL);
+        sigset_t set;
+        sigemptyset(&set);
+        sigaddset(&set, g_fault.value);
+        sigprocmask(SIG_UNBLOCK, &set, nullptr);
+        std::raise(g_fault.value);
+        return;
+    }
+    case FaultKind::Hang:
+        for (;;)
+            pause();
+    case FaultKind::NoSpace:
+        if (cleanUp)
+            cleanUp();
+        out.fail("No space left on device", out.progressOpen());
+    }
+}
 
 std::string quoteIfBlank(const std::string& a) {
     return a.find(' ') != std::string::npos ? "\"" + a + "\"" : a;
@@ -468,8 +581,8 @@ std::vector<const Entry*> selectEntries(const Archive& a, const Options& o) {
     auto sel = selectEntries(a, o);
     // Listed in the order of their file names, as the engine lists them.
     std::stable_sort(sel.begin(), sel.end(), [](const Entry* x, const Entry* y) {
-        auto fx = lower(filePart(x->name)), fy = lower(filePart(y->name));
-        return fx != fy ? fx < fy : lower(x->name) < lower(y->name);
+        auto fx = folded(filePart(x->name)), fy = folded(filePart(y->name));
+        return fx != fy ? fx < fy : folded(x->name) < folded(y->name);
     });
     out.line("");
     out.line("file                                size     date        time    attr   crc-32 ");
@@ -478,9 +591,11 @@ std::vector<const Entry*> selectEntries(const Archive& a, const Options& o) {
     for (const Entry* e : sel) {
         out.line(e->name);
         out.line(listDetailLine(e->size, e->mtime, e->attr, e->crc));
+        faultPoint(out);
         size += e->size;
         packed += e->packed.size();
     }
+    faultPoint(out);
     out.line(kDashes);
     out.line(listTotalsLine1(sel.size(), size));
     out.line(listTotalsLine2(packed, a.method, size));
@@ -526,6 +641,7 @@ std::string displayTarget(const std::string& target) {
         std::string shown = extract ? shownBase + join(parts, "\\") : e->name;
         if (o.display >= 2)
             out.progress(jobProgressLine(verb, shown, percentDone(done, total)));
+        faultPoint(out);
         if (failed)
             out.fail("CRC-failure (file \"" + failed->name + "\")", o.display >= 2);
         sleepPerFile(delay);
@@ -561,6 +677,7 @@ std::string displayTarget(const std::string& target) {
         out.console("\r" + kBlankLine + "\r");
         out.fail("CRC-failure (file \"" + failed->name + "\")");
     }
+    faultPoint(out);
     out.line(kDashes);
     out.line(jobTotalLine(secondsSince(start)));
     out.finish(0);
@@ -573,10 +690,19 @@ std::string displayTarget(const std::string& target) {
 // parts removed and "/" turned into "\", so "/data/Src/*.*" stores "data\Src\a.txt" and
 // a relative "folder\*" stores "folder\sub\data.bin".
 
+// A file to add: where it is, its stored name, and its name as the progress lines show it
+// (the path as given, drive included, with "\" as separator: the engine shows
+// "Z:\tmp\src\two.txt" shortened for a file it stores as "tmp\src\two.txt").
 struct Source {
     fs::path path;
     std::string stored;
+    std::string shown;
 };
+
+std::string shownPrefix(const std::string& folder) {
+    std::string s = replaced(folder, '/', '\\');
+    return s.empty() || s.back() == '\\' ? s : s + "\\";
+}
 
 std::string storedPrefix(const std::string& folder) {
     auto parts = safeParts(folder);
@@ -587,8 +713,8 @@ bool isExcluded(const Options& o, const std::string& stored) {
     return anyMatches(o.excludes, stored);
 }
 
-void walk(const fs::path& dir, const std::string& prefix, const std::string& pattern,
-          const Options& o, std::vector<Source>& out) {
+void walk(const fs::path& dir, const std::string& prefix, const std::string& shown,
+          const std::string& pattern, const Options& o, std::vector<Source>& out) {
     std::vector<fs::directory_entry> files, dirs;
     std::error_code ec;
     for (fs::directory_iterator it(dir, ec), end; !ec && it != end; it.increment(ec)) {
@@ -599,7 +725,7 @@ void walk(const fs::path& dir, const std::string& prefix, const std::string& pat
             dirs.push_back(*it);
     }
     auto byName = [](const fs::directory_entry& x, const fs::directory_entry& y) {
-        return lower(x.path().filename().string()) < lower(y.path().filename().string());
+        return folded(x.path().filename().string()) < folded(y.path().filename().string());
     };
     std::sort(files.begin(), files.end(), byName);
     std::sort(dirs.begin(), dirs.end(), byName);
@@ -607,10 +733,12 @@ void walk(const fs::path& dir, const std::string& prefix, const std::string& pat
         std::string name = f.path().filename().string();
         std::string stored = prefix + name;
         if (nameMatches(pattern, name) && !isExcluded(o, stored))
-            out.push_back({f.path(), stored});
+            out.push_back({f.path(), stored, shown + name});
     }
-    for (const auto& d : dirs)
-        walk(d.path(), prefix + d.path().filename().string() + "\\", pattern, o, out);
+    for (const auto& d : dirs) {
+        const std::string sub = d.path().filename().string() + "\\";
+        walk(d.path(), prefix + sub, shown + sub, pattern, o, out);
+    }
 }
 
 std::vector<Source> collectSources(const Options& o) {
@@ -630,20 +758,21 @@ std::vector<Source> collectSources(const Options& o) {
             pattern = pos == std::string::npos ? s : s.substr(pos + 1);
         }
         const std::string prefix = storedPrefix(dir);
+        const std::string shown = shownPrefix(dir);
         if (!hasWildcard(pattern)) {
             fs::path p = hostPath(s);
             std::string stored = prefix + pattern;
             if (fs::is_regular_file(p, ec) && !isExcluded(o, stored))
-                found.push_back({p, stored});
+                found.push_back({p, stored, shown + pattern});
             continue;
         }
-        walk(dir.empty() ? fs::path(".") : fs::path(dir), prefix, pattern, o, found);
+        walk(dir.empty() ? fs::path(".") : fs::path(dir), prefix, shown, pattern, o, found);
     }
     // One source per stored name (names compare without regard to case).
     std::vector<Source> unique;
-    std::set<std::string> seen;
+    std::set<std::u32string> seen;
     for (auto& s : found)
-        if (seen.insert(lower(s.stored)).second)
+        if (seen.insert(folded(s.stored)).second)
             unique.push_back(std::move(s));
     return unique;
 }
@@ -660,7 +789,7 @@ double memoryMB(char method) {
     case '1':
         return 1.2;
     case '2':
-        return 2.3;
+        return 3.0;
     case '3':
         return 4.1;
     case 'x':
@@ -670,11 +799,34 @@ double memoryMB(char method) {
     }
 }
 
+// The smallest power of two KB that holds the data (the engine shows 1 KB for a few bytes),
+// at most the size asked for.
 unsigned shownDictionaryKB(unsigned requested, std::uint64_t bytes) {
-    unsigned kb = 32;
+    unsigned kb = 1;
     while (kb < requested && static_cast<std::uint64_t>(kb) * 1024 < bytes)
         kb *= 2;
     return std::min(kb, requested);
+}
+
+// The engine shows 216 KB of file buffers for an add of about 108 KB and 50 KB for an add of
+// a few bytes; the stand-in switches between the two at 64 KB.
+unsigned fileBufferKB(std::uint64_t bytes) {
+    return bytes < 64 * 1024 ? 50 : 216;
+}
+
+// The engine cannot add to an archive: an add that names an existing one asks at the
+// console whether to overwrite it, and "y" replaces it with a new archive. -y+ answers yes
+// without asking. Any other answer ends the run as an archive that cannot be created.
+void confirmOverwrite(Output& out, const Options& o, const fs::path& archivePath) {
+    std::error_code ec;
+    if (o.yes || !fs::exists(archivePath, ec))
+        return;
+    out.console("\r" + kBlankLine + "\rArchive \"" + o.archive +
+                "\" already exists. Overwrite (y/n) ?");
+    const int key = readOneKey();
+    out.console("\r" + kBlankLine + "\r");
+    if (key != 'y' && key != 'Y')
+        out.fail(kMsgCantCreate);
 }
 
 [[noreturn]] void commandAdd(Output& out, const Options& o) {
@@ -682,14 +834,9 @@ unsigned shownDictionaryKB(unsigned requested, std::uint64_t bytes) {
     const fs::path archivePath = hostPath(o.archive);
     const fs::path folder = archivePath.has_parent_path() ? archivePath.parent_path() : ".";
     const fs::path tempPath = folder / kTempName;
-
-    Archive old;
     std::error_code ec;
-    const bool updating = fs::exists(archivePath, ec);
-    if (updating) {
-        ReadResult r = readArchive(archivePath, kVersion, o.password, old);
-        failOnRead(out, r, old);
-    }
+
+    confirmOverwrite(out, o, archivePath);
 
     out.console("Searching files ...\r");
     std::vector<Source> sources;
@@ -716,45 +863,44 @@ unsigned shownDictionaryKB(unsigned requested, std::uint64_t bytes) {
     ArchiveWriter writer;
     Archive header;
     header.version = kVersion;
-    header.created = updating ? old.created : nowSeconds();
+    header.created = nowSeconds();
     header.method = o.method;
     if (!writer.open(tempPath, header, o.password))
         out.fail(kMsgCantCreate);
 
-    out.line(std::string(updating ? "Updating" : "Creating") + " archive \"" + o.archive + "\".");
+    out.line("Creating archive \"" + o.archive + "\".");
     out.line("Using " + methodField(o.method) + "-mode (" +
              std::to_string(shownDictionaryKB(o.dictionaryKB, total)) + " KB dictionary)" +
              (o.multimedia ? " with multimedia detection." : "."));
     char mem[96];
-    std::snprintf(mem, sizeof mem, "Using %.1f MB for compression and 216 KB for file buffers.",
-                  memoryMB(o.method));
+    std::snprintf(mem, sizeof mem, "Using %.1f MB for compression and %u KB for file buffers.",
+                  memoryMB(o.method), fileBufferKB(total));
     out.line(mem);
     out.line("");
     out.line(addHeaderLine(sources.size(), total));
     out.line(kDashes);
 
-    // Entries kept from the archive come first; a new file of the same name replaces one.
-    std::set<std::string> newNames;
-    for (const auto& s : sources)
-        newNames.insert(lower(s.stored));
-    for (const auto& e : old.entries)
-        if (!newNames.count(lower(e.name)) && !writer.add(e))
-            out.fail(kMsgCantCreate);
-
+    // Display mode 1 rewrites one progress line per file in place; mode 2 also ends each
+    // with the file's result line; mode 0 shows neither.
     const int delay = perFileDelayMs();
     const auto start = std::chrono::steady_clock::now();
     std::uint64_t done = 0, packedSoFar = 0;
+    const bool showProgress = o.display >= 1;
     const bool perFile = o.display >= 2;
     for (const auto& s : sources) {
-        if (perFile)
-            out.progress(addProgressLine(s.stored, percentDone(done, total), done, packedSoFar));
+        if (showProgress)
+            out.progress(addProgressLine(s.shown, percentDone(done, total), done, packedSoFar));
+        faultPoint(out, [&] {
+            writer.finish();
+            fs::remove(tempPath, ec);
+        });
         sleepPerFile(delay);
         std::ifstream in(s.path, std::ios::binary);
         Bytes data((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
         if (!in.good() && !in.eof()) {
             writer.finish();
             fs::remove(tempPath, ec);
-            out.fail("Can't open file \"" + s.stored + "\"", perFile);
+            out.fail("Can't open file \"" + s.shown + "\"", showProgress);
         }
         Entry e;
         e.name = s.stored;
@@ -770,23 +916,26 @@ unsigned shownDictionaryKB(unsigned requested, std::uint64_t bytes) {
         if (!writer.add(e)) {
             writer.finish();
             fs::remove(tempPath, ec);
-            out.fail(kMsgCantCreate, perFile);
+            out.fail(kMsgCantCreate, showProgress);
         }
         done += e.size;
         packedSoFar += e.packed.size();
         if (perFile)
-            out.fileLine(addFileLine(s.stored, e.size, e.packed.size()));
+            out.fileLine(addFileLine(s.shown, e.size, e.packed.size()));
     }
     if (!writer.finish()) {
         fs::remove(tempPath, ec);
-        out.fail(kMsgCantCreate);
+        out.fail(kMsgCantCreate, showProgress && !perFile);
     }
     fs::rename(tempPath, archivePath, ec);
     if (ec) {
         fs::remove(tempPath, ec);
-        out.fail(kMsgCantCreate);
+        out.fail(kMsgCantCreate, showProgress && !perFile);
     }
-    out.line(kDashes);
+    if (showProgress && !perFile)
+        out.console("\r" + kBlankLine + "\r");
+    else
+        out.line(kDashes);
     out.line(addTotalLine(secondsSince(start), done, packedSoFar));
     if (move)
         for (const auto& s : sources)
@@ -806,6 +955,7 @@ void writeUsage(Output& out) {
 } // namespace
 
 int main(int argc, char** argv) {
+    readFault();
     Output out;
     Options o;
     const std::string envValue = environmentOptions(o);

@@ -11,15 +11,22 @@
 #include <QRegularExpression>
 #include <QStringList>
 #include <QTemporaryDir>
+#include <QThread>
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cstdint>
 #include <map>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
+
+#include <fcntl.h>
+#include <stdlib.h>
+#include <termios.h>
+#include <unistd.h>
 
 namespace {
 
@@ -33,21 +40,26 @@ QString engine(const QString& version) {
 }
 
 struct EngineRun {
-    int exitCode = -1;
+    int exitCode = -1; // -2: ended by a signal
+    int signal = 0;    // the signal that ended it
     QByteArray out;
+    QByteArray err;
     qint64 ms = 0;
 };
 
 QProcessEnvironment cleanEnvironment() {
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     for (const QString& key : env.keys())
-        if (key.compare("uharc_opt", Qt::CaseInsensitive) == 0 || key == "QUOVARA_STANDIN_DELAY_MS")
+        if (key.compare("uharc_opt", Qt::CaseInsensitive) == 0 ||
+            key.startsWith("QUOVARA_STANDIN_"))
             env.remove(key);
     return env;
 }
 
+// Runs the engine to its end. Standard input holds `input` and then ends, so a console
+// question gets that answer (or the end of the input).
 EngineRun run(const QString& version, const QStringList& args, const QString& workDir,
-              const std::map<QString, QString>& extraEnv = {}) {
+              const std::map<QString, QString>& extraEnv = {}, const QByteArray& input = {}) {
     QProcess p;
     QProcessEnvironment env = cleanEnvironment();
     for (const auto& [k, v] : extraEnv)
@@ -59,11 +71,18 @@ EngineRun run(const QString& version, const QStringList& args, const QString& wo
     timer.start();
     p.start(engine(version), args);
     EngineRun r;
-    if (!p.waitForStarted(10000) || !p.waitForFinished(60000))
+    if (!p.waitForStarted(10000))
+        return r;
+    p.write(input);
+    p.closeWriteChannel();
+    if (!p.waitForFinished(60000))
         return r;
     r.ms = timer.elapsed();
     r.exitCode = p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -2;
+    if (p.exitStatus() == QProcess::CrashExit)
+        r.signal = p.exitCode();
     r.out = p.readAllStandardOutput();
+    r.err = p.readAllStandardError();
     return r;
 }
 
@@ -565,7 +584,7 @@ TEST_F(StandinTest, MoveDeletesTheStoredSources) {
     EXPECT_EQ(readFile(path("back/folder/readme.txt")), textOfSize(13989));
 }
 
-TEST_F(StandinTest, AddingToAnArchiveKeepsItsEntriesAndReplacesSameNames) {
+TEST_F(StandinTest, AddingWithYesReplacesAnExistingArchiveWithoutAsking) {
     writeFile(path("d/a.txt"), "first");
     writeFile(path("d/b.txt"), "bee");
     ASSERT_EQ(run6({"a", "-y+", "k.uha", "d/a.txt", "d/b.txt"}, dir.path()).exitCode, 0);
@@ -573,11 +592,385 @@ TEST_F(StandinTest, AddingToAnArchiveKeepsItsEntriesAndReplacesSameNames) {
     writeFile(path("d/c.txt"), "sea");
     EngineRun a = run6({"a", "-y+", "-d2", "k.uha", "d/a.txt", "d/c.txt"}, dir.path());
     ASSERT_EQ(a.exitCode, 0) << a.out.toStdString();
-    EXPECT_TRUE(hasLine(a.out, "Updating archive \"k.uha\"."));
+    EXPECT_FALSE(a.out.contains("already exists"));
+    EXPECT_TRUE(hasLine(a.out, "Creating archive \"k.uha\"."));
+    run6({"l", "-lgk.txt", "k.uha"}, dir.path());
+    EXPECT_EQ(listedNames(readFile(path("k.txt"))),
+              (std::vector<std::string>{"d\\a.txt", "d\\c.txt"}));
     ASSERT_EQ(run6({"x", "-y+", "-tk", "k.uha"}, dir.path()).exitCode, 0);
     EXPECT_EQ(readFile(path("k/d/a.txt")), "second version");
-    EXPECT_EQ(readFile(path("k/d/b.txt")), "bee");
     EXPECT_EQ(readFile(path("k/d/c.txt")), "sea");
+    EXPECT_FALSE(QFile::exists(path("k/d/b.txt")));
+
+    // -y+ from uharc_opt answers as well.
+    EngineRun env = run("0.6", {"a", "k.uha", "d/b.txt"}, dir.path(), {{"UHARC_OPT", " -y+"}});
+    ASSERT_EQ(env.exitCode, 0) << env.out.toStdString();
+    EXPECT_FALSE(env.out.contains("already exists"));
+    run6({"l", "-lgk2.txt", "k.uha"}, dir.path());
+    EXPECT_EQ(listedNames(readFile(path("k2.txt"))), std::vector<std::string>{"d\\b.txt"});
+}
+
+// The console output after the banner (the blank line, three banner lines): the part that
+// the stand-in writes as the engine does.
+QByteArray afterBanner(const QByteArray& out) {
+    qsizetype pos = 0;
+    for (int i = 0; i < 4 && pos >= 0; ++i) {
+        pos = out.indexOf("\r\n", pos);
+        if (pos >= 0)
+            pos += 2;
+    }
+    return pos < 0 ? QByteArray() : out.mid(pos);
+}
+
+// The capture's layout: the archive Z:\tmp\ucap\one.uha (a folder named "Z:" in the
+// working folder here) holds src\one.txt; the add names src\two.txt (4 bytes).
+class StandinQuestionTest : public StandinTest {
+protected:
+    void SetUp() override {
+        StandinTest::SetUp();
+        writeFile(path("Z:/tmp/ucap/src/one.txt"), "one!\r\n");
+        writeFile(path("Z:/tmp/ucap/src/two.txt"), "two!");
+        writeFile(path("Z:/tmp/ucap/src/three.txt"), "three");
+        ASSERT_EQ(run6({"a", "-y+", kArchive, "Z:\\tmp\\ucap\\src\\one.txt"}, dir.path()).exitCode,
+                  0);
+        original = readFile(archiveFile());
+        ASSERT_FALSE(original.isEmpty());
+    }
+    QString archiveFile() const { return path("Z:/tmp/ucap/one.uha"); }
+    std::vector<std::string> storedNames() {
+        QFile::remove(path("names.txt"));
+        run6({"l", "-lgnames.txt", kArchive}, dir.path());
+        return listedNames(readFile(path("names.txt")));
+    }
+    static constexpr const char* kArchive = "Z:\\tmp\\ucap\\one.uha";
+    static constexpr const char* kSource = "Z:\\tmp\\ucap\\src\\two.txt";
+    QByteArray original;
+};
+
+TEST_F(StandinQuestionTest, AsksAndWaitsForOneKeyThenNoLeavesTheArchive) {
+    QProcess p;
+    p.setProcessEnvironment(cleanEnvironment());
+    p.setWorkingDirectory(dir.path());
+    p.start(engine("0.6"), {"a", "-m2", kArchive, kSource});
+    ASSERT_TRUE(p.waitForStarted(10000));
+    QByteArray seen;
+    while (!seen.endsWith("?") && p.waitForReadyRead(10000))
+        seen += p.readAllStandardOutput();
+    EXPECT_EQ(afterBanner(seen), afterBanner(sampleFile("add-existing-question.out")));
+    expectSameLayout(sampleFile("add-existing-question.out"), seen, OutputKind::Console);
+    // It waits for the key.
+    EXPECT_FALSE(p.waitForFinished(500));
+    p.write("n");
+    ASSERT_TRUE(p.waitForFinished(10000));
+    EXPECT_EQ(p.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(p.exitCode(), 255);
+    seen += p.readAllStandardOutput();
+    EXPECT_EQ(afterBanner(seen), afterBanner(sampleFile("add-existing-answer-n.out")));
+    expectSameLayout(sampleFile("add-existing-answer-n.out"), seen, OutputKind::Console);
+    EXPECT_EQ(readFile(archiveFile()), original);
+    EXPECT_FALSE(QFile::exists(path("Z:/tmp/ucap/UHA$0000.$$$")));
+}
+
+TEST_F(StandinQuestionTest, YesReplacesTheArchiveWithTheNewFilesOnly) {
+    EngineRun r = run("0.6", {"a", "-m2", kArchive, kSource}, dir.path(), {}, "y");
+    ASSERT_EQ(r.exitCode, 0) << r.out.toStdString();
+    const QByteArray sample = sampleFile("add-existing-answer-y.out");
+    expectSameLayout(sample, r.out, OutputKind::Console);
+    const QByteArray upToSearch =
+        "\r\n\r" + QByteArray(79, ' ') + "\rArchive \"Z:\\tmp\\ucap\\one.uha\" already exists. " +
+        "Overwrite (y/n) ?\r" + QByteArray(79, ' ') + "\rSearching files ...\r";
+    EXPECT_TRUE(afterBanner(sample).startsWith(upToSearch));
+    EXPECT_TRUE(afterBanner(r.out).startsWith(upToSearch));
+    EXPECT_TRUE(hasLine(r.out, "Adding 1 file (4 bytes)                                 size     "
+                               "packed   ratio"));
+    EXPECT_TRUE(hasLine(r.out, "Using ALZ:2-mode (1 KB dictionary) with multimedia detection."));
+    EXPECT_TRUE(hasLine(r.out, "Using 3.0 MB for compression and 50 KB for file buffers."));
+    EXPECT_EQ(storedNames(), std::vector<std::string>{"tmp\\ucap\\src\\two.txt"});
+    ASSERT_EQ(run6({"x", "-y+", "-tout", kArchive}, dir.path()).exitCode, 0);
+    EXPECT_EQ(readFile(path("out/tmp/ucap/src/two.txt")), "two!");
+    EXPECT_FALSE(QFile::exists(path("out/tmp/ucap/src/one.txt")));
+}
+
+TEST_F(StandinQuestionTest, CapitalYAnswersYesAnyOtherKeyOrNoInputAnswersNo) {
+    for (const QByteArray& key :
+         {QByteArray("x"), QByteArray("N"), QByteArray(), QByteArray("\n"), QByteArray(" y")}) {
+        SCOPED_TRACE(key.toStdString());
+        EngineRun r = run("0.6", {"a", "-d2", kArchive, kSource}, dir.path(), {}, key);
+        EXPECT_EQ(r.exitCode, 255);
+        EXPECT_TRUE(r.out.endsWith("Overwrite (y/n) ?\r" + QByteArray(79, ' ') +
+                                   "\rERROR: Can't create archive file\r\nProcess aborted.\r\n"))
+            << r.out.toStdString();
+        EXPECT_EQ(readFile(archiveFile()), original);
+    }
+    // One byte is read: "Yes" answers with its "Y".
+    EngineRun r =
+        run("0.6", {"a", kArchive, "Z:\\tmp\\ucap\\src\\three.txt"}, dir.path(), {}, "Yes\r\n");
+    ASSERT_EQ(r.exitCode, 0) << r.out.toStdString();
+    EXPECT_EQ(storedNames(), std::vector<std::string>{"tmp\\ucap\\src\\three.txt"});
+}
+
+TEST_F(StandinQuestionTest, MoveAsksTooAndKeepsItsSourcesOnNo) {
+    EngineRun no = run("0.6", {"m", kArchive, kSource}, dir.path(), {}, "n");
+    EXPECT_EQ(no.exitCode, 255);
+    EXPECT_TRUE(no.out.contains("already exists. Overwrite (y/n) ?"));
+    EXPECT_TRUE(QFile::exists(path("Z:/tmp/ucap/src/two.txt")));
+    EXPECT_EQ(readFile(archiveFile()), original);
+    EngineRun yes = run("0.6", {"m", kArchive, kSource}, dir.path(), {}, "y");
+    EXPECT_EQ(yes.exitCode, 0);
+    EXPECT_FALSE(QFile::exists(path("Z:/tmp/ucap/src/two.txt")));
+    EXPECT_EQ(storedNames(), std::vector<std::string>{"tmp\\ucap\\src\\two.txt"});
+}
+
+// A pseudo-terminal as the engine's standard input: one key without Enter answers, the key
+// is not echoed, and the terminal settings are back afterwards.
+class StandinTerminalTest : public StandinQuestionTest {
+protected:
+    void SetUp() override {
+        StandinQuestionTest::SetUp();
+        master = posix_openpt(O_RDWR | O_NOCTTY);
+        ASSERT_GE(master, 0);
+        ASSERT_EQ(grantpt(master), 0);
+        ASSERT_EQ(unlockpt(master), 0);
+        slaveName = QString::fromLocal8Bit(ptsname(master));
+        slave = ::open(ptsname(master), O_RDWR | O_NOCTTY);
+        ASSERT_GE(slave, 0);
+        fcntl(master, F_SETFL, fcntl(master, F_GETFL) | O_NONBLOCK);
+        ASSERT_EQ(tcgetattr(slave, &before), 0);
+        ASSERT_TRUE(before.c_lflag & ICANON);
+        ASSERT_TRUE(before.c_lflag & ECHO);
+    }
+    void TearDown() override {
+        if (slave >= 0)
+            ::close(slave);
+        if (master >= 0)
+            ::close(master);
+    }
+    // Starts the add with the terminal as standard input and waits until the question is
+    // out and the terminal reads single keys.
+    void startAsking(QProcess& p) {
+        p.setProcessEnvironment(cleanEnvironment());
+        p.setWorkingDirectory(dir.path());
+        p.setStandardInputFile(slaveName);
+        p.start(engine("0.6"), {"a", kArchive, kSource});
+        ASSERT_TRUE(p.waitForStarted(10000));
+        QByteArray seen;
+        while (!seen.endsWith("Overwrite (y/n) ?") && p.waitForReadyRead(10000))
+            seen += p.readAllStandardOutput();
+        ASSERT_TRUE(seen.endsWith("Overwrite (y/n) ?"));
+        QElapsedTimer t;
+        t.start();
+        struct termios now {};
+        for (;;) {
+            ASSERT_EQ(tcgetattr(slave, &now), 0);
+            if (!(now.c_lflag & ICANON) || t.elapsed() > 5000)
+                break;
+            QThread::msleep(10);
+        }
+        EXPECT_FALSE(now.c_lflag & ICANON);
+        EXPECT_FALSE(now.c_lflag & ECHO);
+    }
+    void expectSettingsBack() {
+        struct termios after {};
+        ASSERT_EQ(tcgetattr(slave, &after), 0);
+        EXPECT_EQ(after.c_lflag, before.c_lflag);
+        EXPECT_EQ(after.c_cc[VMIN], before.c_cc[VMIN]);
+        EXPECT_EQ(after.c_cc[VTIME], before.c_cc[VTIME]);
+    }
+    int master = -1;
+    int slave = -1;
+    QString slaveName;
+    struct termios before {};
+};
+
+TEST_F(StandinTerminalTest, OneKeyWithoutEnterAnswers) {
+    QProcess p;
+    startAsking(p);
+    ASSERT_EQ(::write(master, "y", 1), 1);
+    ASSERT_TRUE(p.waitForFinished(10000));
+    EXPECT_EQ(p.exitCode(), 0) << p.readAllStandardOutput().toStdString();
+    EXPECT_EQ(storedNames(), std::vector<std::string>{"tmp\\ucap\\src\\two.txt"});
+    char echoed[16];
+    EXPECT_LE(::read(master, echoed, sizeof echoed), 0); // nothing was echoed
+    expectSettingsBack();
+}
+
+TEST_F(StandinTerminalTest, SettingsComeBackWhenTheWaitIsEndedBySignal) {
+    QProcess p;
+    startAsking(p);
+    p.terminate();
+    ASSERT_TRUE(p.waitForFinished(10000));
+    EXPECT_EQ(p.exitStatus(), QProcess::CrashExit);
+    expectSettingsBack();
+    EXPECT_EQ(readFile(archiveFile()), original);
+}
+
+TEST_F(StandinTest, ListingOfOneFileSaysOneFile) {
+    // The capture's archive Z:\tmp\ucap\one.uha ("Z:" is a folder here) with src\one.txt.
+    writeFile(path("Z:/tmp/ucap/src/one.txt"), "one!\r\n");
+    const QString arc = "Z:\\tmp\\ucap\\one.uha";
+    ASSERT_EQ(run6({"a", "-y+", arc, "Z:\\tmp\\ucap\\src\\one.txt"}, dir.path()).exitCode, 0);
+    EngineRun l = run6({"l", "-d2", "-y+", "-lgZ:\\tmp\\ucap\\one.log", arc}, dir.path());
+    ASSERT_EQ(l.exitCode, 0) << l.out.toStdString();
+    const QByteArray log = readFile(path("Z:/tmp/ucap/one.log"));
+    const QByteArray sample = sampleFile("list-one-file.log");
+    expectSameLayout(sample, log, OutputKind::Log);
+    auto mine = crlfLines(log), engine = crlfLines(sample);
+    ASSERT_GE(mine.size(), 5u);
+    ASSERT_EQ(mine.size(), engine.size());
+    const std::string totals = "1 file" + std::string(33, ' ') + "6";
+    EXPECT_EQ(engine[engine.size() - 4], totals);
+    EXPECT_EQ(mine[mine.size() - 4], totals);
+    EXPECT_TRUE(l.out.contains(QByteArray::fromStdString("\r\n" + totals + "\r\n")));
+    EXPECT_EQ(listedNames(log), std::vector<std::string>{"tmp\\ucap\\src\\one.txt"});
+
+    // Two files and none stay plural.
+    writeFile(path("Z:/tmp/ucap/src/two.txt"), "two!");
+    ASSERT_EQ(run6({"a", "-y+", arc, "Z:\\tmp\\ucap\\src\\*.txt"}, dir.path()).exitCode, 0);
+    EngineRun two = run6({"l", "-y+", arc}, dir.path());
+    EXPECT_TRUE(hasLine(two.out, "2 files" + std::string(31, ' ') + "10")) << two.out.toStdString();
+    EngineRun none = run6({"l", "-y+", arc, "nothing.*"}, dir.path());
+    EXPECT_TRUE(hasLine(none.out, "0 files" + std::string(32, ' ') + "0"))
+        << none.out.toStdString();
+}
+
+// Names beyond ASCII, a blank and an apostrophe, in the order the listing gives them (by
+// character code of the lower-case file name).
+const std::vector<std::string> kIntlNames = {"a b.txt",    "it's.txt",   "Łódź.txt", "Αθήνα.txt",
+                                             "Привет.txt", "日本語.txt", "📦.txt"};
+
+QString fromUtf8(const std::string& s) {
+    return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size()));
+}
+
+// Characters (code points) of a UTF-8 text.
+std::size_t charsOf(const std::string& s) {
+    return static_cast<std::size_t>(fromUtf8(s).toUcs4().size());
+}
+
+std::string padded(const std::string& s, std::size_t width) {
+    std::size_t n = charsOf(s);
+    return n >= width ? s : s + std::string(width - n, ' ');
+}
+
+std::string rightAt(const std::string& s, std::size_t width) {
+    return s.size() >= width ? s : std::string(width - s.size(), ' ') + s;
+}
+
+std::set<std::string> filesIn(const QString& folder) {
+    std::set<std::string> names;
+    for (const QString& n : QDir(folder).entryList(QDir::Files))
+        names.insert(n.toStdString());
+    return names;
+}
+
+TEST_F(StandinTest, Utf8NamesAreStoredListedAndExtractedAsGiven) {
+    std::set<std::string> all;
+    std::uint64_t total = 0;
+    for (const auto& n : kIntlNames) {
+        writeFile(path("intl/" + fromUtf8(n)), QByteArray::fromStdString("text of " + n));
+        all.insert(n);
+        total += 8 + n.size();
+    }
+    ASSERT_EQ(filesIn(path("intl")), all);
+
+    // Add the folder, stored (-m0) so that the result lines are known to the byte.
+    EngineRun a = run6({"a", "-m0", "-y+", "-d2", "u.uha", "intl"}, dir.path());
+    ASSERT_EQ(a.exitCode, 0) << a.out.toStdString();
+    EXPECT_TRUE(hasLine(a.out, padded("Adding 7 files (" + std::to_string(total) + " bytes)", 49) +
+                                   "       size     packed   ratio"));
+    for (const auto& n : kIntlNames) {
+        const std::string size = std::to_string(8 + n.size());
+        EXPECT_TRUE(hasLine(a.out, padded("Adding intl\\" + n, 49) + rightAt(size, 11) +
+                                       rightAt(size, 11) + "  100.0%"))
+            << n;
+    }
+    // Every add line is 79 characters wide, "Total:" at the same column as for ASCII names.
+    for (const auto& r : records(a.out)) {
+        if (r.text.rfind("Adding intl\\", 0) != 0)
+            continue;
+        EXPECT_EQ(charsOf(r.text), 79u) << r.text;
+        if (r.end == "\r") {
+            EXPECT_EQ(fromUtf8(r.text).toUcs4().mid(39, 6), QString("Total:").toUcs4()) << r.text;
+        }
+    }
+
+    // The listing log names every file once, in the listing order, with its detail line.
+    ASSERT_EQ(run6({"l", "-d2", "-y+", "-lglist.log", "u.uha"}, dir.path()).exitCode, 0);
+    const QByteArray log = readFile(path("list.log"));
+    std::vector<std::string> expected;
+    for (const auto& n : kIntlNames)
+        expected.push_back("intl\\" + n);
+    EXPECT_EQ(listedNames(log), expected);
+    auto lines = crlfLines(log);
+    for (std::size_t i = 0; i < kIntlNames.size(); ++i) {
+        const std::string& detail = lines[9 + 2 * i + 1];
+        EXPECT_EQ(detail.substr(0, 40), rightAt(std::to_string(8 + kIntlNames[i].size()), 40));
+        EXPECT_EQ(detail.size(), 79u);
+    }
+    EXPECT_EQ(lines[lines.size() - 4], padded("7 files", 20) + rightAt(std::to_string(total), 20));
+
+    // Selection by name: case-insensitive beyond ASCII, "?" is one character.
+    QFile::remove(path("sel.log"));
+    run6({"l", "-lgsel.log", "u.uha", "ПРИВЕТ.TXT", "łÓDŹ.txt", "?.txt"}, dir.path());
+    EXPECT_EQ(listedNames(readFile(path("sel.log"))),
+              (std::vector<std::string>{"intl\\Łódź.txt", "intl\\Привет.txt", "intl\\📦.txt"}));
+
+    // Test: one result line per file, 79 characters.
+    EngineRun t = run6({"t", "-d2", "-y+", "u.uha"}, dir.path());
+    ASSERT_EQ(t.exitCode, 0) << t.out.toStdString();
+    for (const auto& n : kIntlNames)
+        EXPECT_TRUE(hasLine(t.out, padded("Testing intl\\" + n, 79))) << n;
+
+    // Extract with paths, without paths, and one item.
+    EngineRun x = run6({"x", "-d2", "-y+", "-tout", "u.uha"}, dir.path());
+    ASSERT_EQ(x.exitCode, 0) << x.out.toStdString();
+    EXPECT_EQ(filesIn(path("out/intl")), all);
+    for (const auto& n : kIntlNames) {
+        EXPECT_EQ(readFile(path("out/intl/" + fromUtf8(n))),
+                  QByteArray::fromStdString("text of " + n));
+        EXPECT_TRUE(hasLine(x.out, padded("Extracting out\\intl\\" + n, 79))) << n;
+    }
+    EngineRun e = run6({"e", "-y+", "-tflat", "u.uha"}, dir.path());
+    ASSERT_EQ(e.exitCode, 0) << e.out.toStdString();
+    EXPECT_EQ(filesIn(path("flat")), all);
+    EXPECT_TRUE(QDir(path("flat")).entryList(QDir::Dirs | QDir::NoDotAndDotDot).isEmpty());
+    EngineRun one = run6(
+        {"e", "-o+", "-t" + path("single"), "-y+", path("u.uha"), "intl\\Αθήνα.txt"}, dir.path());
+    ASSERT_EQ(one.exitCode, 0) << one.out.toStdString();
+    EXPECT_EQ(filesIn(path("single")), std::set<std::string>{"Αθήνα.txt"});
+    EXPECT_EQ(readFile(path("single/Αθήνα.txt")), QByteArray("text of Αθήνα.txt"));
+}
+
+TEST_F(StandinTest, Utf8NamesFromTheCommandLineAndListFilesAndShortenedByCharacters) {
+    for (const auto& n : kIntlNames)
+        writeFile(path("intl/" + fromUtf8(n)), QByteArray::fromStdString(n));
+    // A list file saved with a byte order mark, and names on the command line.
+    writeFile(path("names.lst"), "\xEF\xBB\xBFintl/Łódź.txt\r\nintl\\📦.txt\r\n");
+    EngineRun a =
+        run6({"a", "-y+", "n.uha", "@names.lst", "intl/it's.txt", "intl\\日本語.txt"}, dir.path());
+    ASSERT_EQ(a.exitCode, 0) << a.out.toStdString();
+    run6({"l", "-lgn.log", "n.uha"}, dir.path());
+    EXPECT_EQ(listedNames(readFile(path("n.log"))),
+              (std::vector<std::string>{"intl\\it's.txt", "intl\\Łódź.txt", "intl\\日本語.txt",
+                                        "intl\\📦.txt"}));
+    writeFile(path("x.lst"), "intl\\a b.txt\nintl\\日本語.txt\n");
+    ASSERT_EQ(run6({"x", "-y+", "-tout", "n.uha", "@x.lst"}, dir.path()).exitCode, 0);
+    EXPECT_EQ(filesIn(path("out/intl")), std::set<std::string>{"日本語.txt"});
+
+    // A name longer than its field keeps its last characters behind "...", whole characters.
+    const std::string folder = "Очень длинная папка";
+    writeFile(path(fromUtf8(folder + "/Привет.txt")), "hello");
+    EngineRun l =
+        run6({"a", "-y+", "-d2", "long.uha", fromUtf8(folder + "/Привет.txt")}, dir.path());
+    ASSERT_EQ(l.exitCode, 0) << l.out.toStdString();
+    const QString shown = fromUtf8(folder + "\\Привет.txt");
+    const std::string tail22 = "..." + shown.right(19).toStdString();
+    EXPECT_TRUE(
+        hasLine(l.out, padded("Adding " + tail22, 39) + "Total:  0%          0          0    0.0%"))
+        << l.out.toStdString();
+    EXPECT_TRUE(hasLine(l.out, padded("Adding " + shown.toStdString(), 49) +
+                                   "          5          6  120.0%"))
+        << l.out.toStdString();
 }
 
 TEST_F(StandinTest, OverwriteOffKeepsAndOnReplaces) {
@@ -803,6 +1196,181 @@ TEST_F(StandinTest, PerFileDelayIsMeasurable) {
     EXPECT_GE(add.ms, 750);
     EXPECT_GE(test.ms, 750);
     EXPECT_GE(ext.ms, 750);
+}
+
+// ---------------------------------------------------------------------------------------
+// Faults on demand (QUOVARA_STANDIN_FAULT)
+
+class StandinFaultTest : public StandinTest {
+protected:
+    void SetUp() override {
+        StandinTest::SetUp();
+        for (int i = 0; i < 3; ++i)
+            writeFile(path(QString("src/f%1.txt").arg(i)), textOfSize(1000 + i));
+        ASSERT_EQ(run6({"a", "-y+", "f.uha", "src/*"}, dir.path()).exitCode, 0);
+        archive = readFile(path("f.uha"));
+        EngineRun l = run6({"l", "-y+", "f.uha"}, dir.path());
+        auto lines = crlfLines(l.out);
+        auto at = std::find(lines.begin(), lines.end(), "src\\f0.txt");
+        ASSERT_NE(at, lines.end());
+        f0Detail = QByteArray::fromStdString(*(at + 1));
+        ASSERT_EQ(f0Detail.size(), 79);
+    }
+    EngineRun faulty(const QString& fault, const QStringList& args) {
+        return run("0.6", args, dir.path(), {{"QUOVARA_STANDIN_FAULT", fault}});
+    }
+    // The command lines of every command; each writes per-file progress lines (-d2), the
+    // listing its log.
+    static std::vector<std::pair<std::string, QStringList>> commands() {
+        return {{"a", {"a", "-y+", "-d2", "new.uha", "src/*"}},
+                {"m", {"m", "-y+", "-d2", "new.uha", "src/*"}},
+                {"e", {"e", "-y+", "-d2", "-tout", "f.uha"}},
+                {"x", {"x", "-y+", "-d2", "-tout", "f.uha"}},
+                {"t", {"t", "-y+", "-d2", "f.uha"}},
+                {"l", {"l", "-d2", "-y+", "-lgLOG.txt", "f.uha"}}};
+    }
+    // What the run has written up to the fault: the first file's progress line, or the
+    // listing up to its first entry.
+    QByteArray firstProgress(const std::string& cmd) const {
+        if (cmd == "a" || cmd == "m")
+            return "-------------------------------------------------------------------------"
+                   "------\r\n\rAdding src\\f0.txt                      Total:  0%          0 "
+                   "         0    0.0%";
+        if (cmd == "e")
+            return QByteArray("\rExtracting out\\f0.txt") + QByteArray(48, ' ') + "Total:  0%";
+        if (cmd == "x")
+            return QByteArray("\rExtracting out\\src\\f0.txt") + QByteArray(44, ' ') + "Total:  0%";
+        if (cmd == "t")
+            return QByteArray("\rTesting src\\f0.txt") + QByteArray(51, ' ') + "Total:  0%";
+        return QByteArray(79, '-') + "\r\nsrc\\f0.txt\r\n" + f0Detail + "\r\n";
+    }
+    void expectNothingChanged(const std::string& cmd) {
+        EXPECT_EQ(readFile(path("f.uha")), archive);
+        EXPECT_FALSE(QFile::exists(path("new.uha")));
+        EXPECT_FALSE(QFile::exists(path("out/f0.txt")));
+        EXPECT_FALSE(QFile::exists(path("out/src/f0.txt")));
+        for (int i = 0; i < 3; ++i)
+            EXPECT_TRUE(QFile::exists(path(QString("src/f%1.txt").arg(i)))) << cmd;
+    }
+    QByteArray archive;
+    QByteArray f0Detail; // the listing's detail line of src\f0.txt
+};
+
+TEST_F(StandinFaultTest, ExitEndsAfterTheFirstProgressWithTheCodeAndNoError) {
+    for (const auto& [cmd, args] : commands()) {
+        SCOPED_TRACE(cmd);
+        QFile::remove(path("LOG.txt"));
+        QFile::remove(path("UHA$0000.$$$"));
+        EngineRun r = faulty("exit:7", args);
+        EXPECT_EQ(r.exitCode, 7);
+        EXPECT_FALSE(r.out.contains("ERROR:"));
+        EXPECT_TRUE(r.out.endsWith(firstProgress(cmd))) << r.out.toStdString();
+        expectNothingChanged(cmd);
+        if (cmd == "a" || cmd == "m") {
+            EXPECT_TRUE(QFile::exists(path("UHA$0000.$$$")));
+        }
+        if (cmd == "l") {
+            // The log holds the listing up to its first entry, and no closing line.
+            const QByteArray log = readFile(path("LOG.txt"));
+            EXPECT_TRUE(log.contains("\r\nsrc\\f0.txt\r\n")) << log.toStdString();
+            EXPECT_FALSE(log.contains("src\\f1.txt"));
+            EXPECT_FALSE(log.contains(" packed ("));
+            EXPECT_FALSE(log.contains(QByteArray(79, '=')));
+            EXPECT_TRUE(log.endsWith(firstProgress(cmd).mid(81)));
+        }
+    }
+    EXPECT_EQ(faulty("exit:0", {"t", "-y+", "-d2", "f.uha"}).exitCode, 0);
+    EXPECT_EQ(faulty("exit:255", {"t", "-y+", "f.uha"}).exitCode, 255);
+}
+
+TEST_F(StandinFaultTest, SignalEndsTheRunByThatSignal) {
+    for (const auto& [cmd, args] : commands()) {
+        SCOPED_TRACE(cmd);
+        for (int sig : {9, 15, 2}) {
+            EngineRun r = faulty("signal:" + QString::number(sig), args);
+            EXPECT_EQ(r.exitCode, -2) << sig;
+            EXPECT_EQ(r.signal, sig);
+            EXPECT_FALSE(r.out.contains("ERROR:"));
+            EXPECT_TRUE(r.out.endsWith(firstProgress(cmd))) << r.out.toStdString();
+            expectNothingChanged(cmd);
+        }
+    }
+    // A signal whose default action is to be ignored (SIGWINCH) lets the run finish.
+    EngineRun ignored = faulty("signal:28", {"t", "-y+", "-d2", "f.uha"});
+    EXPECT_EQ(ignored.exitCode, 0);
+    EXPECT_TRUE(ignored.out.contains("All files OK"));
+}
+
+TEST_F(StandinFaultTest, HangWaitsForEverAfterTheFirstProgress) {
+    for (const auto& [cmd, args] : commands()) {
+        SCOPED_TRACE(cmd);
+        QFile::remove(path("LOG.txt"));
+        QProcess p;
+        QProcessEnvironment env = cleanEnvironment();
+        env.insert("QUOVARA_STANDIN_FAULT", "hang");
+        p.setProcessEnvironment(env);
+        p.setWorkingDirectory(dir.path());
+        p.start(engine("0.6"), args);
+        ASSERT_TRUE(p.waitForStarted(10000));
+        QByteArray seen;
+        const QByteArray expected = firstProgress(cmd);
+        while (!seen.endsWith(expected) && p.waitForReadyRead(10000))
+            seen += p.readAllStandardOutput();
+        EXPECT_TRUE(seen.endsWith(expected)) << seen.toStdString();
+        EXPECT_FALSE(p.waitForFinished(700));
+        EXPECT_EQ(p.state(), QProcess::Running);
+        seen += p.readAllStandardOutput();
+        EXPECT_TRUE(seen.endsWith(expected));
+        if (cmd == "l") {
+            EXPECT_TRUE(readFile(path("LOG.txt")).endsWith(expected.mid(81)));
+        }
+        p.kill();
+        ASSERT_TRUE(p.waitForFinished(10000));
+        expectNothingChanged(cmd);
+    }
+}
+
+TEST_F(StandinFaultTest, EnospcIsAWriteFailure) {
+    const QByteArray tail = "ERROR: No space left on device\r\nProcess aborted.\r\n";
+    for (const auto& [cmd, args] : commands()) {
+        SCOPED_TRACE(cmd);
+        QFile::remove(path("LOG.txt"));
+        EngineRun r = faulty("enospc", args);
+        EXPECT_EQ(r.exitCode, 255);
+        // After an open progress line the line is ended and the next one blanked.
+        const QByteArray end =
+            cmd == "l" ? firstProgress(cmd) + tail
+                       : firstProgress(cmd) + "\r\n\r" + QByteArray(79, ' ') + "\r" + tail;
+        EXPECT_TRUE(r.out.endsWith(end)) << r.out.toStdString();
+        EXPECT_EQ(r.out.count("ERROR:"), 1);
+        expectNothingChanged(cmd);
+        // The add removes its temporary archive.
+        EXPECT_FALSE(QFile::exists(path("UHA$0000.$$$")));
+        if (cmd == "l") {
+            EXPECT_TRUE(readFile(path("LOG.txt"))
+                            .endsWith(firstProgress(cmd).mid(81) + tail + QByteArray(79, '=') +
+                                      "\r\n\r\n"));
+        }
+    }
+    // An add in display mode 1 has its progress line open too.
+    EngineRun quiet = faulty("enospc", {"a", "-y+", "q.uha", "src/*"});
+    EXPECT_EQ(quiet.exitCode, 255);
+    EXPECT_TRUE(quiet.out.endsWith("Total:  0%          0          0    0.0%\r\n\r" +
+                                   QByteArray(79, ' ') + "\r" + tail))
+        << quiet.out.toStdString();
+    EXPECT_FALSE(QFile::exists(path("q.uha")));
+}
+
+TEST_F(StandinFaultTest, AValueThatNamesNoFaultIsRefused) {
+    for (const char* bad :
+         {"exit", "exit:256", "exit:-1", "signal:0", "signal:x", "hang ", "full"}) {
+        EngineRun r = faulty(bad, {"t", "-y+", "f.uha"});
+        EXPECT_EQ(r.exitCode, 2) << bad;
+        EXPECT_TRUE(r.out.isEmpty());
+        EXPECT_EQ(r.err.toStdString(), "QUOVARA_STANDIN_FAULT=\"" + std::string(bad) +
+                                           "\" names no fault (exit:N, signal:N, hang, enospc)\n");
+    }
+    EXPECT_EQ(faulty("", {"t", "-y+", "f.uha"}).exitCode, 0);
 }
 
 // ---------------------------------------------------------------------------------------
