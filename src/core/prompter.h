@@ -16,6 +16,9 @@ public:
     virtual void plain(const QString& text) = 0;
     // A modal text prompt; the answer, or the empty string when it was cancelled.
     virtual QString askPassword(const QString& prompt) = 0;
+    // A question with Yes and No buttons; true for Yes. No is the default button, and closing
+    // the box answers No.
+    virtual bool question(const QString& text) = 0;
 };
 
 } // namespace quovara

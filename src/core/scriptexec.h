@@ -35,4 +35,10 @@ ParsedJob SplitCommandLine(const QString& line);
 // Other arguments are returned unchanged.
 QString ToLauncherPath(const QString& argument);
 
+// The text with every path in the launcher's form turned back into the host path the user
+// knows ("Z:\home\anna\a.uha" -> "/home/anna/a.uha"), for texts that are shown, never for
+// the columns that are read. A path starts at "Z:\" (not inside a word) and runs to a double
+// quote, two blanks in a row, or the end of the text.
+QString HostPathsInText(const QString& text);
+
 } // namespace quovara

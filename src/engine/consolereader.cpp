@@ -84,9 +84,10 @@ void mergeGroups(ConsoleState& to, const ConsoleState& from, unsigned mask) {
 
 } // namespace
 
-void ReadConsoleOutput(const QByteArray& bytes, ConsoleJob job, ConsoleState& state) {
+void ReadConsoleOutput(const QByteArray& bytes, ConsoleJob job, ConsoleState& state,
+                       EngineCodec codec) {
     clearRound(state);
-    const QStringList lines = SplitConsoleLines(bytes);
+    const QStringList lines = SplitConsoleLines(bytes, codec);
     for (const QString& line : lines) {
         ++state.lineCount;
         const LineResult r = applyLine(line, state.lineCount, job, state);
@@ -97,7 +98,12 @@ void ReadConsoleOutput(const QByteArray& bytes, ConsoleJob job, ConsoleState& st
     }
 }
 
-ConsoleReader::ConsoleReader(ConsoleJob job, QString path) : job_(job), path_(std::move(path)) {}
+ConsoleReader::ConsoleReader(ConsoleJob job, QString path, EngineCodec codec)
+    : job_(job), path_(std::move(path)), codec_(codec) {}
+
+QString ConsoleReader::unfinishedLine() const {
+    return DecodeConsoleLine(partial_, codec_);
+}
 
 void ConsoleReader::reset() {
     offset_ = 0;
@@ -196,7 +202,7 @@ void ConsoleReader::feed(const QByteArray& appended) {
             break;
         }
         partial_.append(appended.constData() + i, cr - i);
-        applyComplete(DecodeConsoleLine(partial_));
+        applyComplete(DecodeConsoleLine(partial_, codec_));
         partial_.clear();
         if (cr + 1 >= n) {
             pendingCr_ = true;
@@ -224,7 +230,7 @@ void ConsoleReader::feed(const QByteArray& appended) {
     const qint64 completeProgress = lastProgressLine_;
     if (!finished_ && !partial_.isEmpty()) {
         ++next.lineCount;
-        const QString line = DecodeConsoleLine(partial_);
+        const QString line = DecodeConsoleLine(partial_, codec_);
         const LineResult r = applyLine(line, next.lineCount, job_, next);
         if (r.scan.isError())
             setError(next, r.scan, next.lineCount, job_);

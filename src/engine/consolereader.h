@@ -39,11 +39,14 @@ struct ConsoleState {
 
 // One round the simple way: splits `bytes` (the whole file as it is now) into lines and
 // applies them in order to `state`, stopping at the first engine error.
-void ReadConsoleOutput(const QByteArray& bytes, ConsoleJob job, ConsoleState& state);
+void ReadConsoleOutput(const QByteArray& bytes, ConsoleJob job, ConsoleState& state,
+                       EngineCodec codec = EngineCodec::Cp437);
 
 class ConsoleReader {
 public:
-    explicit ConsoleReader(ConsoleJob job, QString path = QString());
+    // `codec`: how the engine that writes the output encodes its text.
+    explicit ConsoleReader(ConsoleJob job, QString path = QString(),
+                           EngineCodec codec = EngineCodec::Cp437);
 
     // One round on the file: opens it for reading without hindering the engine that writes
     // it, reads what was appended since the previous round, closes it. A missing file gives a
@@ -59,6 +62,9 @@ public:
 
     // A complete error line ended the reading; later rounds change nothing.
     bool finished() const { return finished_; }
+    // The last line as far as it has been written (no line end yet): where the engine's
+    // questions stand while it waits for a key.
+    QString unfinishedLine() const;
     qint64 bytesRead() const { return offset_; }
     ConsoleJob job() const { return job_; }
 
@@ -72,6 +78,7 @@ private:
 
     ConsoleJob job_;
     QString path_;
+    EngineCodec codec_;
     qint64 offset_ = 0;
     QByteArray partial_;     // the unfinished last line
     bool pendingCr_ = false; // the data so far ends with CR: an LF that follows belongs to it

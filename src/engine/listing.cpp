@@ -44,14 +44,14 @@ int Tipo(const QString& s) {
     return 0;
 }
 
-QStringList ReadEngineLines(const QString& path, bool* opened) {
+QStringList ReadEngineLines(const QString& path, bool* opened, EngineCodec codec) {
     QFile file(path);
     const bool ok = file.open(QIODevice::ReadOnly);
     if (opened)
         *opened = ok;
     if (!ok)
         return {};
-    return SplitEngineLines(FromCp437(file.readAll()));
+    return SplitEngineLines(DecodeEngineText(file.readAll(), codec));
 }
 
 QString ScanListingErrors(const QStringList& lines) {
@@ -293,7 +293,7 @@ void ArchiveLister::Batch() {
 }
 
 QString ArchiveLister::Errore() const {
-    return ScanListingErrors(ReadEngineLines(WorkFile(names::ListLog)));
+    return ScanListingErrors(ReadEngineLines(WorkFile(names::ListLog), nullptr, ActiveEngineCodec()));
 }
 
 ListStatus ArchiveLister::SpecificaErrore(const QString& message) {
@@ -339,7 +339,7 @@ ListStatus ArchiveLister::FileInArchivio(const QString& selectedPath) {
             UndoEngineSwitch(switch_, ProgramFolder());
             return listing_.status;
         case ListStatus::Opened:
-            if (!BuildMirrorTree(ReadEngineLines(WorkFile(names::ListLog)), ScratchFolder())) {
+            if (!BuildMirrorTree(ReadEngineLines(WorkFile(names::ListLog), nullptr, ActiveEngineCodec()), ScratchFolder())) {
                 listing_.status = ListStatus::Failed;
                 listing_.password.clear();
                 UndoEngineSwitch(switch_, ProgramFolder());
@@ -368,7 +368,7 @@ bool ArchiveLister::OpenSelectedArchive(const QString& path) {
 std::optional<ArchiveTotals> ArchiveLister::Info() const {
     if (listing_.status == ListStatus::Failed || listing_.status == ListStatus::EngineSwitched)
         return std::nullopt;
-    return ReadTotals(ReadEngineLines(WorkFile(names::ListLog)));
+    return ReadTotals(ReadEngineLines(WorkFile(names::ListLog), nullptr, ActiveEngineCodec()));
 }
 
 } // namespace quovara

@@ -57,7 +57,8 @@ QString sGiveFile(const QString& s);
 int Tipo(const QString& s);
 
 // Reads a log or console file written by the engine (code page 437) into lines.
-QStringList ReadEngineLines(const QString& path, bool* opened = nullptr);
+QStringList ReadEngineLines(const QString& path, bool* opened = nullptr,
+                            EngineCodec codec = EngineCodec::Cp437);
 
 // The error message in the listing log's lines: the last "ERROR:" line's text (cut before its
 // first "--"), or an engine version request, which ends the scan. Empty when there is none.

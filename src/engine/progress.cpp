@@ -145,12 +145,12 @@ QString TrayTipText(double percent, qint64 remainingSeconds) {
            DurationText(remainingSeconds);
 }
 
-QString DecodeConsoleLine(const char* data, qsizetype size) {
-    return FromCp437(data, size);
+QString DecodeConsoleLine(const char* data, qsizetype size, EngineCodec codec) {
+    return DecodeEngineText(data, size, codec);
 }
 
-QStringList SplitConsoleLines(const QByteArray& bytes) {
-    return SplitEngineLines(FromCp437(bytes));
+QStringList SplitConsoleLines(const QByteArray& bytes, EngineCodec codec) {
+    return SplitEngineLines(DecodeEngineText(bytes, codec));
 }
 
 } // namespace quovara

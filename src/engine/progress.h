@@ -2,6 +2,8 @@
 // scan, the line parsers, the values derived from them and the texts that show them.
 #pragma once
 
+#include "core/codepage.h"
+
 #include <QByteArray>
 #include <QDateTime>
 #include <QLoggingCategory>
@@ -101,14 +103,16 @@ std::optional<QString> EstimateTime(ProgressState& state, const QDateTime& now);
 // The notification-area tip: "Completed: " percent " % Remaining: " T(remainingSeconds).
 QString TrayTipText(double percent, qint64 remainingSeconds);
 
-// The engine writes its console output in code page 437; one byte is one character.
-QString DecodeConsoleLine(const char* data, qsizetype size);
-inline QString DecodeConsoleLine(const QByteArray& bytes) {
-    return DecodeConsoleLine(bytes.constData(), bytes.size());
+// The real engine writes its console output in code page 437 (one byte is one character); an
+// engine that runs natively here writes UTF-8.
+QString DecodeConsoleLine(const char* data, qsizetype size,
+                          EngineCodec codec = EngineCodec::Cp437);
+inline QString DecodeConsoleLine(const QByteArray& bytes, EngineCodec codec = EngineCodec::Cp437) {
+    return DecodeConsoleLine(bytes.constData(), bytes.size(), codec);
 }
 
 // Splits console output into lines: a line ends at CR or CR LF, never at a lone LF. The last
 // line is included when it is not empty, although nothing ends it yet.
-QStringList SplitConsoleLines(const QByteArray& bytes);
+QStringList SplitConsoleLines(const QByteArray& bytes, EngineCodec codec = EngineCodec::Cp437);
 
 } // namespace quovara

@@ -3,7 +3,9 @@
 
 #include "core/prompter.h"
 
+#include <QList>
 #include <QStringList>
+#include <functional>
 
 namespace quovara::testing {
 
@@ -18,8 +20,19 @@ public:
         return answers.isEmpty() ? QString() : answers.takeFirst();
     }
 
+    bool question(const QString& text) override {
+        shown << "question: " + text;
+        if (onQuestion)
+            onQuestion();
+        return questionAnswers.isEmpty() ? false : questionAnswers.takeFirst();
+    }
+
     QStringList shown;
     QStringList answers;
+    // Answers to questions, in order; No when none is left.
+    QList<bool> questionAnswers;
+    // Runs while a question is "open" (before it is answered).
+    std::function<void()> onQuestion;
 };
 
 } // namespace quovara::testing

@@ -98,3 +98,16 @@ TEST(ToLauncherPath, AbsolutePathsAlsoAfterSwitchPrefixes) {
     EXPECT_EQ(ToLauncherPath("*.dll"), "*.dll");
     EXPECT_EQ(ToLauncherPath("-r+"), "-r+");
 }
+
+TEST(HostPathsInText, LauncherPathsInShownTextsBecomeHostPaths) {
+    EXPECT_EQ(HostPathsInText("Archive \"Z:\\home\\anna\\a b.uha\" already exists. Overwrite (y/n) ?"),
+              "Archive \"/home/anna/a b.uha\" already exists. Overwrite (y/n) ?");
+    EXPECT_EQ(HostPathsInText("Adding Z:\\home\\anna\\src\\two.txt   4  100.0%"),
+              "Adding /home/anna/src/two.txt   4  100.0%");
+    EXPECT_EQ(HostPathsInText(" Can't write file \"Z:\\tmp\\out\\x.txt\""),
+              " Can't write file \"/tmp/out/x.txt\"");
+    EXPECT_EQ(HostPathsInText(QString::fromUtf8("Z:\\home\\Łukasz\\Привет.txt")),
+              QString::fromUtf8("/home/Łukasz/Привет.txt"));
+    // Not a path: inside a word, another drive, no backslash.
+    EXPECT_EQ(HostPathsInText("ABZ:\\x C:\\dir\\f Z: Z:x"), "ABZ:\\x C:\\dir\\f Z: Z:x");
+}

@@ -31,6 +31,15 @@ void MessagePrompter::plain(const QString& text) {
     show(owner_, QMessageBox::NoIcon, text);
 }
 
+bool MessagePrompter::question(const QString& text) {
+    QMessageBox box(QMessageBox::Question, ApplicationTitle(), text,
+                    QMessageBox::Yes | QMessageBox::No, owner_);
+    box.setDefaultButton(QMessageBox::No);
+    box.setEscapeButton(QMessageBox::No);
+    box.setObjectName(QStringLiteral("EngineQuestion"));
+    return box.exec() == QMessageBox::Yes;
+}
+
 QString MessagePrompter::askPassword(const QString& prompt) {
     QInputDialog dialog(owner_);
     dialog.setWindowTitle(ApplicationTitle());

@@ -19,6 +19,7 @@ public:
     void information(const QString& text) override;
     void plain(const QString& text) override;
     QString askPassword(const QString& prompt) override;
+    bool question(const QString& text) override;
 
 private:
     QPointer<QWidget> owner_;

@@ -44,6 +44,16 @@ inline constexpr char NoOutput[] =
     "Job script: %1";
 // The job script could not be started. %1 says why.
 inline constexpr char NotStarted[] = "The job could not be started: %1";
+// The engine waits at its console for a key. %1 is its question as it wrote it.
+inline constexpr char ArchiveExistsQuestion[] =
+    "The engine asks:\n\n%1\n\n"
+    "Yes: the archive is replaced by a new one that holds only the files of this job; "
+    "everything the archive holds now is lost (the engine cannot add to an existing archive).\n"
+    "No: the job stops and the archive stays as it is.";
+inline constexpr char OtherQuestion[] = "The engine asks:\n\n%1\n\n"
+                                        "Yes answers \"y\", No answers \"n\".";
+// How the engine's questions end: the last, unfinished line of its output.
+inline constexpr char QuestionEnding[] = "(y/n) ?";
 } // namespace progress
 
 // One row of the job-kind table: what tells the three windows apart.
@@ -120,6 +130,10 @@ private:
     void onTrayClick(TrayClick click);
     void Form_Unload();
     void stopFollowing();
+    // Asks the user the engine's question and types the answer into its console.
+    void answerEngineQuestion(const QString& question);
+    // A text of the engine as the user reads it: under the launcher, its paths in host form.
+    QString shown(const QString& engineText) const;
 
     const ProgressKind& kind_;
     frmApri& main_;
@@ -131,6 +145,11 @@ private:
     bool unloaded_ = false;
     int runs_ = 0;
     QString pendingVersionMessage_;
+    // A question of the engine is being asked (the rounds wait), and the output position of
+    // the last one answered, so that a question is asked once.
+    bool asking_ = false;
+    bool underLauncher_ = false;
+    qint64 answeredAt_ = -1;
 
     std::unique_ptr<JobProcess> job_;
     std::unique_ptr<ConsoleReader> reader_;

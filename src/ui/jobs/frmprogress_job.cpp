@@ -2,8 +2,10 @@
 // process's end both start a round; the round after the end reads the output once more.
 #include "frmprogress.h"
 
+#include "core/codepage.h"
 #include "core/jobprocess.h"
 #include "core/places.h"
+#include "core/scriptexec.h"
 #include "engine/versionswitch.h"
 #include "ui/browser/frmapri.h"
 
@@ -38,7 +40,13 @@ void frmProgress::startJob() {
     // Step 2: what an earlier run left is deleted; the add header is read afresh.
     consolePath_ = WorkFile(names::ConsoleOutput);
     QFile::remove(consolePath_);
-    reader_ = std::make_unique<ConsoleReader>(kind_.lineRules, consolePath_);
+    const EngineCodec codec = ActiveEngineCodec();
+    reader_ = std::make_unique<ConsoleReader>(kind_.lineRules, consolePath_, codec);
+#ifdef Q_OS_UNIX
+    // A Windows engine runs through the launcher and writes paths in the launcher's form.
+    underLauncher_ = codec == EngineCodec::Cp437;
+#endif
+    answeredAt_ = -1;
 
     // Step 4: the script starts hidden at the lowest priority (the runner's rule), in the
     // folder that holds the archive.
@@ -62,7 +70,7 @@ void frmProgress::startJob() {
 }
 
 void frmProgress::pollRound() {
-    if (unloaded_ || !job_)
+    if (unloaded_ || !job_ || asking_)
         return;
     // Step 6.1: whether the job has ended is read before the file, so that the round after the
     // end sees everything the engine wrote.
@@ -87,8 +95,15 @@ void frmProgress::pollRound() {
             handleError(state);
             return;
         }
-        if (ended)
+        if (ended) {
             normalEnding();
+            return;
+        }
+        // The engine waits for a key at its console: its question is the unfinished last line.
+        const QString waiting = reader_->unfinishedLine();
+        if (waiting.trimmed().endsWith(QLatin1String(progress::QuestionEnding)) &&
+            answeredAt_ != reader_->bytesRead())
+            answerEngineQuestion(waiting);
         return;
     }
     case Phase::AwaitRestart:
@@ -102,7 +117,7 @@ void frmProgress::pollRound() {
 }
 
 void frmProgress::showRound(const ConsoleState& state) {
-    setTextIfChanged(JobTxt, state.progress.jobText);
+    setTextIfChanged(JobTxt, shown(state.progress.jobText));
     if (ProgressTxt)
         setTextIfChanged(ProgressTxt, state.sizesText);
     // The bar keeps its value when the engine's per cent lies outside its range.
@@ -137,6 +152,30 @@ void frmProgress::handleError(const ConsoleState& state) {
     errorEnding(m, kind_.bodyErrorShowsMain); // body error ending
 }
 
+void frmProgress::answerEngineQuestion(const QString& line) {
+    answeredAt_ = reader_->bytesRead();
+    // The line may begin with the blanks and carriage returns of a cleared progress line.
+    const QString question = shown(line.mid(line.lastIndexOf(QLatin1Char('\r')) + 1)).trimmed();
+    const bool archiveExists = question.contains(QLatin1String("already exists"));
+    const QString text =
+        QString::fromLatin1(archiveExists ? progress::ArchiveExistsQuestion
+                                          : progress::OtherQuestion)
+            .arg(question);
+    qCDebug(lcJobWindow) << "the engine asks:" << question;
+    asking_ = true;
+    const bool yes = main_.prompter().question(text);
+    asking_ = false;
+    // Closed while the question was open: the job was stopped with the window; nothing is typed.
+    if (unloaded_ || !job_ || !job_->isRunning())
+        return;
+    if (!job_->answer(yes ? 'y' : 'n'))
+        qCDebug(lcJobWindow) << "the answer could not be typed into the engine's console";
+}
+
+QString frmProgress::shown(const QString& engineText) const {
+    return underLauncher_ ? HostPathsInText(engineText) : engineText;
+}
+
 void frmProgress::restartWithSwitchedEngine() {
     qCDebug(lcJobWindow) << "engine version request:" << pendingVersionMessage_;
     SwitchEngine(main_.engineSwitch(), ProgramFolder(), pendingVersionMessage_);
@@ -154,7 +193,7 @@ void frmProgress::stopFollowing() {
 
 void frmProgress::errorEnding(const QString& message, bool showMain) {
     stopFollowing();
-    main_.prompter().critical(message);
+    main_.prompter().critical(shown(message));
     if (unloaded_)
         return; // closed while the message was up
     if (showMain)

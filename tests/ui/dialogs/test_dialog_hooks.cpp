@@ -153,7 +153,8 @@ TEST_F(DialogHooks, ExtractSelectedItemPresetsTheItem) {
     EXPECT_TRUE(preset);
 }
 
-TEST_F(DialogHooks, AnAddToTheShownArchiveListsItAgain) {
+// The engine cannot add to an existing archive: it asks at its console whether to replace it.
+TEST_F(DialogHooks, AnAddToTheShownArchiveAnsweredYesReplacesItAndListsItAgain) {
     const QString archive = makeArchive("grow.uha");
     ASSERT_TRUE(window_.Form_Load(QString()));
     window_.OpenItem(archive);
@@ -167,10 +168,34 @@ TEST_F(DialogHooks, AnAddToTheShownArchiveListsItAgain) {
         typeInto(control<QLineEdit>(d, "Text1"), archive);
         click(control<QPushButton>(d, "Command3"));
     });
+    prompter_.questionAnswers = {true};
     window_.ButtonClick(3);
+    ASSERT_EQ(prompter_.shown.size(), 1);
+    EXPECT_TRUE(prompter_.shown[0].startsWith("question: The engine asks:\n\nArchive \""))
+        << prompter_.shown[0].toStdString();
     EXPECT_TRUE(window_.archiveLayout());
-    EXPECT_EQ(control<QLabel>(&window_, "NomeAr")->text(), "Files: 3");
+    // Only the file of this add is left.
+    EXPECT_EQ(control<QLabel>(&window_, "NomeAr")->text(), "Files: 1");
     EXPECT_EQ(window_.lister().listing().archivePath, archive);
+}
+
+TEST_F(DialogHooks, AnAddToTheShownArchiveAnsweredNoLeavesItAsItWas) {
+    const QString archive = makeArchive("kept-by-no.uha");
+    const QByteArray before = readAll(archive);
+    ASSERT_TRUE(window_.Form_Load(QString()));
+    window_.OpenItem(archive);
+    ASSERT_TRUE(window_.archiveLayout());
+    selectInBrowser(ScratchFolder() + "/root.txt");
+    whenShown<frmAggiungi>([&](frmAggiungi* d) {
+        typeInto(control<QLineEdit>(d, "Text1"), archive);
+        click(control<QPushButton>(d, "Command3"));
+    });
+    prompter_.questionAnswers = {false};
+    window_.ButtonClick(3);
+    ASSERT_EQ(prompter_.shown.size(), 2);
+    EXPECT_EQ(prompter_.shown[1], "critical:  Can't create archive file");
+    EXPECT_EQ(readAll(archive), before);
+    EXPECT_EQ(control<QLabel>(&window_, "NomeAr")->text(), "Files: 2");
 }
 
 TEST_F(DialogHooks, AnAddToAnotherArchiveKeepsTheShownOne) {

@@ -11,6 +11,8 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include <csignal>
+
 using namespace quovara;
 using namespace quovara::testing;
 
@@ -62,16 +64,19 @@ TEST_F(ProgressErrors, AnErrorAfterTheHeaderLeavesAHiddenMainWindowHidden) {
 
 TEST_F(ProgressErrors, AnAddErrorMakesTheMainWindowVisible) {
     bench.makeSource(2, 100);
-    // An existing archive made by the other version: the add window shows the request as an
-    // error and never switches.
+    // An existing archive made by the other version: the engine cannot add to it and asks
+    // whether to replace it; "No" ends the add with the engine's error, and nothing switches.
     const QString archive = bench.makeArchive(kFour, "four.uha");
+    const QByteArray before = readAll(archive);
     bench.writeAddScript(archive);
     bench.main->hide();
+    bench.prompter.questionAnswers = {false};
     frmProgress* w = bench.open(JobKind::Add);
     ASSERT_TRUE(bench.waitUnloaded(w));
-    EXPECT_EQ(bench.prompter.shown,
-              QStringList({"critical:  Archive was created by another version --> use UHARC "
-                           "version 0.4"}));
+    ASSERT_EQ(bench.prompter.shown.size(), 2);
+    EXPECT_TRUE(bench.prompter.shown[0].startsWith("question: The engine asks:"));
+    EXPECT_EQ(bench.prompter.shown[1], "critical:  Can't create archive file");
+    EXPECT_EQ(readAll(archive), before);
     EXPECT_TRUE(bench.main->isVisible());
     EXPECT_FALSE(bench.main->engineSwitch().engineSwitched);
     EXPECT_EQ(w->runs(), 1);
@@ -255,4 +260,41 @@ TEST_F(ProgressErrors, AJobWhoseEngineIsMissingSaysItCouldNotStart) {
     ASSERT_EQ(bench.prompter.shown.size(), 1);
     EXPECT_TRUE(bench.prompter.shown.first().startsWith("critical: The job could not be started: "))
         << bench.prompter.shown.first().toStdString();
+}
+
+TEST_F(ProgressErrors, AYesToTheEnginesQuestionIsTypedIntoItsConsole) {
+    bench.makeSource(3, 100);
+    const QString archive = bench.makeArchive(kSix, "six.uha");
+    bench.writeAddScript(archive);
+    bench.prompter.questionAnswers = {true};
+    frmProgress* w = bench.open(JobKind::Add);
+    ASSERT_TRUE(bench.waitUnloaded(w));
+    ASSERT_EQ(bench.prompter.shown.size(), 1);
+    EXPECT_EQ(bench.prompter.shown[0],
+              "question: The engine asks:\n\nArchive \"" + archive +
+                  "\" already exists. Overwrite (y/n) ?\n\nYes: the archive is replaced by a new "
+                  "one that holds only the files of this job; everything the archive holds now "
+                  "is lost (the engine cannot add to an existing archive).\nNo: the job stops "
+                  "and the archive stays as it is.");
+}
+
+TEST_F(ProgressErrors, ClosingTheWindowWhileTheEngineAsksStopsTheJobAndTypesNothing) {
+    bench.makeSource(2, 100);
+    const QString archive = bench.makeArchive(kSix, "asked.uha");
+    const QByteArray before = readAll(archive);
+    bench.writeAddScript(archive);
+    frmProgress* w = bench.open(JobKind::Add);
+    qint64 engine = 0;
+    bench.prompter.onQuestion = [&] {
+        engine = w->jobProcessId();
+        w->close();
+    };
+    bench.prompter.questionAnswers = {true};
+    ASSERT_TRUE(bench.waitUnloaded(w));
+    ASSERT_GT(engine, 0);
+    EXPECT_NE(::kill(pid_t(engine), 0), 0) << "the engine still runs";
+    ASSERT_EQ(bench.prompter.shown.size(), 1);
+    EXPECT_TRUE(bench.prompter.shown[0].startsWith("question: "));
+    // "Yes" came too late: the archive is untouched.
+    EXPECT_EQ(readAll(archive), before);
 }
