@@ -10,6 +10,7 @@ packages=(
     clang libclang-rt-14-dev clang-format
     xvfb xauth x11-utils imagemagick
     desktop-file-utils shared-mime-info libglib2.0-dev
+    appstream dpkg-dev file gzip
     dbus-x11 at-spi2-core python3-pyatspi
 )
 
