@@ -288,8 +288,8 @@ EngineCheck CheckEngine(const QString& folder, int timeoutMs) {
     check.output = QString::fromLocal8Bit(run.output);
     if (!run.started) {
         check.output = run.startError;
-        check.result =
-            check.launcher.isEmpty() ? EngineCheck::NoBanner : EngineCheck::LauncherIncomplete;
+        // A launcher that cannot be started is as good as none.
+        check.result = check.launcher.isEmpty() ? EngineCheck::NoBanner : EngineCheck::NoLauncher;
         return check;
     }
     for (const QString& line : check.output.split(QRegularExpression(QStringLiteral("[\r\n]+")))) {
@@ -360,6 +360,8 @@ int InstallEngineCommand(const QStringList& files, QTextStream& out, QTextStream
             << " /path/to/uharc.exe\n";
         return 2;
     case EngineCheck::NoLauncher:
+        if (!check.output.isEmpty())
+            err << check.output << "\n";
         err << "wine was not found (set QUOVARA_WINE to the launcher, or put wine on the "
                "PATH): Quovara runs the engine, a Windows program, with it.\n"
             << "On Debian, install it with:\n    " << WineInstallCommand << "\n";

@@ -165,6 +165,15 @@ TEST_F(EngineInstall, WithoutALauncherTheDebianPackagesAreNamed) {
                                "install wine wine32"));
 }
 
+TEST_F(EngineInstall, ALauncherThatCannotBeStartedCountsAsNone) {
+    const QString launcher = dir_.path() + "/broken-wine";
+    writeExecutable(launcher, "#!/no/such/interpreter\n");
+    const Result r = run({download("UHARC.EXE")}, launcher);
+    EXPECT_EQ(r.exitCode, 3);
+    EXPECT_TRUE(r.err.contains(launcher + " could not be started")) << r.err.toStdString();
+    EXPECT_TRUE(r.err.contains(QString::fromLatin1(WineInstallCommand))) << r.err.toStdString();
+}
+
 TEST_F(EngineInstall, ALauncherWithoutIts32BitPartIsRecognised) {
     const Result r = run({download("UHARC.EXE")},
                          fakeLauncher("it looks like wine32 is missing, you should install it.\\n"
