@@ -9,7 +9,8 @@ packages=(
     libgtest-dev libgmock-dev libbenchmark-dev
     clang libclang-rt-14-dev clang-format
     xvfb xauth x11-utils imagemagick
-    desktop-file-utils shared-mime-info
+    desktop-file-utils shared-mime-info libglib2.0-dev
+    appstream dpkg-dev file gzip
     dbus-x11 at-spi2-core python3-pyatspi
 )
 

@@ -1,11 +1,25 @@
 // Quovara: start-up and command line. The main window does the rest.
+#include "core/engineinstall.h"
 #include "ui/browser/commandline.h"
 #include "ui/browser/frmapri.h"
 
 #include <QApplication>
 #include <QIcon>
+#include <QTextStream>
+
+#include <cstdio>
+#include <cstring>
 
 int main(int argc, char** argv) {
+    // "--install-engine FILE...": a console command that never opens a window (it works
+    // without a display).
+    if (argc > 1 && std::strcmp(argv[1], quovara::InstallEngineSwitch) == 0) {
+        QCoreApplication app(argc, argv);
+        QCoreApplication::setApplicationName(QStringLiteral("quovara"));
+        QTextStream out(stdout);
+        QTextStream err(stderr);
+        return quovara::InstallEngineCommand(app.arguments().mid(2), out, err);
+    }
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("quovara"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/quovara.svg")));
