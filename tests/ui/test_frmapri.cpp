@@ -512,3 +512,52 @@ TEST_F(MainWindow, SameNamedItemsFromTwoFoldersOverwriteEachOther) {
     QTest::mouseClick(child<QPushButton>("EseFile"), Qt::LeftButton);
     EXPECT_EQ(readAll(WorkFolder() + "/d.txt"), QByteArray("d in a\\b"));
 }
+
+// Names in several scripts, a blank and an apostrophe: listed into the mirror tree, found by a
+// search, and extracted one by one under exactly those names, from an archive with such a name
+// and such a password.
+TEST_F(MainWindow, NamesInEveryScriptAreListedSearchedAndExtractedUnchanged) {
+    const QStringList names = {QString::fromUtf8("Łódź.txt"),  QString::fromUtf8("Привет.txt"),
+                               QString::fromUtf8("Αθήνα.txt"), QString::fromUtf8("日本語.txt"),
+                               QString::fromUtf8("📦.txt"),    "a b.txt",
+                               "it's.txt"};
+    const QString folder = QString::fromUtf8("Źródła ünï");
+    QDir().mkpath(src_ + "/" + folder);
+    for (const QString& n : names)
+        writeFile(src_ + "/" + folder + "/" + n, n.toUtf8());
+    const QString password = QString::fromUtf8("hasło-пароль-🔑");
+    const QString archive =
+        makeArchive(kSix, QString::fromUtf8("Архив 日本 📦.uha"), {"-pw" + password});
+    prompter_.answers = {password};
+    ASSERT_TRUE(window_.Form_Load(archive));
+    show();
+    EXPECT_EQ(prompter_.shown, QStringList({"prompt: Insert Password"}));
+    QStringList mirrored = QDir(ScratchFolder() + "/" + folder).entryList(QDir::Files);
+    QStringList expected = names;
+    mirrored.sort();
+    expected.sort();
+    EXPECT_EQ(mirrored, expected);
+    EXPECT_EQ(text("NomeAr"), "Files: 11");
+
+    QTest::keyClicks(child<QLineEdit>("TxtCerca"), QString::fromUtf8("*.txt"));
+    QTest::keyClick(child<QLineEdit>("TxtCerca"), Qt::Key_Return);
+    auto* found = child<QTreeWidget>("Trovati");
+    ASSERT_TRUE(waitFor([&] { return text("Stato") == "Quovara is ready"; }));
+    QStringList hits;
+    for (int i = 0; i < found->topLevelItemCount(); ++i)
+        if (found->topLevelItem(i)->text(1) == folder)
+            hits << found->topLevelItem(i)->text(0);
+    hits.sort();
+    EXPECT_EQ(hits, expected);
+
+    // Each one extracted alone comes out under its own name with its own bytes.
+    clickToolbar(1);
+    window_.fileView()->setFolder(ScratchFolder() + "/" + folder);
+    for (const QString& n : names) {
+        clickItem(ScratchFolder() + "/" + folder + "/" + n);
+        EXPECT_EQ(window_.selectedItem(), folder + "\\" + n);
+        QTest::mouseClick(child<QPushButton>("EseFile"), Qt::LeftButton);
+        EXPECT_EQ(readAll(WorkFolder() + "/" + n), n.toUtf8()) << n.toStdString();
+        EXPECT_EQ(opened_.last(), WorkFolder() + "/" + n);
+    }
+}

@@ -340,3 +340,33 @@ TEST_F(DialogJobs, AMoveCancelledFromItsProgressWindowLeavesNothingBehind) {
     EXPECT_FALSE(QFile::exists(folder + "/" + names::EngineTempArchive));
     EXPECT_TRUE(treeOf(folder).isEmpty());
 }
+
+TEST_F(DialogJobs, NamesAndPasswordsInEveryScriptGoInAndComeBackUnchanged) {
+    const QString mixed = places_.path() + QString::fromUtf8("/Źródła Привет Αθήνα 日本 📦");
+    QDir().mkpath(mixed + "/it's");
+    const QStringList names = {QString::fromUtf8("Łódź.txt"),  QString::fromUtf8("Привет.txt"),
+                               QString::fromUtf8("Αθήνα.txt"), QString::fromUtf8("日本語.txt"),
+                               QString::fromUtf8("📦.txt"),    "a b.txt",
+                               "it's/it's.txt"};
+    for (const QString& n : names)
+        writeFile(mixed + "/" + n, n.toUtf8());
+    const Tree source = treeOf(mixed);
+    ASSERT_EQ(source.size(), 7);
+    const QString archive = places_.path() + QString::fromUtf8("/Архив 日本 📦 it's.uha");
+    const QString password = QString::fromUtf8("zażółć пароль 🔑");
+    add(mixed, archive, [&](frmAggiungi& d) {
+        click(c<QCheckBox>(&d, "Check4"));
+        typeInto(c<QLineEdit>(&d, "Text2"), password);
+    });
+    ASSERT_TRUE(QFileInfo(archive).isFile());
+    const QString to = out_ + QString::fromUtf8("/Wynik ęą");
+    QDir().mkpath(to);
+    extract(archive, to, [&](frmEstrai& d) {
+        click(c<QCheckBox>(&d, "Check3"));
+        click(c<QCheckBox>(&d, "Check2"));
+        typeInto(c<QLineEdit>(&d, "TxTPwd"), password);
+    });
+    EXPECT_FALSE(console_.contains("ERROR:")) << console_.toStdString();
+    EXPECT_EQ(treeOf(to + mixed), source);
+    EXPECT_TRUE(prompter_.shown.isEmpty()) << prompter_.shown.join('|').toStdString();
+}

@@ -298,3 +298,36 @@ TEST_F(ProgressErrors, ClosingTheWindowWhileTheEngineAsksStopsTheJobAndTypesNoth
     // "Yes" came too late: the archive is untouched.
     EXPECT_EQ(readAll(archive), before);
 }
+
+// Names in several scripts, a blank and an apostrophe go through a test and an extraction
+// unchanged, in an archive whose own name is just as mixed.
+TEST_F(ProgressErrors, NamesInEveryScriptAreTestedAndExtractedUnchanged) {
+    const QStringList names = {QString::fromUtf8("Łódź.txt"),   QString::fromUtf8("Привет.txt"),
+                               QString::fromUtf8("Αθήνα.txt"),  QString::fromUtf8("日本語.txt"),
+                               QString::fromUtf8("📦.txt"),     "a b.txt",
+                               "it's.txt"};
+    QDir().mkpath(bench.src);
+    for (const QString& n : names)
+        writeFile(bench.src + "/" + n, n.toUtf8());
+    const QString archive = bench.makeArchive(kSix, QString::fromUtf8("Архив 日本 📦.uha"));
+    ASSERT_TRUE(QFileInfo(archive).isFile());
+
+    bench.writeTestScript(archive);
+    frmProgress* w = bench.open(JobKind::Test);
+    ASSERT_TRUE(bench.waitUnloaded(w));
+    EXPECT_EQ(bench.prompter.shown,
+              QStringList({"information: No errors found during test operation"}));
+
+    const QString destination = bench.places.path() + QString::fromUtf8("/Wynik Ćma");
+    QDir().mkpath(destination);
+    bench.writeExtractScript(archive, destination);
+    w = bench.open(JobKind::Extract);
+    ASSERT_TRUE(bench.waitUnloaded(w));
+    QStringList extracted = QDir(destination).entryList(QDir::Files);
+    QStringList expected = names;
+    extracted.sort();
+    expected.sort();
+    EXPECT_EQ(extracted, expected);
+    for (const QString& n : names)
+        EXPECT_EQ(readAll(destination + "/" + n), n.toUtf8()) << n.toStdString();
+}
