@@ -5,4 +5,6 @@ cd "$(dirname "$0")/.."
 bash scripts/build.sh "$@"
 export QT_QPA_PLATFORM=offscreen
 cd build
-ctest --output-on-failure --timeout 300
+# Both cores: every engine-running test has its own TempRoot and program folder, and ends only
+# the engines it started itself, so the tests can run side by side.
+ctest -j"$(nproc)" --output-on-failure --timeout 300

@@ -276,9 +276,8 @@ void ArchiveLister::Batch() {
                         ListCommandPieces(ProgramFolder(), TempRoot(), listing_.password,
                                           listing_.archivePath, PathStyle::host()),
                         LastLine::NoLineEnd, &refused)) {
-        // Nothing runs: the user is told what is wrong, and the listing fails.
+        // Nothing runs: the user is told what is wrong (once, here), and the listing fails.
         prompter_->critical(refused);
-        startError_ = refused;
         listing_.status = ListStatus::Failed;
         return;
     }

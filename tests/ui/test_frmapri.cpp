@@ -561,3 +561,61 @@ TEST_F(MainWindow, NamesInEveryScriptAreListedSearchedAndExtractedUnchanged) {
         EXPECT_EQ(opened_.last(), WorkFolder() + "/" + n);
     }
 }
+
+// Double quotes in names and passwords stay inside their own argument: no extra switch, no
+// redirection, no file anywhere but where the job puts it.
+TEST_F(MainWindow, QuotesInNamesAndPasswordsCannotInjectSwitchesOrRedirections) {
+    const QString trap = places_.path() + "/FILE";
+    // An entry whose name carries a quote, a password switch and a target folder: the stored
+    // name is docs\a" -pwX -t\tmp "b.txt (a backslash in a file name here separates folders in
+    // the archive).
+    QDir().mkpath(src_ + "/docs");
+    writeFile(src_ + "/docs/a\" -pwX -t\\tmp \"b.txt", "quoted entry");
+    // An archive whose name would pass a password switch of its own.
+    const QString archive = makeArchive(kSix, "x\" -pwINJECTED \"y.uha", {"-pwa\"b"});
+    ASSERT_TRUE(QFileInfo(archive).isFile());
+    // This answer would redirect the list job's output: it is only a wrong password.
+    prompter_.answers = {"p\" > " + trap + " \""};
+    ASSERT_TRUE(window_.Form_Load(archive));
+    show();
+    EXPECT_EQ(prompter_.shown,
+              QStringList({"prompt: Insert Password",
+                           "critical: Can't read from archive file / Unexpected end of file "
+                           "(maybe corrupt)"}));
+    EXPECT_FALSE(QFileInfo::exists(trap));
+    // The real password holds a quote too, and opens the archive.
+    prompter_.shown.clear();
+    prompter_.answers = {"a\"b"};
+    window_.OpenItem(archive);
+    EXPECT_EQ(prompter_.shown, QStringList({"prompt: Insert Password"}));
+    EXPECT_TRUE(archiveLayout());
+    const QString placeholder = ScratchFolder() + "/docs/a\" -pwX -t/tmp \"b.txt";
+    EXPECT_TRUE(QFileInfo(placeholder).isFile());
+
+    // The entry extracted alone lands in the WorkFolder under its own name, nowhere else.
+    window_.fileView()->setFolder(ScratchFolder() + "/docs/a\" -pwX -t");
+    clickItem(placeholder);
+    EXPECT_EQ(window_.selectedItem(), "docs\\a\" -pwX -t\\tmp \"b.txt");
+    QTest::mouseClick(child<QPushButton>("EseFile"), Qt::LeftButton);
+    EXPECT_EQ(readAll(WorkFolder() + "/tmp \"b.txt"), QByteArray("quoted entry"));
+    EXPECT_EQ(opened_, QStringList({WorkFolder() + "/tmp \"b.txt"}));
+    EXPECT_FALSE(QFileInfo::exists("/tmp/b.txt"));
+    EXPECT_FALSE(QFileInfo::exists(trap));
+}
+
+TEST_F(MainWindow, AnArchiveNameWithALineBreakIsRefusedAndNothingRuns) {
+    const QString archive = places_.path() + "/x\n\"" + places_.path() + "/run.sh\" a.uha";
+    writeFile(archive, "UHA not really");
+    writeExecutable(places_.path() + "/run.sh",
+                    "#!/bin/sh\ntouch '" + (places_.path() + "/started").toUtf8() + "'\n");
+    ASSERT_TRUE(window_.Form_Load(QString()));
+    show();
+    window_.OpenItem(archive);
+    EXPECT_EQ(prompter_.shown,
+              QStringList({"critical: The archive holds a line break, which a job line cannot "
+                           "carry:\n" +
+                           QString(archive).replace("\n", "\\n") + "\nNothing was run."}));
+    EXPECT_FALSE(QFileInfo::exists(places_.path() + "/started"));
+    EXPECT_FALSE(QFileInfo::exists(WorkFile(names::ListScript)));
+    EXPECT_FALSE(archiveLayout());
+}
