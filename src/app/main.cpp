@@ -1,5 +1,6 @@
 // Quovara: start-up and command line. The main window does the rest.
 #include "core/engineinstall.h"
+#include "core/launcherserver.h"
 #include "ui/browser/commandline.h"
 #include "ui/browser/frmapri.h"
 
@@ -27,8 +28,13 @@ int main(int argc, char** argv) {
     Q_INIT_RESOURCE(quovara);
 
     quovara::frmApri window;
-    if (!window.Form_Load(quovara::CommandLineText(app.arguments().mid(1))))
+    if (!window.Form_Load(quovara::CommandLineText(app.arguments().mid(1)))) {
+        quovara::LauncherServer::Shutdown();
         return 0;
+    }
     window.show();
-    return app.exec();
+    const int code = app.exec();
+    // The launcher's server kept warm for this session ends with it.
+    quovara::LauncherServer::Shutdown();
+    return code;
 }

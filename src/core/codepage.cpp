@@ -32,6 +32,27 @@ QString FromCp437(const char* data, qsizetype size) {
     return out;
 }
 
+namespace {
+int cp437Byte(QChar c) {
+    if (c.unicode() < 0x80)
+        return c.unicode();
+    for (int i = 0; i < 128; ++i)
+        if (kHigh[i] == c.unicode())
+            return 0x80 + i;
+    return -1;
+}
+} // namespace
+
+QByteArray ToCp437(const QString& text) {
+    QByteArray out;
+    out.reserve(text.size());
+    for (const QChar c : text) {
+        const int b = cp437Byte(c);
+        out.append(b < 0 ? '?' : char(b));
+    }
+    return out;
+}
+
 bool RepresentableInCp437(const QString& text) {
     for (const QChar c : text) {
         if (c.unicode() < 0x80)

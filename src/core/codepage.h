@@ -16,6 +16,9 @@ inline QString FromCp437(const QByteArray& bytes) {
 // Windows console program, reads and writes).
 bool RepresentableInCp437(const QString& text);
 
+// The bytes of `text` in code page 437; '?' for a character it lacks.
+QByteArray ToCp437(const QString& text);
+
 // How the active engine writes its logs and console output: the real engine (a Windows
 // program) in code page 437; a native engine (the stand-in) in the locale's encoding (UTF-8).
 enum class EngineCodec { Cp437, Utf8 };

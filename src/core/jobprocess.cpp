@@ -1,7 +1,9 @@
 #include "jobprocess.h"
 
+#include "codepage.h"
 #include "enginefiles.h"
 #include "jobscript.h"
+#include "launcherserver.h"
 #include "logging.h"
 #include "places.h"
 #include "processcontrol.h"
@@ -10,6 +12,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcessEnvironment>
+#include <QRegularExpression>
 #include <QSocketNotifier>
 #include <QStandardPaths>
 
@@ -45,6 +48,8 @@ JobProcess::~JobProcess() {
     closeTerminal();
     if (group_ > 0)
         UnregisterJobGroup(group_);
+    if (!listCopy_.isEmpty() && !QFile::remove(listCopy_))
+        qCDebug(lcRunner) << "could not delete the list file's copy" << listCopy_;
 }
 
 namespace {
@@ -89,6 +94,37 @@ QByteArray readScript(const QString& path, bool& ok) {
 #endif
     ok = true;
     return file.readAll();
+}
+
+// The list file as the engine under the launcher needs it: every host path in the launcher's
+// form, in the engine's code page, lines ended by CR LF. The copy goes to `copyPath` (the
+// user's file is never changed). Empty on success, otherwise why it cannot be made.
+QString writeLauncherList(const QString& listPath, const QString& copyPath) {
+    QFile list(listPath);
+    if (!list.open(QIODevice::ReadOnly))
+        return QStringLiteral("the list file %1 cannot be read: %2")
+            .arg(listPath, list.errorString());
+    const QString text = QString::fromLocal8Bit(list.readAll());
+    QStringList lines;
+    for (QString line : text.split(QRegularExpression(QStringLiteral("\\r\\n|\\n|\\r")))) {
+        if (line.isEmpty())
+            continue;
+        line = line.startsWith(QLatin1Char('/'))
+                   ? ToLauncherPath(line)
+                   : QString(line).replace(QLatin1Char('/'), QLatin1Char('\\'));
+        if (!RepresentableInCp437(line))
+            return QStringLiteral("the list file %1 names\n%2\nwhich holds letters that the "
+                                  "engine cannot read (it knows only the letters of code page "
+                                  "437)")
+                .arg(listPath, line);
+        lines << line;
+    }
+    const QString why =
+        WritePrivateFile(copyPath, ToCp437(lines.join(QStringLiteral("\r\n")) +
+                                           (lines.isEmpty() ? QString() : QStringLiteral("\r\n"))));
+    if (!why.isEmpty())
+        return QStringLiteral("the list file's copy %1 cannot be written: %2").arg(copyPath, why);
+    return QString();
 }
 
 } // namespace
@@ -140,8 +176,22 @@ bool JobProcess::start(const QString& scriptPath, const QString& workingFolder) 
         if (launcher.isEmpty())
             return refuse(QStringLiteral("%1 is a Windows program and no launcher (wine) was found")
                               .arg(engine));
-        for (QString& a : args)
+        // The server stays warm across the jobs of the session.
+        LauncherServer::EnsureRunning(launcher);
+        for (QString& a : args) {
+            if (a.startsWith(QLatin1Char('@')) && a.size() > 1) {
+                // The engine cannot open host paths: it gets a translated copy of the list.
+                static int copies = 0;
+                const QString copy = PathStyle::host().join(
+                    WorkFolder(), QStringLiteral("Elenco%1.lst").arg(++copies));
+                const QString why = writeLauncherList(a.mid(1), copy);
+                if (!why.isEmpty())
+                    return refuse(why);
+                listCopy_ = copy;
+                a = QLatin1Char('@') + copy;
+            }
             a = ToLauncherPath(a);
+        }
         args.prepend(engine);
         program_ = launcher;
     } else {

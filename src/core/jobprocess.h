@@ -59,6 +59,8 @@ private:
     QProcess::ExitStatus exitStatus_ = QProcess::NormalExit;
     int exitCode_ = 0;
     QString error_;
+    // The translated copy of a list file handed to an engine under the launcher.
+    QString listCopy_;
     QString program_;
     QStringList arguments_;
 };

@@ -161,49 +161,6 @@ QString scriptKey(const QString& path) {
     return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
 }
 
-// Writes `bytes` to `path` without following a link, private to the user. Empty on success,
-// otherwise the reason.
-QString writePrivateFile(const QString& path, const QByteArray& bytes) {
-#ifdef Q_OS_UNIX
-    const QByteArray name = QFile::encodeName(path);
-    const int fd =
-        ::open(name.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW | O_CLOEXEC, 0600);
-    if (fd < 0) {
-        if (errno == ELOOP)
-            return QStringLiteral("a symbolic link stands where the script belongs");
-        return QString::fromLocal8Bit(std::strerror(errno));
-    }
-    struct stat st;
-    if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode) || st.st_uid != ::geteuid()) {
-        ::close(fd);
-        return QStringLiteral("the file that stands where the script belongs is not ours");
-    }
-    qsizetype done = 0;
-    while (done < bytes.size()) {
-        const ssize_t n = ::write(fd, bytes.constData() + done, size_t(bytes.size() - done));
-        if (n < 0 && errno == EINTR)
-            continue;
-        if (n <= 0) {
-            const QString why = QString::fromLocal8Bit(std::strerror(errno));
-            ::close(fd);
-            return why;
-        }
-        done += n;
-    }
-    if (::close(fd) != 0)
-        return QString::fromLocal8Bit(std::strerror(errno));
-    return QString();
-#else
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        return file.errorString();
-    if (file.write(bytes) != bytes.size())
-        return file.errorString();
-    file.close();
-    return QString();
-#endif
-}
-
 QString fieldName(const ScriptPart& part) {
     return part.field.isEmpty() ? QStringLiteral("command line") : part.field;
 }
@@ -277,6 +234,49 @@ QString CommandPiecesProblem(const CommandPieces& commandPieces, bool windowsEng
     return QString();
 }
 
+// Writes `bytes` to `path` without following a link, private to the user. Empty on success,
+// otherwise the reason.
+QString WritePrivateFile(const QString& path, const QByteArray& bytes) {
+#ifdef Q_OS_UNIX
+    const QByteArray name = QFile::encodeName(path);
+    const int fd =
+        ::open(name.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW | O_CLOEXEC, 0600);
+    if (fd < 0) {
+        if (errno == ELOOP)
+            return QStringLiteral("a symbolic link stands where the file belongs");
+        return QString::fromLocal8Bit(std::strerror(errno));
+    }
+    struct stat st;
+    if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode) || st.st_uid != ::geteuid()) {
+        ::close(fd);
+        return QStringLiteral("the file that stands where the file belongs is not ours");
+    }
+    qsizetype done = 0;
+    while (done < bytes.size()) {
+        const ssize_t n = ::write(fd, bytes.constData() + done, size_t(bytes.size() - done));
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n <= 0) {
+            const QString why = QString::fromLocal8Bit(std::strerror(errno));
+            ::close(fd);
+            return why;
+        }
+        done += n;
+    }
+    if (::close(fd) != 0)
+        return QString::fromLocal8Bit(std::strerror(errno));
+    return QString();
+#else
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        return file.errorString();
+    if (file.write(bytes) != bytes.size())
+        return file.errorString();
+    file.close();
+    return QString();
+#endif
+}
+
 bool WriteJobScript(const QString& path, Preamble preamble, const CommandPieces& commandPieces,
                     LastLine last, QString* error) {
     auto refuse = [&](const QString& why) {
@@ -315,7 +315,7 @@ bool WriteJobScript(const QString& path, Preamble preamble, const CommandPieces&
         written.job.environment.append({QStringLiteral("uharc_opt"), QStringLiteral(" -d2")});
     // Forget the old script first: a failed write must not leave it runnable.
     writtenScripts().remove(scriptKey(path));
-    const QString why = writePrivateFile(path, written.bytes);
+    const QString why = WritePrivateFile(path, written.bytes);
     if (!why.isEmpty())
         return refuse(QStringLiteral("The job script %1 cannot be written: %2.").arg(path, why));
     writtenScripts().insert(scriptKey(path), written);

@@ -110,6 +110,10 @@ QString CommandPiecesProblem(const CommandPieces& commandPieces, bool windowsEng
 bool WriteJobScript(const QString& path, Preamble preamble, const CommandPieces& commandPieces,
                     LastLine last = LastLine::NoLineEnd, QString* error = nullptr);
 
+// Writes `bytes` to `path` (replacing a file of ours) without following a link, readable by the
+// user alone (0600). Empty on success, otherwise the reason in words.
+QString WritePrivateFile(const QString& path, const QByteArray& bytes);
+
 // What this program wrote to a script path: the bytes and the job they ask for. Empty for a
 // path this program has not written.
 struct WrittenScript {

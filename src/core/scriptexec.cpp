@@ -27,7 +27,8 @@ QString HostPathsInText(const QString& text) {
     const qsizetype n = text.size();
     qsizetype i = 0;
     while (i < n) {
-        const bool atPath = i + 2 < n && (text[i] == QLatin1Char('Z') || text[i] == QLatin1Char('z')) &&
+        const bool atPath = i + 2 < n &&
+                            (text[i] == QLatin1Char('Z') || text[i] == QLatin1Char('z')) &&
                             text[i + 1] == QLatin1Char(':') && text[i + 2] == QLatin1Char('\\') &&
                             (i == 0 || !text[i - 1].isLetterOrNumber());
         if (!atPath) {

@@ -292,7 +292,8 @@ void ArchiveLister::Batch() {
 }
 
 QString ArchiveLister::Errore() const {
-    return ScanListingErrors(ReadEngineLines(WorkFile(names::ListLog), nullptr, ActiveEngineCodec()));
+    return ScanListingErrors(
+        ReadEngineLines(WorkFile(names::ListLog), nullptr, ActiveEngineCodec()));
 }
 
 ListStatus ArchiveLister::SpecificaErrore(const QString& message) {
@@ -338,7 +339,9 @@ ListStatus ArchiveLister::FileInArchivio(const QString& selectedPath) {
             UndoEngineSwitch(switch_, ProgramFolder());
             return listing_.status;
         case ListStatus::Opened:
-            if (!BuildMirrorTree(ReadEngineLines(WorkFile(names::ListLog), nullptr, ActiveEngineCodec()), ScratchFolder())) {
+            if (!BuildMirrorTree(
+                    ReadEngineLines(WorkFile(names::ListLog), nullptr, ActiveEngineCodec()),
+                    ScratchFolder())) {
                 listing_.status = ListStatus::Failed;
                 listing_.password.clear();
                 UndoEngineSwitch(switch_, ProgramFolder());

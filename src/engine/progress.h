@@ -105,8 +105,7 @@ QString TrayTipText(double percent, qint64 remainingSeconds);
 
 // The real engine writes its console output in code page 437 (one byte is one character); an
 // engine that runs natively here writes UTF-8.
-QString DecodeConsoleLine(const char* data, qsizetype size,
-                          EngineCodec codec = EngineCodec::Cp437);
+QString DecodeConsoleLine(const char* data, qsizetype size, EngineCodec codec = EngineCodec::Cp437);
 inline QString DecodeConsoleLine(const QByteArray& bytes, EngineCodec codec = EngineCodec::Cp437) {
     return DecodeConsoleLine(bytes.constData(), bytes.size(), codec);
 }

@@ -1,5 +1,6 @@
 #include "core/jobprocess.h"
 #include "core/jobscript.h"
+#include "core/launcherserver.h"
 #include "core/places.h"
 #include "core/processcontrol.h"
 #include "core/runner.h"
@@ -125,9 +126,11 @@ TEST_F(Runner, WindowsEngineRunsThroughTheLauncherWithATerminal) {
     qputenv("QUOVARA_WINE", launcher.toLocal8Bit());
     // The engine's name in another spelling of its case is still the engine.
     const QString otherCase = places.programFolder() + "/Uharc.exe";
+    const QString list = places.path() + "/list.txt";
+    writeFile(list, "/a/one.txt\n");
     WriteJobScript(script(names::ExtractScript), Preamble::Job,
                    {"\"" + otherCase + "\" ", "x ", "-t\"/out/dir\"", " -o+ ", "\"/arch/a.uha\"",
-                    " !\"*.bak\"", " @\"/l/list.txt\"", " > " + das()});
+                    " !\"*.bak\"", " @\"" + list + "\"", " > " + das()});
     EXPECT_TRUE(RunAndWait(script(names::ExtractScript), 0, places.path()));
     qunsetenv("QUOVARA_WINE");
     const QStringList lines = QString::fromLocal8Bit(readAll(record)).split('\n');
@@ -138,7 +141,9 @@ TEST_F(Runner, WindowsEngineRunsThroughTheLauncherWithATerminal) {
     EXPECT_EQ(lines[3], "-o+");
     EXPECT_EQ(lines[4], "Z:\\arch\\a.uha");
     EXPECT_EQ(lines[5], "!*.bak");
-    EXPECT_EQ(lines[6], "@Z:\\l\\list.txt");
+    // The list file is handed over as a translated copy in the WorkFolder.
+    EXPECT_EQ(lines[6], "@" + ToLauncherPath(WorkFolder() + "/Elenco1.lst").replace("@", ""))
+        << lines[6].toStdString();
     EXPECT_EQ(lines[7], "tty");
     EXPECT_EQ(readAll(das()), QByteArray("engine output\r\n"));
 }
@@ -326,4 +331,123 @@ TEST_F(Runner, TerminateByNameEndsOnlyThisProgramsEngineAndOnlyTheFirst) {
 
 TEST(TerminateProcessByName, NoMatchDoesNothing) {
     EXPECT_EQ(TerminateProcessByName("NO-SUCH-PROGRAM.EXE"), 0);
+}
+
+// A launcher that records its arguments and, for a list file argument "@Z:\\...", the bytes of
+// the file the engine would open there.
+const QByteArray kListReadingLauncher =
+    "#!/bin/sh\n"
+    "for a in \"$@\"; do\n"
+    "  printf '%s\\n' \"$a\" >> \"$QV_RECORD\"\n"
+    "  case \"$a\" in @Z:*) p=$(printf '%s' \"${a#@Z:}\" | tr '\\\\' '/'); "
+    "cat \"$p\" >> \"$QV_LIST\";; esac\n"
+    "done\n";
+
+TEST_F(Runner, AListFileReachesTheLauncherAsATranslatedCopyAndTheUsersFileStays) {
+    writeFile(engine(), "MZ\x90\x00 a Windows program");
+    const QString launcher = places.path() + "/fake-wine";
+    writeExecutable(launcher, kListReadingLauncher);
+    qputenv("QV_RECORD", (places.path() + "/record.txt").toLocal8Bit());
+    qputenv("QV_LIST", (places.path() + "/seen-list.txt").toLocal8Bit());
+    qputenv("QUOVARA_WINE", launcher.toLocal8Bit());
+    const QString list = places.path() + "/my list.txt";
+    const QByteArray mine = QString::fromUtf8("/home/anna/src/a.txt\n/home/anna/café/b c.txt\n"
+                                              "relative/d.txt\n\n")
+                                .toUtf8();
+    writeFile(list, mine);
+    ASSERT_TRUE(WriteJobScript(script(names::AddScript), Preamble::Job,
+                               {quotedEngine() + "a \"/x/a.uha\" @\"" +
+                                Fragment::Value(list, "list file") + "\" > " + das()}));
+    JobProcess job;
+    ASSERT_TRUE(job.start(script(names::AddScript))) << job.errorText().toStdString();
+    QSignalSpy done(&job, &JobProcess::finished);
+    ASSERT_TRUE(done.wait(10000));
+    qunsetenv("QUOVARA_WINE");
+    // Host paths in the launcher's form, code page 437 (0x82 is "é"), CR LF.
+    EXPECT_EQ(readAll(places.path() + "/seen-list.txt"),
+              QByteArray("Z:\\home\\anna\\src\\a.txt\r\nZ:\\home\\anna\\caf\x82\\b c.txt\r\n"
+                         "relative\\d.txt\r\n"));
+    EXPECT_EQ(readAll(list), mine);
+    EXPECT_TRUE(job.arguments().last().startsWith("@Z:\\")) << job.arguments().last().toStdString();
+}
+
+TEST_F(Runner, AListNamingLettersTheRealEngineCannotReadIsRefused) {
+    writeFile(engine(), "MZ\x90\x00 a Windows program");
+    const QString launcher = places.path() + "/fake-wine";
+    writeExecutable(launcher, kListReadingLauncher);
+    qputenv("QV_RECORD", (places.path() + "/record.txt").toLocal8Bit());
+    qputenv("QUOVARA_WINE", launcher.toLocal8Bit());
+    const QString list = places.path() + "/list.txt";
+    writeFile(list, QString::fromUtf8("/home/Łukasz/a.txt\n").toUtf8());
+    ASSERT_TRUE(WriteJobScript(script(names::AddScript), Preamble::Job,
+                               {quotedEngine() + "a \"/x/a.uha\" @\"" + list + "\""}));
+    JobProcess job;
+    EXPECT_FALSE(job.start(script(names::AddScript)));
+    qunsetenv("QUOVARA_WINE");
+    EXPECT_EQ(job.errorText(), "the list file " + list + " names\nZ:\\home\\" +
+                                   QString::fromUtf8("Łukasz") +
+                                   "\\a.txt\nwhich holds letters that the engine cannot read "
+                                   "(it knows only the letters of code page 437)");
+    EXPECT_FALSE(QFile::exists(places.path() + "/record.txt"));
+}
+
+// A fake wine that counts cold starts: when no server runs (no live pid in $QV_SERVER), it
+// counts one and serves itself for the length of its job, as wine does without a persistent
+// server. The fake server records its pid, counts its own start as the session's cold start,
+// and runs until it is ended.
+const QByteArray kCountingLauncher =
+    "#!/bin/sh\n"
+    "alive() { [ -s \"$QV_SERVER\" ] && kill -0 \"$(cat \"$QV_SERVER\")\" 2>/dev/null; }\n"
+    "i=0; while ! alive && [ $i -lt 20 ]; do sleep 0.05; i=$((i+1)); done\n"
+    "alive || echo cold >> \"$QV_COLD\"\n"
+    "echo job >> \"$QV_JOBS\"\n";
+const QByteArray kCountingServer = "#!/bin/sh\n"
+                                   "echo cold >> \"$QV_COLD\"\n"
+                                   "echo \"$@\" > \"$QV_SERVER_ARGS\"\n"
+                                   "echo $$ > \"$QV_SERVER\"\n"
+                                   "exec sleep 300\n";
+
+TEST_F(Runner, TenJobsOfASessionPayOneColdStartOfTheLauncher) {
+    writeFile(engine(), "MZ\x90\x00 a Windows program");
+    const QString launcher = places.path() + "/wine";
+    writeExecutable(launcher, kCountingLauncher);
+    // Found beside the launcher, as a wine installation has it.
+    writeExecutable(places.path() + "/wineserver", kCountingServer);
+    for (const char* v : {"QV_SERVER", "QV_COLD", "QV_JOBS", "QV_SERVER_ARGS"})
+        qputenv(v, (places.path() + "/" + QString::fromLatin1(v).toLower()).toLocal8Bit());
+    qputenv("QUOVARA_WINE", launcher.toLocal8Bit());
+    ASSERT_TRUE(WriteJobScript(script(names::ListScript), Preamble::List, {quotedEngine() + "l"}));
+    for (int i = 0; i < 10; ++i)
+        ASSERT_TRUE(RunAndWait(script(names::ListScript), 0, places.path()));
+    qunsetenv("QUOVARA_WINE");
+    EXPECT_EQ(readAll(places.path() + "/qv_jobs").count("job"), 10);
+    EXPECT_EQ(readAll(places.path() + "/qv_cold"), QByteArray("cold\n"));
+    // Persistent, in the foreground, as this program's child.
+    EXPECT_EQ(readAll(places.path() + "/qv_server_args"), QByteArray("-f -p600\n"));
+    const qint64 server = LauncherServer::ProcessId();
+    ASSERT_GT(server, 0);
+    EXPECT_TRUE(alive(server));
+    // It ends with the session.
+    LauncherServer::Shutdown();
+    EXPECT_FALSE(alive(server));
+    EXPECT_EQ(LauncherServer::ProcessId(), 0);
+}
+
+TEST_F(Runner, WithoutAServerProgramEveryJobStillRuns) {
+    writeFile(engine(), "MZ\x90\x00 a Windows program");
+    QDir(places.path()).mkdir("bin");
+    const QString launcher = places.path() + "/bin/wine";
+    writeExecutable(launcher, kCountingLauncher);
+    for (const char* v : {"QV_SERVER", "QV_COLD", "QV_JOBS"})
+        qputenv(v, (places.path() + "/" + QString::fromLatin1(v).toLower()).toLocal8Bit());
+    qputenv("QUOVARA_WINE", launcher.toLocal8Bit());
+    qputenv("QUOVARA_WINESERVER", (places.path() + "/no-such-server").toLocal8Bit());
+    ASSERT_TRUE(WriteJobScript(script(names::ListScript), Preamble::List, {quotedEngine() + "l"}));
+    for (int i = 0; i < 2; ++i)
+        ASSERT_TRUE(RunAndWait(script(names::ListScript), 0, places.path()));
+    qunsetenv("QUOVARA_WINE");
+    qunsetenv("QUOVARA_WINESERVER");
+    EXPECT_EQ(readAll(places.path() + "/qv_jobs").count("job"), 2);
+    EXPECT_EQ(readAll(places.path() + "/qv_cold"), QByteArray("cold\ncold\n"));
+    EXPECT_EQ(LauncherServer::ProcessId(), 0);
 }

@@ -100,8 +100,9 @@ TEST(ToLauncherPath, AbsolutePathsAlsoAfterSwitchPrefixes) {
 }
 
 TEST(HostPathsInText, LauncherPathsInShownTextsBecomeHostPaths) {
-    EXPECT_EQ(HostPathsInText("Archive \"Z:\\home\\anna\\a b.uha\" already exists. Overwrite (y/n) ?"),
-              "Archive \"/home/anna/a b.uha\" already exists. Overwrite (y/n) ?");
+    EXPECT_EQ(
+        HostPathsInText("Archive \"Z:\\home\\anna\\a b.uha\" already exists. Overwrite (y/n) ?"),
+        "Archive \"/home/anna/a b.uha\" already exists. Overwrite (y/n) ?");
     EXPECT_EQ(HostPathsInText("Adding Z:\\home\\anna\\src\\two.txt   4  100.0%"),
               "Adding /home/anna/src/two.txt   4  100.0%");
     EXPECT_EQ(HostPathsInText(" Can't write file \"Z:\\tmp\\out\\x.txt\""),

@@ -157,10 +157,9 @@ void frmProgress::answerEngineQuestion(const QString& line) {
     // The line may begin with the blanks and carriage returns of a cleared progress line.
     const QString question = shown(line.mid(line.lastIndexOf(QLatin1Char('\r')) + 1)).trimmed();
     const bool archiveExists = question.contains(QLatin1String("already exists"));
-    const QString text =
-        QString::fromLatin1(archiveExists ? progress::ArchiveExistsQuestion
-                                          : progress::OtherQuestion)
-            .arg(question);
+    const QString text = QString::fromLatin1(archiveExists ? progress::ArchiveExistsQuestion
+                                                           : progress::OtherQuestion)
+                             .arg(question);
     qCDebug(lcJobWindow) << "the engine asks:" << question;
     asking_ = true;
     const bool yes = main_.prompter().question(text);

@@ -47,10 +47,10 @@ void frmProgress::Form_Unload() {
     if (kind_.deletesTempArchive && !archivePath_.isEmpty()) {
         const qsizetype cut = archivePath_.lastIndexOf(PathStyle::host().sep);
         const QString folder = cut < 0 ? workingFolder() : archivePath_.left(cut);
-        const QString temp = folder.isEmpty()
-                                 ? QString::fromLatin1(names::EngineTempArchive)
-                                 : PathStyle::host().join(folder,
-                                                          QLatin1String(names::EngineTempArchive));
+        const QString temp =
+            folder.isEmpty()
+                ? QString::fromLatin1(names::EngineTempArchive)
+                : PathStyle::host().join(folder, QLatin1String(names::EngineTempArchive));
         QFile::remove(temp);
     }
     qCDebug(lcJobWindow) << "unloaded" << kind_.formName;

@@ -11,15 +11,16 @@
 #include <QProcess>
 #include <QStandardPaths>
 
-#include <unistd.h>
 #include <QTest>
+#include <unistd.h>
 
 namespace quovara::testing {
 
 namespace {
 // Taken before any test points TMPDIR elsewhere.
-const QString kLockPath = QDir::tempPath() + QStringLiteral("/quovara-progress-tests-%1.lock")
-                                                 .arg(static_cast<qint64>(::getpid()));
+const QString kLockPath =
+    QDir::tempPath() +
+    QStringLiteral("/quovara-progress-tests-%1.lock").arg(static_cast<qint64>(::getpid()));
 } // namespace
 
 bool WaitFor(const std::function<bool()>& done, int ms) {

@@ -14,8 +14,8 @@
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QPixmap>
-#include <QProgressBar>
 #include <QProcess>
+#include <QProgressBar>
 #include <QScreen>
 #include <QSystemTrayIcon>
 #include <QTest>
@@ -173,8 +173,8 @@ int takeShot(const QString& kind, const QString& file) {
     if (shot.isNull() || shot.size().isEmpty())
         shot = w->grab();
     const bool saved = shot.save(file);
-    std::printf("%s: %s, %dx%d\n", qPrintable(file), saved ? "saved" : "NOT saved",
-                shot.width(), shot.height());
+    std::printf("%s: %s, %dx%d\n", qPrintable(file), saved ? "saved" : "NOT saved", shot.width(),
+                shot.height());
     w->close();
     return saved ? 0 : 1;
 }
@@ -215,15 +215,16 @@ int checkTray(const QString& file) {
     std::printf("%s: the screen with the icon\n", qPrintable(file));
     // A left click on the icon, through the display server.
     if (!click.isEmpty()) {
-        QProcess::execute(QStringLiteral("xdotool"), {QStringLiteral("click"), QStringLiteral("1")});
+        QProcess::execute(QStringLiteral("xdotool"),
+                          {QStringLiteral("click"), QStringLiteral("1")});
         WaitFor([&] { return w->isVisible() || w->isUnloaded(); }, 5000);
         std::printf("after a left click at %s: progress window visible %d, main window "
                     "visible %d, icon shown %d, same job %d, runs %d\n",
                     qPrintable(click), w->isVisible(), bench.main->isVisible(),
                     w->trayIcon().isShown(), w->jobProcessId() == pid, w->runs());
     }
-    std::printf("tip: %s\n", qPrintable(TrayTipText(w->timeState().percent,
-                                                     w->timeState().remainingSeconds)));
+    std::printf("tip: %s\n",
+                qPrintable(TrayTipText(w->timeState().percent, w->timeState().remainingSeconds)));
     w->close();
     std::printf("after closing: icon shown %d\n", w->trayIcon().isShown());
     return 0;

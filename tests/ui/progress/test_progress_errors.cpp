@@ -233,7 +233,8 @@ TEST_F(ProgressErrors, AnEngineThatWritesNothingEndsTheWaitWithAClearMessage) {
     ASSERT_EQ(bench.prompter.shown.size(), 1);
     EXPECT_EQ(bench.prompter.shown.first(),
               "critical: The engine ended without writing any output, so the job cannot be "
-              "followed.\nJob script: " + WorkFile(names::TestScript));
+              "followed.\nJob script: " +
+                  WorkFile(names::TestScript));
     EXPECT_TRUE(bench.main->isVisible());
 }
 
@@ -302,9 +303,12 @@ TEST_F(ProgressErrors, ClosingTheWindowWhileTheEngineAsksStopsTheJobAndTypesNoth
 // Names in several scripts, a blank and an apostrophe go through a test and an extraction
 // unchanged, in an archive whose own name is just as mixed.
 TEST_F(ProgressErrors, NamesInEveryScriptAreTestedAndExtractedUnchanged) {
-    const QStringList names = {QString::fromUtf8("Łódź.txt"),   QString::fromUtf8("Привет.txt"),
-                               QString::fromUtf8("Αθήνα.txt"),  QString::fromUtf8("日本語.txt"),
-                               QString::fromUtf8("📦.txt"),     "a b.txt",
+    const QStringList names = {QString::fromUtf8("Łódź.txt"),
+                               QString::fromUtf8("Привет.txt"),
+                               QString::fromUtf8("Αθήνα.txt"),
+                               QString::fromUtf8("日本語.txt"),
+                               QString::fromUtf8("📦.txt"),
+                               "a b.txt",
                                "it's.txt"};
     QDir().mkpath(bench.src);
     for (const QString& n : names)

@@ -5,12 +5,12 @@
 #include "core/places.h"
 
 #include <QDir>
-#include <algorithm>
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QTest>
 #include <QTimer>
+#include <algorithm>
 #include <gtest/gtest.h>
 
 using namespace quovara;
@@ -58,7 +58,14 @@ TEST_F(ProgressJobs, TheTableGivesEachWindowItsCaptionScriptAndControls) {
     };
     const Row rows[] = {
         {JobKind::Add, "frmAdding", "Adding ...", "Archivia.bat", true, {337, 145}, 96, 56},
-        {JobKind::Extract, "frmExtracting", "Extracting ...", "Estrai.bat", false, {337, 129}, 80, 40},
+        {JobKind::Extract,
+         "frmExtracting",
+         "Extracting ...",
+         "Estrai.bat",
+         false,
+         {337, 129},
+         80,
+         40},
         {JobKind::Test, "frmTesting", "Testing ...", "Testing.bat", false, {335, 127}, 80, 40},
     };
     for (const Row& r : rows) {
@@ -214,7 +221,8 @@ TEST_F(ProgressJobs, VerifyInTheMainWindowRunsTheTestWindowToItsEnd) {
 
     EXPECT_EQ(caption, "Testing ...");
     EXPECT_TRUE(modal);
-    EXPECT_EQ(bench.prompter.shown, QStringList({"information: No errors found during test operation"}));
+    EXPECT_EQ(bench.prompter.shown,
+              QStringList({"information: No errors found during test operation"}));
     EXPECT_TRUE(jobTexts.join('|').contains("Testing f02.bin")) << jobTexts.join('|').toStdString();
     EXPECT_EQ(bench.main->findChild<frmProgress*>(), nullptr); // gone once Verify returns
     EXPECT_FALSE(QFile::exists(WorkFile(names::ConsoleOutput)));
@@ -262,7 +270,8 @@ TEST_F(ProgressJobs, AnExtractOutputOfFewerThanThirteenLinesNeverMovesTheBar) {
         out += "header\r\n";
     out += line;
     writeFile(bench.places.path() + "/twelve.out", out);
-    writeExecutable(engine, "#!/bin/sh\ncat '" + (bench.places.path() + "/twelve.out").toLocal8Bit() +
+    writeExecutable(engine, "#!/bin/sh\ncat '" +
+                                (bench.places.path() + "/twelve.out").toLocal8Bit() +
                                 "'\nsleep 0.3\n");
     bench.writeExtractScript(bench.places.path() + "/x.uha", bench.places.path() + "/dest");
     Seen seen;
@@ -288,7 +297,8 @@ TEST_F(ProgressJobs, TheArchiveOfAJobIsTheOneItsScriptNames) {
     EXPECT_EQ(w->archivePath(), other);
     EXPECT_EQ(w->workingFolder(), bench.places.path() + "/other");
     ASSERT_TRUE(bench.waitUnloaded(w));
-    EXPECT_EQ(bench.prompter.shown, QStringList({"information: No errors found during test operation"}));
+    EXPECT_EQ(bench.prompter.shown,
+              QStringList({"information: No errors found during test operation"}));
     // The caller may name the archive itself.
     frmProgress named(*ProgressKindOf(JobKind::Extract), *bench.main, listed);
     EXPECT_EQ(named.archivePath(), listed);
