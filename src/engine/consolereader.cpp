@@ -146,14 +146,18 @@ bool ConsoleReader::poll() {
     if (!file.open(QIODevice::ReadOnly)) {
         qCDebug(lcProgress) << "console output not readable this round:" << path_
                             << file.errorString();
+        if (opened_)
+            lost_ = true;
         feed(QByteArray());
         return false;
     }
     if (file.size() < offset_) {
         // The file was replaced by a shorter one: what was read no longer stands.
         qCDebug(lcProgress) << "console output shrank, reading it again from the start";
+        lost_ = true;
         reset();
     }
+    opened_ = true;
     if (!file.seek(offset_)) {
         qCDebug(lcProgress) << "cannot seek in the console output" << file.errorString();
         feed(QByteArray());

@@ -62,6 +62,9 @@ public:
 
     // A complete error line ended the reading; later rounds change nothing.
     bool finished() const { return finished_; }
+    // The output was read once and later could not be opened, or became shorter than what was
+    // read: it was removed or cut while the engine wrote it, so its end is unknown.
+    bool outputLost() const { return lost_; }
     // The last line as far as it has been written (no line end yet): where the engine's
     // questions stand while it waits for a key.
     QString unfinishedLine() const;
@@ -84,6 +87,8 @@ private:
     bool pendingCr_ = false; // the data so far ends with CR: an LF that follows belongs to it
     qint64 completeLines_ = 0;
     bool finished_ = false;
+    bool opened_ = false;
+    bool lost_ = false;
 
     // The state after the complete lines, with a mark per group of fields that a complete line
     // has set. Groups no complete line has set come from the previous round's state.

@@ -44,6 +44,11 @@ inline constexpr char NoOutput[] =
     "Job script: %1";
 // The job script could not be started. %1 says why.
 inline constexpr char NotStarted[] = "The job could not be started: %1";
+// The job did not finish: the engine was ended by a signal, or ended with a non-zero exit code
+// and no error line, or its output was removed or cut while it ran. %1 is the archive, %2 why.
+inline constexpr char AbnormalEnd[] = "The engine ended abnormally (%2).\n"
+                                      "Archive: %1\n"
+                                      "The job did not finish; do not rely on its result.";
 // The engine waits at its console for a key. %1 is its question as it wrote it.
 inline constexpr char ArchiveExistsQuestion[] =
     "The engine asks:\n\n%1\n\n"
@@ -132,6 +137,8 @@ private:
     void stopFollowing();
     // Asks the user the engine's question and types the answer into its console.
     void answerEngineQuestion(const QString& question);
+    // Why the ended job cannot count as done, or empty when it ended normally.
+    QString abnormalEnd() const;
     // A text of the engine as the user reads it: under the launcher, its paths in host form.
     QString shown(const QString& engineText) const;
 

@@ -15,6 +15,8 @@
 #include <QProgressBar>
 #include <QTimer>
 
+#include <cstring>
+
 Q_DECLARE_LOGGING_CATEGORY(lcJobWindow)
 
 namespace quovara {
@@ -96,6 +98,12 @@ void frmProgress::pollRound() {
             return;
         }
         if (ended) {
+            // A job that did not finish is never reported as a success.
+            const QString why = abnormalEnd();
+            if (!why.isEmpty()) {
+                endWithMessage(QString::fromLatin1(progress::AbnormalEnd).arg(archivePath_, why));
+                return;
+            }
             normalEnding();
             return;
         }
@@ -169,6 +177,21 @@ void frmProgress::answerEngineQuestion(const QString& line) {
         return;
     if (!job_->answer(yes ? 'y' : 'n'))
         qCDebug(lcJobWindow) << "the answer could not be typed into the engine's console";
+}
+
+QString frmProgress::abnormalEnd() const {
+    if (job_->crashed()) {
+        const int signal = job_->exitCode();
+        const char* name = ::strsignal(signal);
+        return name ? QStringLiteral("signal %1, %2").arg(signal).arg(QString::fromLocal8Bit(name))
+                    : QStringLiteral("signal %1").arg(signal);
+    }
+    if (job_->exitCode() != 0)
+        return QStringLiteral("exit code %1").arg(job_->exitCode());
+    if (reader_->outputLost())
+        return QStringLiteral("its output %1 was removed or cut short while it ran")
+            .arg(consolePath_);
+    return QString();
 }
 
 QString frmProgress::shown(const QString& engineText) const {

@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QLineEdit>
+#include <QProcess>
 #include <QProgressBar>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -334,4 +335,105 @@ TEST_F(ProgressErrors, NamesInEveryScriptAreTestedAndExtractedUnchanged) {
     EXPECT_EQ(extracted, expected);
     for (const QString& n : names)
         EXPECT_EQ(readAll(destination + "/" + n), n.toUtf8()) << n.toStdString();
+}
+
+namespace {
+
+// Sets the stand-in engine's fault for the jobs started while it lives.
+class ScopedFault {
+public:
+    explicit ScopedFault(const QByteArray& fault) { qputenv("QUOVARA_STANDIN_FAULT", fault); }
+    ~ScopedFault() { qunsetenv("QUOVARA_STANDIN_FAULT"); }
+};
+
+QString abnormal(const QString& archive, const QString& why) {
+    return "critical: The engine ended abnormally (" + why + ").\nArchive: " + archive +
+           "\nThe job did not finish; do not rely on its result.";
+}
+
+} // namespace
+
+TEST_F(ProgressErrors, ATestWhoseEngineExitsWithACodeAndNoErrorIsNotASuccess) {
+    bench.makeSource(4, 1000);
+    const QString archive = bench.makeArchive(kSix, "exit3.uha");
+    bench.writeTestScript(archive);
+    ScopedFault fault("exit:3");
+    frmProgress* w = bench.open(JobKind::Test);
+    ASSERT_TRUE(bench.waitUnloaded(w));
+    EXPECT_EQ(bench.prompter.shown, QStringList({abnormal(archive, "exit code 3")}));
+}
+
+TEST_F(ProgressErrors, AnEngineEndedByASignalIsReportedWithTheSignal) {
+    bench.makeSource(4, 1000);
+    const QString archive = bench.makeArchive(kSix, "killed.uha");
+    bench.writeTestScript(archive);
+    ScopedFault fault("signal:9");
+    frmProgress* w = bench.open(JobKind::Test);
+    ASSERT_TRUE(bench.waitUnloaded(w));
+    EXPECT_EQ(bench.prompter.shown, QStringList({abnormal(archive, "signal 9, Killed")}));
+}
+
+TEST_F(ProgressErrors, ACrashedExtractDoesNotCloseSilently) {
+    bench.makeSource(4, 1000);
+    const QString archive = bench.makeArchive(kSix, "crash.uha");
+    const QString out = bench.places.path() + "/out";
+    QDir().mkpath(out);
+    bench.writeExtractScript(archive, out);
+    ScopedFault fault("signal:11");
+    frmProgress* w = bench.open(JobKind::Extract);
+    ASSERT_TRUE(bench.waitUnloaded(w));
+    EXPECT_EQ(bench.prompter.shown,
+              QStringList({abnormal(archive, "signal 11, Segmentation fault")}));
+}
+
+TEST_F(ProgressErrors, AFullDiskIsAnErrorNotASuccess) {
+    bench.makeSource(4, 1000);
+    const QString archive = bench.places.path() + "/full.uha";
+    bench.writeAddScript(archive);
+    ScopedFault fault("enospc");
+    frmProgress* w = bench.open(JobKind::Add);
+    ASSERT_TRUE(bench.waitUnloaded(w));
+    EXPECT_EQ(bench.prompter.shown, QStringList({"critical:  No space left on device"}));
+}
+
+TEST_F(ProgressErrors, OutputRemovedWhileTheEngineRanIsNotASuccess) {
+    bench.makeSource(6, 1000);
+    const QString archive = bench.makeArchive(kSix, "vanished.uha");
+    bench.writeTestScript(archive);
+    bench.setDelay(150);
+    frmProgress* w = bench.open(JobKind::Test);
+    const QString das = WorkFile(names::ConsoleOutput);
+    // Once the window follows the output, it is removed under the engine.
+    ASSERT_TRUE(WaitFor([&] { return w->consoleState() && w->consoleState()->lineCount > 0; }));
+    ASSERT_TRUE(QFile::remove(das));
+    ASSERT_TRUE(bench.waitUnloaded(w));
+    EXPECT_EQ(bench.prompter.shown,
+              QStringList({abnormal(archive, "its output " + das +
+                                                 " was removed or cut short while it ran")}));
+}
+
+TEST_F(ProgressErrors, ClosingAWindowEndsOnlyItsOwnEngineNotAnotherProgramOfTheSameName) {
+    // An unrelated program named like the engine, started first: it has the lower pid.
+    QDir().mkpath(bench.places.path() + "/elsewhere");
+    const QString stranger = bench.places.path() + "/elsewhere/uharc.exe";
+    QFile::copy("/bin/sleep", stranger);
+    QFile(stranger).setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    QProcess other;
+    other.start(stranger, {"60"});
+    ASSERT_TRUE(other.waitForStarted());
+
+    bench.makeSource(20, 1000);
+    const QString archive = bench.places.path() + "/slow.uha";
+    bench.writeAddScript(archive);
+    bench.setDelay(200);
+    frmProgress* w = bench.open(JobKind::Add);
+    ASSERT_TRUE(WaitFor([&] { return w->consoleState() && w->consoleState()->lineCount > 0; }));
+    const qint64 engine = w->jobProcessId();
+    ASSERT_GT(engine, other.processId());
+    w->close();
+    ASSERT_TRUE(bench.waitUnloaded(w));
+    EXPECT_TRUE(WaitFor([&] { return !ProcessAlive(engine); }));
+    EXPECT_TRUE(ProcessAlive(other.processId()));
+    other.kill();
+    other.waitForFinished();
 }
