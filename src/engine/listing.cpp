@@ -8,12 +8,17 @@
 #include "core/vbtext.h"
 #include "engine/grammar.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSet>
 
 #ifdef Q_OS_UNIX
+#include <cerrno>
+#include <cstring>
+#include <thread>
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -51,7 +56,24 @@ QStringList ReadEngineLines(const QString& path, bool* opened, EngineCodec codec
         *opened = ok;
     if (!ok)
         return {};
-    return SplitEngineLines(DecodeEngineText(file.readAll(), codec));
+    // The real engine ends its log lines with CR LF; other tools may write LF or CR alone, and
+    // each of them ends a line here too.
+    QString text = DecodeEngineText(file.readAll(), codec);
+    QStringList lines;
+    qsizetype start = 0;
+    const qsizetype n = text.size();
+    for (qsizetype i = 0; i < n; ++i) {
+        const QChar c = text[i];
+        if (c != QLatin1Char('\r') && c != QLatin1Char('\n'))
+            continue;
+        lines.append(text.mid(start, i - start));
+        if (c == QLatin1Char('\r') && i + 1 < n && text[i + 1] == QLatin1Char('\n'))
+            ++i;
+        start = i + 1;
+    }
+    if (start < n)
+        lines.append(text.mid(start));
+    return lines;
 }
 
 QString ScanListingErrors(const QStringList& lines) {
@@ -85,6 +107,8 @@ public:
     }
 
     bool rootOk() const { return root_ok_; }
+    // The first failure to create something, in words; empty while all went well.
+    const QString& failure() const { return failure_; }
 
     // Makes the folder path (components separated by "\" or "/") and returns its host path.
     QByteArray makeFolder(const QString& folder) {
@@ -124,6 +148,7 @@ public:
             ::open(path.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW | O_CLOEXEC, 0644);
         if (fd < 0) {
             qCDebug(lcListing) << "could not create placeholder" << path;
+            fail(errno);
             return;
         }
         ::close(fd);
@@ -147,9 +172,14 @@ private:
             return true;
 #ifdef Q_OS_UNIX
         if (::mkdir(path.constData(), 0755) != 0) {
+            const int error = errno;
             struct stat st;
             if (::lstat(path.constData(), &st) != 0 || !S_ISDIR(st.st_mode)) {
                 qCDebug(lcListing) << "not a folder, or a link; left alone:" << path;
+                // A name that stands already (a file and a folder of one name) is the
+                // archive's own oddity; anything else means the tree cannot be made.
+                if (error != EEXIST)
+                    fail(error);
                 return false;
             }
         }
@@ -164,7 +194,14 @@ private:
         return true;
     }
 
+    void fail(int error) {
+        if (failure_.isEmpty())
+            failure_ = QStringLiteral("it cannot create the folder view: %1")
+                           .arg(QString::fromLocal8Bit(std::strerror(error)).toLower());
+    }
+
     QString root_;
+    QString failure_;
     bool root_ok_ = false;
     QSet<QByteArray> known_;
 };
@@ -185,10 +222,49 @@ QString FileCountText(const QString& field) {
     return t.left(n);
 }
 
-bool BuildMirrorTree(const QStringList& lines, const QString& scratchFolder) {
-    MirrorWriter writer(scratchFolder);
-    if (!writer.rootOk())
+QString ListingFailedMessage(const QString& archive, const QString& problem) {
+    return QStringLiteral(
+               "Quovara cannot show the archive\n%1\nbecause %2.\nNothing of it is shown.")
+        .arg(archive, problem);
+}
+
+bool EmptyFolderQuickly(const QString& folder) {
+    const QFileInfo info(folder);
+    if (info.isDir() && !info.isSymLink()) {
+        // A rename is instant whatever the folder holds; the deletion goes on in the background.
+        static int generation = 0;
+        const QString aside =
+            folder +
+            QStringLiteral(".old%1-%2").arg(QCoreApplication::applicationPid()).arg(++generation);
+        if (!QDir().rename(folder, aside)) {
+            qCDebug(lcListing) << "could not move the old mirror tree aside; deleting it here";
+            if (!QDir(folder).removeRecursively())
+                return false;
+        } else {
+            std::thread([aside] {
+                if (!QDir(aside).removeRecursively())
+                    qCDebug(lcListing) << "could not delete the old mirror tree" << aside;
+            }).detach();
+        }
+    } else if (info.isSymLink() && !QFile::remove(folder)) {
         return false;
+    }
+    MirrorWriter fresh(folder);
+    return fresh.rootOk();
+}
+
+bool BuildMirrorTree(const QStringList& lines, const QString& scratchFolder, QString* problem) {
+    MirrorWriter writer(scratchFolder);
+    auto failWith = [&](const QString& why) {
+        if (problem)
+            *problem = why;
+        // No partial tree is ever shown.
+        if (!QDir(scratchFolder).removeRecursively() || !QDir().mkdir(scratchFolder))
+            qCDebug(lcListing) << "could not empty the mirror tree after a failure";
+        return false;
+    };
+    if (!writer.rootOk())
+        return failWith(QStringLiteral("it cannot create the folder view %1").arg(scratchFolder));
     const QString separator = ListingSeparator();
     qsizetype next = 9; // nine header lines are skipped unread
     QString name;
@@ -197,7 +273,7 @@ bool BuildMirrorTree(const QStringList& lines, const QString& scratchFolder) {
     while (name != separator) {
         if (next >= lines.size()) {
             qCDebug(lcListing) << "listing ends before its separator line";
-            return false;
+            return failWith(QStringLiteral("the engine's listing is incomplete"));
         }
         name = EntryName(lines[next]);
         next += 2;
@@ -208,6 +284,8 @@ bool BuildMirrorTree(const QStringList& lines, const QString& scratchFolder) {
             folder.clear(); // an entry at a drive's root ("C:\a.txt") lands at the root
         const QString file = sGiveFile(name);
         writer.placeholder(writer.makeFolder(folder), file);
+        if (!writer.failure().isEmpty())
+            return failWith(writer.failure());
     }
     const QString artefact = QDir(scratchFolder).filePath(separator);
     if (!QFile::remove(artefact))
@@ -270,6 +348,8 @@ void ArchiveLister::Batch() {
             qCDebug(lcListing) << "could not delete" << log;
     }
     startError_.clear();
+    lines_.clear();
+    totals_.reset();
     const QString script = WorkFile(names::ListScript);
     QString refused;
     if (!WriteJobScript(script, Preamble::List,
@@ -288,12 +368,14 @@ void ArchiveLister::Batch() {
         listing_.status = ListStatus::Failed;
         return;
     }
+    // The log is read and decoded once; the error scan, the mirror tree and the totals all
+    // work on these lines.
+    lines_ = ReadEngineLines(log, nullptr, ActiveEngineCodec());
     listing_.status = SpecificaErrore(Errore());
 }
 
 QString ArchiveLister::Errore() const {
-    return ScanListingErrors(
-        ReadEngineLines(WorkFile(names::ListLog), nullptr, ActiveEngineCodec()));
+    return ScanListingErrors(lines_);
 }
 
 ListStatus ArchiveLister::SpecificaErrore(const QString& message) {
@@ -338,15 +420,28 @@ ListStatus ArchiveLister::FileInArchivio(const QString& selectedPath) {
             listing_.password.clear();
             UndoEngineSwitch(switch_, ProgramFolder());
             return listing_.status;
-        case ListStatus::Opened:
-            if (!BuildMirrorTree(
-                    ReadEngineLines(WorkFile(names::ListLog), nullptr, ActiveEngineCodec()),
-                    ScratchFolder())) {
+        case ListStatus::Opened: {
+            // One archive at a time: the previous archive's tree goes first.
+            QString problem;
+            if (!EmptyFolderQuickly(ScratchFolder()))
+                problem = QStringLiteral("the previous archive's folder view cannot be removed");
+            else if (BuildMirrorTree(lines_, ScratchFolder(), &problem)) {
+                totals_ = ReadTotals(lines_);
+                if (!totals_) {
+                    problem = QStringLiteral("the engine's listing is incomplete");
+                    EmptyFolderQuickly(ScratchFolder());
+                }
+            }
+            // The lines are not needed any more.
+            lines_ = QStringList();
+            if (!problem.isEmpty()) {
+                prompter_->critical(ListingFailedMessage(selectedPath, problem));
                 listing_.status = ListStatus::Failed;
                 listing_.password.clear();
                 UndoEngineSwitch(switch_, ProgramFolder());
             }
             return listing_.status;
+        }
         }
     }
 }
@@ -370,7 +465,7 @@ bool ArchiveLister::OpenSelectedArchive(const QString& path) {
 std::optional<ArchiveTotals> ArchiveLister::Info() const {
     if (listing_.status == ListStatus::Failed || listing_.status == ListStatus::EngineSwitched)
         return std::nullopt;
-    return ReadTotals(ReadEngineLines(WorkFile(names::ListLog), nullptr, ActiveEngineCodec()));
+    return totals_;
 }
 
 } // namespace quovara

@@ -74,9 +74,20 @@ QString EntryName(const QString& line);
 QString FileCountText(const QString& field);
 
 // Builds the mirror tree from the log's lines under `scratchFolder`. False when the log ends
-// before the separator line. No entry name ("..", drives, leading separators, links) can make
-// it create or touch anything outside `scratchFolder`.
-bool BuildMirrorTree(const QStringList& lines, const QString& scratchFolder);
+// before the separator line or a folder or placeholder cannot be created; `problem` (when
+// given) then says why in words for the user, and what was made is removed again, so that no
+// partial tree is left. No entry name ("..", drives, leading separators, links) can make it
+// create or touch anything outside `scratchFolder`.
+bool BuildMirrorTree(const QStringList& lines, const QString& scratchFolder,
+                     QString* problem = nullptr);
+
+// Empties `folder` at once without waiting for the deletion: its content is moved aside (a
+// rename) and deleted in the background; the folder itself is made again, empty. False when it
+// could not be emptied.
+bool EmptyFolderQuickly(const QString& folder);
+
+// The message for an archive whose listing cannot be shown.
+QString ListingFailedMessage(const QString& archive, const QString& problem);
 
 // The totals of the log's lines; empty when the log has no separator and totals.
 std::optional<ArchiveTotals> ReadTotals(const QStringList& lines);
@@ -109,6 +120,9 @@ public:
     // ScratchFolder, lists, and lists again with the other engine after a switch.
     bool OpenSelectedArchive(const QString& path);
 
+    // The lines of the last listing log, read and decoded once per listing.
+    const QStringList& logLines() const { return lines_; }
+
     // Why the last list job could not be started (empty when it started).
     QString startError() const { return startError_; }
 
@@ -117,6 +131,8 @@ private:
     EngineSwitchState& switch_;
     ArchiveListing listing_;
     QString startError_;
+    QStringList lines_;
+    std::optional<ArchiveTotals> totals_;
 };
 
 } // namespace quovara

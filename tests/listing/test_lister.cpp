@@ -134,12 +134,58 @@ TEST_F(ListerTest, MissingLogFailsWithoutAMessage) {
     EXPECT_TRUE(prompter_.shown.isEmpty());
 }
 
-TEST_F(ListerTest, LogEndingBeforeItsSeparatorFailsWithoutAMessage) {
+TEST_F(ListerTest, LogEndingBeforeItsSeparatorSaysTheListingIsIncompleteAndShowsNothing) {
     writeExecutable(engine("uharc.exe"), fakeEngine("SIX"));
     qputenv("QV_LOG_SIX_NONE", sample("list-truncated.log").toLocal8Bit());
     ArchiveLister lister(prompter_, switch_);
     EXPECT_EQ(lister.FileInArchivio("/data/a.uha"), ListStatus::Failed);
-    EXPECT_TRUE(prompter_.shown.isEmpty());
+    EXPECT_EQ(prompter_.shown,
+              QStringList({"critical: Quovara cannot show the archive\n/data/a.uha\nbecause the "
+                           "engine's listing is incomplete.\nNothing of it is shown."}));
+    EXPECT_TRUE(scratchFiles().isEmpty());
+    EXPECT_FALSE(lister.Info().has_value());
+}
+
+TEST_F(ListerTest, ALogCutAfterItsSeparatorIsIncompleteToo) {
+    QByteArray log = readAll(sample("list-alz3.log"));
+    log.truncate(log.indexOf("-----") + 81); // the separator line and its line end only
+    const QString cut = places_.path() + "/cut.log";
+    writeFile(cut, log);
+    writeExecutable(engine("uharc.exe"), fakeEngine("SIX"));
+    qputenv("QV_LOG_SIX_NONE", cut.toLocal8Bit());
+    ArchiveLister lister(prompter_, switch_);
+    EXPECT_EQ(lister.FileInArchivio("/data/a.uha"), ListStatus::Failed);
+    ASSERT_EQ(prompter_.shown.size(), 1);
+    EXPECT_TRUE(prompter_.shown[0].contains("because the engine's listing is incomplete."));
+    EXPECT_TRUE(scratchFiles().isEmpty());
+}
+
+TEST_F(ListerTest, LogsWithLfOrCrAloneAreReadLikeCrLf) {
+    const QByteArray crlf = readAll(sample("list-alz3.log"));
+    for (const QByteArray& end : {QByteArray("\n"), QByteArray("\r")}) {
+        const QString log = places_.path() + "/other-ends.log";
+        writeFile(log, QByteArray(crlf).replace("\r\n", end));
+        writeExecutable(engine("uharc.exe"), fakeEngine("SIX"));
+        qputenv("QV_LOG_SIX_NONE", log.toLocal8Bit());
+        ArchiveLister lister(prompter_, switch_);
+        EXPECT_EQ(lister.FileInArchivio("/data/a.uha"), ListStatus::Opened);
+        EXPECT_EQ(scratchFiles().size(), 8) << scratchFiles().join(',').toStdString();
+        ASSERT_TRUE(lister.Info().has_value());
+        EXPECT_EQ(lister.Info()->fileCountText, "8");
+        EXPECT_TRUE(prompter_.shown.isEmpty());
+    }
+}
+
+TEST_F(ListerTest, ASecondArchiveShowsOnlyItsOwnEntries) {
+    writeExecutable(engine("uharc.exe"), fakeEngine("SIX"));
+    qputenv("QV_LOG_SIX_NONE", sample("list-alz3.log").toLocal8Bit());
+    ArchiveLister lister(prompter_, switch_);
+    ASSERT_EQ(lister.FileInArchivio("/data/a.uha"), ListStatus::Opened);
+    ASSERT_EQ(scratchFiles().size(), 8);
+    qputenv("QV_LOG_SIX_NONE", sample("list-one-file.log").toLocal8Bit());
+    ASSERT_EQ(lister.FileInArchivio("/data/b.uha"), ListStatus::Opened);
+    EXPECT_EQ(scratchFiles().size(), 1) << scratchFiles().join(',').toStdString();
+    EXPECT_EQ(lister.Info()->fileCountText, "1");
 }
 
 TEST_F(ListerTest, MissingEngineIsAFailedStartNotAHang) {

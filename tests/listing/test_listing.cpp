@@ -6,6 +6,9 @@
 #include "engine/listing.h"
 
 #include <QDirIterator>
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+#include <QThread>
 #include <gtest/gtest.h>
 
 using namespace quovara;
@@ -294,4 +297,40 @@ TEST(BuildMirrorTree, OnlyBlanksAreTrimmedFromAnEntry) {
           << "";
     ASSERT_TRUE(BuildMirrorTree(lines, dir.filePath("s")));
     EXPECT_EQ(filesBelow(dir.filePath("s")), QStringList({"name\u00a0", "tab\t"}));
+}
+
+TEST(BuildMirrorTree, AFolderViewThatCannotBeCreatedSaysWhy) {
+    QTemporaryDir dir;
+    // A file stands where the folder view's parent belongs: nothing can be created below it.
+    QFile f(dir.filePath("blocked"));
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.close();
+    QString problem;
+    EXPECT_FALSE(
+        BuildMirrorTree(sampleLines("list-alz3.log"), dir.filePath("blocked/scratch"), &problem));
+    EXPECT_EQ(problem, "it cannot create the folder view " + dir.filePath("blocked/scratch"));
+    EXPECT_EQ(ListingFailedMessage("/a/b.uha", problem),
+              "Quovara cannot show the archive\n/a/b.uha\nbecause it cannot create the folder "
+              "view " +
+                  dir.filePath("blocked/scratch") + ".\nNothing of it is shown.");
+}
+
+TEST(EmptyFolderQuickly, TheFolderIsEmptyAtOnceAndTheOldTreeGoesInTheBackground) {
+    QTemporaryDir dir;
+    const QString folder = dir.filePath("Tessimo");
+    QDir().mkpath(folder + "/a/b");
+    QFile f(folder + "/a/b/c.txt");
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.close();
+    ASSERT_TRUE(EmptyFolderQuickly(folder));
+    EXPECT_TRUE(QFileInfo(folder).isDir());
+    EXPECT_TRUE(QDir(folder).isEmpty());
+    // The moved-aside tree disappears by itself.
+    QElapsedTimer t;
+    t.start();
+    while (QDir(dir.path()).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size() > 1 &&
+           t.elapsed() < 5000)
+        QThread::msleep(10);
+    EXPECT_EQ(QDir(dir.path()).entryList(QDir::Dirs | QDir::NoDotAndDotDot),
+              QStringList({"Tessimo"}));
 }

@@ -622,3 +622,27 @@ TEST_F(MainWindow, AnArchiveNameWithALineBreakIsRefusedAndNothingRuns) {
     EXPECT_FALSE(QFileInfo::exists(WorkFile(names::ListScript)));
     EXPECT_FALSE(archiveLayout());
 }
+
+TEST_F(MainWindow, OpeningASecondArchiveShowsAndSearchesOnlyItsOwnEntries) {
+    const QString first = makeArchive(kSix, "first.uha");
+    QDir(src_).removeRecursively();
+    QDir().mkpath(src_ + "/only");
+    writeFile(src_ + "/only/b-file.txt", "b");
+    const QString second = makeArchive(kSix, "second.uha");
+    ASSERT_TRUE(window_.Form_Load(first));
+    show();
+    EXPECT_TRUE(QFileInfo(ScratchFolder() + "/a/b/c.txt").isFile());
+    window_.OpenItem(second);
+    QStringList files;
+    QDirIterator it(ScratchFolder(), QDir::Files, QDirIterator::Subdirectories);
+    while (it.hasNext())
+        files << QDir(ScratchFolder()).relativeFilePath(it.next());
+    EXPECT_EQ(files, QStringList({"only/b-file.txt"}));
+    EXPECT_EQ(text("NomeAr"), "Files: 1");
+    QTest::keyClicks(child<QLineEdit>("TxtCerca"), "*.txt");
+    QTest::keyClick(child<QLineEdit>("TxtCerca"), Qt::Key_Return);
+    ASSERT_TRUE(waitFor([&] { return text("Stato") == "Quovara is ready"; }));
+    auto* found = child<QTreeWidget>("Trovati");
+    ASSERT_EQ(found->topLevelItemCount(), 1);
+    EXPECT_EQ(found->topLevelItem(0)->text(0), "b-file.txt");
+}
