@@ -1,6 +1,7 @@
 // Quovara: start-up and command line. The main window does the rest.
 #include "core/engineinstall.h"
 #include "core/launcherserver.h"
+#include "core/processcontrol.h"
 #include "ui/browser/commandline.h"
 #include "ui/browser/frmapri.h"
 
@@ -27,6 +28,8 @@ int main(int argc, char** argv) {
     // A Qt resource static library needs its resources pulled in explicitly.
     Q_INIT_RESOURCE(quovara);
 
+    // An engine must never outlive the program, also when it is ended by a signal.
+    quovara::EndJobsOnTerminationSignals();
     quovara::frmApri window;
     if (!window.Form_Load(quovara::CommandLineText(app.arguments().mid(1)))) {
         quovara::LauncherServer::Shutdown();

@@ -1,15 +1,19 @@
 #include "processcontrol.h"
 
+#include "launcherserver.h"
 #include "logging.h"
 #include "prompter.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QList>
 #include <QSet>
+#include <QSocketNotifier>
 #include <algorithm>
 
 #ifdef Q_OS_UNIX
 #include <dirent.h>
+#include <fcntl.h>
 #include <signal.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -67,6 +71,62 @@ void UnregisterJobGroup(qint64 sessionId) {
 
 bool IsJobGroup(qint64 sessionId) {
     return jobGroups().contains(sessionId);
+}
+
+int EndAllJobs() {
+    int ended = 0;
+#ifdef Q_OS_UNIX
+    for (const qint64 group : jobGroups()) {
+        if (::kill(-static_cast<pid_t>(group), SIGKILL) == 0)
+            ++ended;
+        else
+            qCDebug(lcRunner) << "could not end the job session" << group;
+    }
+#endif
+    return ended;
+}
+
+#ifdef Q_OS_UNIX
+namespace {
+int signalPipe[2] = {-1, -1};
+
+void onTerminationSignal(int signal) {
+    // Only what is safe in a signal handler: the number goes to the event loop's side.
+    const char byte = char(signal);
+    if (::write(signalPipe[1], &byte, 1) != 1)
+        ::_exit(128 + signal);
+}
+} // namespace
+#endif
+
+void EndJobsOnTerminationSignals() {
+#ifdef Q_OS_UNIX
+    if (signalPipe[0] >= 0)
+        return;
+    if (::pipe2(signalPipe, O_CLOEXEC | O_NONBLOCK) != 0) {
+        qCDebug(lcRunner) << "no pipe for the termination signals";
+        return;
+    }
+    auto* notifier =
+        new QSocketNotifier(signalPipe[0], QSocketNotifier::Read, QCoreApplication::instance());
+    QObject::connect(notifier, &QSocketNotifier::activated, [] {
+        char byte = 0;
+        if (::read(signalPipe[0], &byte, 1) != 1)
+            return;
+        const int signal = static_cast<unsigned char>(byte);
+        qCDebug(lcRunner) << "ended by signal" << signal << "; ending the jobs first";
+        EndAllJobs();
+        LauncherServer::Shutdown();
+        ::_exit(128 + signal);
+    });
+    struct sigaction action {};
+    action.sa_handler = onTerminationSignal;
+    sigemptyset(&action.sa_mask);
+    action.sa_flags = SA_RESTART;
+    for (int s : {SIGTERM, SIGINT, SIGHUP})
+        if (::sigaction(s, &action, nullptr) != 0)
+            qCDebug(lcRunner) << "could not watch signal" << s;
+#endif
 }
 
 qint64 TerminateProcessByName(const QString& name, Prompter* prompter) {

@@ -21,6 +21,13 @@ qint64 TerminateProcessByName(const QString& name, Prompter* prompter = nullptr)
 void RegisterJobGroup(qint64 sessionId);
 void UnregisterJobGroup(qint64 sessionId);
 bool IsJobGroup(qint64 sessionId);
+// Ends every job this program has started and not yet forgotten, each with its whole session
+// (used when the program itself is ended). The number of sessions signalled.
+int EndAllJobs();
+
+// From now on SIGTERM, SIGINT and SIGHUP end every job of this program (its engines and the
+// launcher's children) before the program ends with them, so that no engine is left running.
+void EndJobsOnTerminationSignals();
 
 // Puts the program's own process at the lowest scheduling priority (nice 19), so that it and
 // the jobs it starts yield to every other work on the machine.

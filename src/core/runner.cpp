@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QEventLoop>
+#include <QList>
 #include <QPointer>
 #include <QTime>
 #include <QTimer>
@@ -21,6 +22,14 @@ bool DeadlineReached(qint64 now, qint64 start, qint64 deadline, bool wrapped) {
         return false;
     return !wrapped || now < start;
 }
+
+namespace {
+// The jobs that a RunAndWait call is waiting for now.
+QList<QPointer<JobProcess>>& waitedJobs() {
+    static QList<QPointer<JobProcess>> jobs;
+    return jobs;
+}
+} // namespace
 
 bool RunAndWait(const QString& scriptPath, qint16 timeoutSeconds, const QString& workingFolder,
                 const std::function<qint64()>& clock, QString* startError) {
@@ -46,6 +55,7 @@ bool RunAndWait(const QString& scriptPath, qint16 timeoutSeconds, const QString&
         return false;
     }
     QPointer<JobProcess> guard(job);
+    waitedJobs().append(guard);
     QEventLoop loop;
     QObject::connect(job, &JobProcess::finished, &loop, &QEventLoop::quit);
     QObject::connect(job, &JobProcess::finished, job, &QObject::deleteLater);
@@ -61,7 +71,20 @@ bool RunAndWait(const QString& scriptPath, qint16 timeoutSeconds, const QString&
     }
     if (guard && guard->isRunning())
         loop.exec();
+    waitedJobs().removeAll(guard);
+    waitedJobs().removeAll(QPointer<JobProcess>());
     return true;
+}
+
+int StopWaitedJobs() {
+    int stopped = 0;
+    for (const QPointer<JobProcess>& job : waitedJobs()) {
+        if (job && job->isRunning()) {
+            job->kill();
+            ++stopped;
+        }
+    }
+    return stopped;
 }
 
 } // namespace quovara

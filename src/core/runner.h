@@ -23,4 +23,8 @@ bool RunAndWait(const QString& scriptPath, qint16 timeoutSeconds,
                 const QString& workingFolder = QString(), const std::function<qint64()>& clock = {},
                 QString* startError = nullptr);
 
+// Ends the jobs that RunAndWait is waiting for now (the user stopped the wait); each wait then
+// returns at once. The number of jobs ended.
+int StopWaitedJobs();
+
 } // namespace quovara

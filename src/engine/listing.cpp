@@ -363,6 +363,11 @@ void ArchiveLister::Batch() {
     }
     if (!RunAndWait(script, 0, WorkFolder(), {}, &startError_))
         qCDebug(lcListing) << "list job not started:" << startError_;
+    if (cancelled_) {
+        qCDebug(lcListing) << "listing stopped by the user";
+        listing_.status = ListStatus::Failed;
+        return;
+    }
     if (!QFileInfo::exists(log)) {
         // No log: the engine did not run. The listing fails without a message.
         listing_.status = ListStatus::Failed;
@@ -399,7 +404,13 @@ ListStatus ArchiveLister::SpecificaErrore(const QString& message) {
     return ListStatus::Opened;
 }
 
+void ArchiveLister::Cancel() {
+    cancelled_ = true;
+    StopWaitedJobs();
+}
+
 ListStatus ArchiveLister::FileInArchivio(const QString& selectedPath) {
+    cancelled_ = false;
     for (;;) {
         QFile placeholder(WorkFile(names::Placeholder));
         if (!placeholder.open(QIODevice::WriteOnly | QIODevice::Truncate))

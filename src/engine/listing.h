@@ -120,6 +120,11 @@ public:
     // ScratchFolder, lists, and lists again with the other engine after a switch.
     bool OpenSelectedArchive(const QString& path);
 
+    // Stops the listing under way (the user pressed Escape or closed the window): its job ends
+    // at once, and the listing fails without a message.
+    void Cancel();
+    bool cancelled() const { return cancelled_; }
+
     // The lines of the last listing log, read and decoded once per listing.
     const QStringList& logLines() const { return lines_; }
 
@@ -133,6 +138,7 @@ private:
     QString startError_;
     QStringList lines_;
     std::optional<ArchiveTotals> totals_;
+    bool cancelled_ = false;
 };
 
 } // namespace quovara

@@ -11,6 +11,7 @@
 #include "ui/browser/frmapri.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QDirIterator>
@@ -22,10 +23,13 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
 #include <QTreeWidget>
 #include <functional>
 #include <gtest/gtest.h>
+
+#include <csignal>
 
 using namespace quovara;
 using namespace quovara::testing;
@@ -645,4 +649,103 @@ TEST_F(MainWindow, OpeningASecondArchiveShowsAndSearchesOnlyItsOwnEntries) {
     auto* found = child<QTreeWidget>("Trovati");
     ASSERT_EQ(found->topLevelItemCount(), 1);
     EXPECT_EQ(found->topLevelItem(0)->text(0), "b-file.txt");
+}
+
+namespace {
+
+// An engine that never ends while it lists, for the jobs started while this lives.
+class HangingEngine {
+public:
+    HangingEngine() { qputenv("QUOVARA_STANDIN_FAULT", "hang"); }
+    ~HangingEngine() { qunsetenv("QUOVARA_STANDIN_FAULT"); }
+};
+
+// The pid of the running stand-in list job of this test's program folder, or 0.
+qint64 runningListJob(const QString& programFolder) {
+    const QDir proc("/proc");
+    for (const QString& pid : proc.entryList(QDir::Dirs)) {
+        bool number = false;
+        const qint64 id = pid.toLongLong(&number);
+        if (!number)
+            continue;
+        QFile cmdline("/proc/" + pid + "/cmdline");
+        if (cmdline.open(QIODevice::ReadOnly) &&
+            cmdline.readAll().startsWith((programFolder + "/uharc.exe").toLocal8Bit()))
+            return id;
+    }
+    return 0;
+}
+
+} // namespace
+
+TEST_F(MainWindow, AnArchiveFromTheCommandLineIsReadWithTheWindowShownAndEscapeStopsIt) {
+    const QString archive = makeArchive(kSix, "endless.uha");
+    HangingEngine hang;
+    QString titleWhileReading, stateWhileReading;
+    bool visibleWhileReading = false;
+    qint64 engine = 0;
+    QTimer::singleShot(0, [&] {
+        waitFor([&] { return (engine = runningListJob(places_.programFolder())) != 0; });
+        titleWhileReading = window_.windowTitle();
+        stateWhileReading = text("Stato") + "|" + text("Consiglio");
+        visibleWhileReading = window_.isVisible();
+        window_.activateWindow();
+        if (!QTest::qWaitForWindowActive(&window_))
+            ADD_FAILURE() << "the window never became active";
+        QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : &window_,
+                        Qt::Key_Escape);
+    });
+    QElapsedTimer t;
+    t.start();
+    EXPECT_TRUE(window_.Form_Load(archive));
+    EXPECT_LT(t.elapsed(), 10000);
+    EXPECT_TRUE(visibleWhileReading);
+    EXPECT_EQ(titleWhileReading,
+              QString::fromUtf8("Reading endless.uha … — Quovara — demonstration engine"));
+    EXPECT_EQ(stateWhileReading, "Quovara is reading the archive|Press Escape to stop");
+    ASSERT_GT(engine, 0);
+    EXPECT_TRUE(waitFor([&] { return ::kill(pid_t(engine), 0) != 0; }));
+    // Stopped by the user: no message, no archive layout, the title as before.
+    EXPECT_TRUE(prompter_.shown.isEmpty()) << prompter_.shown.join('|').toStdString();
+    EXPECT_FALSE(archiveLayout());
+    EXPECT_EQ(window_.windowTitle(), QString::fromUtf8("Quovara — demonstration engine"));
+}
+
+TEST_F(MainWindow, ClosingTheWindowWhileAnArchiveIsReadEndsTheEngineAndTheProgram) {
+    const QString archive = makeArchive(kSix, "endless.uha");
+    HangingEngine hang;
+    qint64 engine = 0;
+    QTimer::singleShot(0, [&] {
+        waitFor([&] { return (engine = runningListJob(places_.programFolder())) != 0; });
+        window_.close();
+    });
+    EXPECT_FALSE(window_.Form_Load(archive));
+    ASSERT_GT(engine, 0);
+    EXPECT_TRUE(waitFor([&] { return ::kill(pid_t(engine), 0) != 0; }));
+    EXPECT_TRUE(prompter_.shown.isEmpty()) << prompter_.shown.join('|').toStdString();
+}
+
+TEST_F(MainWindow, EndingTheProgramWithASignalEndsTheEngineItWasWaitingFor) {
+    const QString archive = makeArchive(kSix, "endless.uha");
+    for (const int signal : {SIGTERM, SIGINT}) {
+        QProcess program;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert("QUOVARA_STANDIN_FAULT", "hang");
+        env.insert("QT_QPA_PLATFORM", "offscreen");
+        // A runtime folder of its own: its single-copy lock is nobody else's.
+        const QString runtime = places_.path() + "/run";
+        QDir().mkpath(runtime);
+        QFile::setPermissions(runtime, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        env.insert("XDG_RUNTIME_DIR", runtime);
+        program.setProcessEnvironment(env);
+        program.start(QUOVARA_PROGRAM, {archive});
+        ASSERT_TRUE(program.waitForStarted());
+        qint64 engine = 0;
+        ASSERT_TRUE(
+            waitFor([&] { return (engine = runningListJob(places_.programFolder())) != 0; }));
+        ::kill(pid_t(program.processId()), signal);
+        EXPECT_TRUE(program.waitForFinished(10000));
+        EXPECT_EQ(program.exitCode(), 128 + signal);
+        EXPECT_TRUE(waitFor([&] { return ::kill(pid_t(engine), 0) != 0; })) << signal;
+    }
 }

@@ -30,6 +30,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
+#include <QShortcut>
 #include <QToolButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -241,6 +242,13 @@ frmApri::frmApri(QWidget* parent)
     });
     connect(&search_, &ArchiveSearch::finished, this,
             [this] { setStatus(apri::Ready, apri::SelectAction); });
+    // Escape stops the reading of an archive (only while one is read).
+    stopReading_ = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+    stopReading_->setEnabled(false);
+    connect(stopReading_, &QShortcut::activated, this, [this] {
+        if (listingNow_)
+            lister_.Cancel();
+    });
 }
 
 frmApri::~frmApri() = default;
@@ -268,7 +276,12 @@ bool frmApri::Form_Load(const QString& commandLine) {
     switch (request.kind) {
     case CommandRequest::Archive:
         pointBrowserAt(request.path);
+        // The window is there before the archive is read, so the reading can be seen and
+        // stopped.
+        show();
         OpenItem(request.path);
+        if (closedWhileListing_)
+            return false;
         break;
     case CommandRequest::Extract:
         commandLineJob_ = true;
@@ -347,7 +360,26 @@ void frmApri::OpenSelectedItem() {
 void frmApri::OpenItem(const QString& path) {
     if (path.isEmpty())
         return;
-    if (!lister_.OpenSelectedArchive(path)) {
+    // While the archive is read the window says so, and Escape or closing it stops the reading.
+    const QString title = windowTitle();
+    const bool archiveName = QFileInfo(path).suffix() == QLatin1String("uha");
+    if (archiveName) {
+        listingNow_ = true;
+        stopReading_->setEnabled(true);
+        setWindowTitle(QString::fromUtf8(apri::ReadingTitle).arg(QFileInfo(path).fileName()) +
+                       QStringLiteral(" \u2014 ") + title);
+        setStatus(apri::Reading, apri::EscapeStops);
+    }
+    const bool listed = lister_.OpenSelectedArchive(path);
+    if (archiveName) {
+        listingNow_ = false;
+        stopReading_->setEnabled(false);
+        setWindowTitle(title);
+        setStatus(apri::Ready, apri::SelectAction);
+    }
+    if (listed && lister_.cancelled())
+        return;
+    if (!listed) {
         // Not an archive: the desktop's own action for the item.
         ShellOpen(path);
         return;
@@ -587,6 +619,10 @@ void frmApri::relistArchive() {
 }
 
 void frmApri::closeEvent(QCloseEvent* event) {
+    if (listingNow_) {
+        closedWhileListing_ = true;
+        lister_.Cancel();
+    }
     stopSearch();
     UndoEngineSwitch(switch_, ProgramFolder());
     QMainWindow::closeEvent(event);

@@ -11,6 +11,7 @@
 
 #include <QMainWindow>
 
+class QShortcut;
 class QComboBox;
 class QLabel;
 class QLineEdit;
@@ -38,6 +39,10 @@ inline constexpr char Ready[] = "Quovara is ready";
 inline constexpr char SelectAction[] = "Select an action";
 inline constexpr char Skipping[] = "Quovara is skipping";
 inline constexpr char PleaseWait[] = "Please wait ...";
+// While an archive is listed: the state texts and the window title (%1: the archive's name).
+inline constexpr char Reading[] = "Quovara is reading the archive";
+inline constexpr char EscapeStops[] = "Press Escape to stop";
+inline constexpr char ReadingTitle[] = "Reading %1 \u2026";
 // The version page: the product's web server, a fixed path and a fixed query.
 inline constexpr char VersionPage[] =
     "http://quovara.example.org/version.php?giorno=1&mese=1&anno=2006";
@@ -99,6 +104,11 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    // A listing is under way (Escape or closing the window stops it).
+    bool listingNow_ = false;
+    bool closedWhileListing_ = false;
+    ::QShortcut* stopReading_ = nullptr;
+
     void buildToolbar();
     void buildTaskPane();
     void pointBrowserAt(const QString& path);
