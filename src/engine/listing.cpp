@@ -293,6 +293,108 @@ bool BuildMirrorTree(const QStringList& lines, const QString& scratchFolder, QSt
     return true;
 }
 
+namespace {
+
+// Where a placeholder for the entry `name` goes: its folder (drive and drive root dropped) and
+// file name.
+void placeEntry(MirrorWriter& writer, const QString& name) {
+    QString folder = sGivePath(name);
+    if (Tipo(folder) == 1)
+        folder = folder.mid(2);
+    else if (folder.size() == 2 && folder[1] == QLatin1Char(':'))
+        folder.clear(); // an entry at a drive's root ("C:\a.txt") lands at the root
+    writer.placeholder(writer.makeFolder(folder), sGiveFile(name));
+}
+
+constexpr qsizetype kLongestLine = 64 * 1024;
+constexpr qint64 kChunk = 256 * 1024;
+
+} // namespace
+
+ListingPass ReadListingLog(const QString& logPath, EngineCodec codec, const QString& treeFolder) {
+    ListingPass pass;
+    QFile file(logPath);
+    if (!file.open(QIODevice::ReadOnly))
+        return pass;
+    pass.opened = true;
+    MirrorWriter writer(treeFolder);
+    if (!writer.rootOk())
+        pass.treeProblem = QStringLiteral("it cannot create the folder view %1").arg(treeFolder);
+    const QString separator = ListingSeparator();
+    bool versionRequest = false;
+    bool separatorSeen = false;
+    QStringList totalsLines;
+    QByteArray line;
+    bool lastWasCr = false;
+
+    auto takeLine = [&](const QByteArray& bytes) {
+        const QString text = DecodeEngineText(bytes, codec);
+        ++pass.lines;
+        if (!versionRequest && bytes.startsWith("ERROR:")) {
+            const QString m = ScanListingErrors(QStringList{text});
+            if (!m.isEmpty()) {
+                pass.error = m;
+                versionRequest = Like(m, QStringLiteral("*--> use UHARC version*"));
+            }
+        }
+        if (separatorSeen) {
+            if (totalsLines.size() < 2)
+                totalsLines << text;
+            return;
+        }
+        // Nine header lines, then an entry line and its detail line each.
+        if (pass.lines <= 9 || (pass.lines - 10) % 2 != 0)
+            return;
+        const QString name = EntryName(text);
+        if (name == separator) {
+            separatorSeen = true;
+            return;
+        }
+        if (pass.treeProblem.isEmpty()) {
+            placeEntry(writer, name);
+            if (!writer.failure().isEmpty())
+                pass.treeProblem = writer.failure();
+        }
+    };
+
+    QByteArray chunk;
+    for (;;) {
+        chunk = file.read(kChunk);
+        if (chunk.isEmpty())
+            break;
+        for (const char c : chunk) {
+            if (c == '\n' && lastWasCr) {
+                lastWasCr = false;
+                continue; // the LF of a CR LF
+            }
+            lastWasCr = c == '\r';
+            if (c == '\r' || c == '\n') {
+                takeLine(line);
+                line.clear();
+            } else if (line.size() < kLongestLine) {
+                line.append(c);
+            }
+        }
+    }
+    if (file.error() != QFileDevice::NoError)
+        qCDebug(lcListing) << "reading the listing log failed:" << file.errorString();
+    if (!line.isEmpty())
+        takeLine(line);
+
+    if (!separatorSeen) {
+        if (pass.treeProblem.isEmpty())
+            pass.treeProblem = QStringLiteral("the engine's listing is incomplete");
+    } else if (pass.treeProblem.isEmpty()) {
+        pass.treeComplete = true;
+    }
+    if (separatorSeen) {
+        QStringList tail(9);
+        tail << separator << totalsLines;
+        pass.totals = ReadTotals(tail);
+    }
+    return pass;
+}
+
 std::optional<ArchiveTotals> ReadTotals(const QStringList& lines) {
     const QString separator = ListingSeparator();
     qsizetype i = 9;
@@ -348,8 +450,7 @@ void ArchiveLister::Batch() {
             qCDebug(lcListing) << "could not delete" << log;
     }
     startError_.clear();
-    lines_.clear();
-    totals_.reset();
+    pass_ = ListingPass();
     const QString script = WorkFile(names::ListScript);
     QString refused;
     if (!WriteJobScript(script, Preamble::List,
@@ -373,14 +474,17 @@ void ArchiveLister::Batch() {
         listing_.status = ListStatus::Failed;
         return;
     }
-    // The log is read and decoded once; the error scan, the mirror tree and the totals all
-    // work on these lines.
-    lines_ = ReadEngineLines(log, nullptr, ActiveEngineCodec());
+    // The log is read once, in pieces: the error scan, the new mirror tree (built aside, so the
+    // shown one stays until the new one is complete) and the totals in one pass.
+    const QString staging = ScratchFolder() + QStringLiteral(".new");
+    if (!EmptyFolderQuickly(staging))
+        qCDebug(lcListing) << "could not empty" << staging;
+    pass_ = ReadListingLog(log, ActiveEngineCodec(), staging);
     listing_.status = SpecificaErrore(Errore());
 }
 
 QString ArchiveLister::Errore() const {
-    return ScanListingErrors(lines_);
+    return pass_.error;
 }
 
 ListStatus ArchiveLister::SpecificaErrore(const QString& message) {
@@ -432,20 +536,21 @@ ListStatus ArchiveLister::FileInArchivio(const QString& selectedPath) {
             UndoEngineSwitch(switch_, ProgramFolder());
             return listing_.status;
         case ListStatus::Opened: {
-            // One archive at a time: the previous archive's tree goes first.
-            QString problem;
-            if (!EmptyFolderQuickly(ScratchFolder()))
-                problem = QStringLiteral("the previous archive's folder view cannot be removed");
-            else if (BuildMirrorTree(lines_, ScratchFolder(), &problem)) {
-                totals_ = ReadTotals(lines_);
-                if (!totals_) {
-                    problem = QStringLiteral("the engine's listing is incomplete");
-                    EmptyFolderQuickly(ScratchFolder());
-                }
+            // One archive at a time: the new tree, complete, takes the place of the old one,
+            // which is deleted in the background.
+            const QString staging = ScratchFolder() + QStringLiteral(".new");
+            QString problem = pass_.treeProblem;
+            if (problem.isEmpty() && !pass_.totals)
+                problem = QStringLiteral("the engine's listing is incomplete");
+            if (problem.isEmpty()) {
+                if (!EmptyFolderQuickly(ScratchFolder()) || !QDir().rmdir(ScratchFolder()) ||
+                    !QDir().rename(staging, ScratchFolder()))
+                    problem = QStringLiteral("it cannot replace the previous folder view");
             }
-            // The lines are not needed any more.
-            lines_ = QStringList();
             if (!problem.isEmpty()) {
+                // No partial tree: the one shown before stays as it was.
+                if (!QDir(staging).removeRecursively())
+                    qCDebug(lcListing) << "could not delete" << staging;
                 prompter_->critical(ListingFailedMessage(selectedPath, problem));
                 listing_.status = ListStatus::Failed;
                 listing_.password.clear();
@@ -476,7 +581,7 @@ bool ArchiveLister::OpenSelectedArchive(const QString& path) {
 std::optional<ArchiveTotals> ArchiveLister::Info() const {
     if (listing_.status == ListStatus::Failed || listing_.status == ListStatus::EngineSwitched)
         return std::nullopt;
-    return totals_;
+    return pass_.totals;
 }
 
 } // namespace quovara

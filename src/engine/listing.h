@@ -81,6 +81,22 @@ QString FileCountText(const QString& field);
 bool BuildMirrorTree(const QStringList& lines, const QString& scratchFolder,
                      QString* problem = nullptr);
 
+// One pass over a listing log, read in pieces: the error scan, the mirror tree and the totals
+// together, with memory bounded by one line (at most 64 KiB of it) whatever the log's size.
+// Line ends are CR LF, CR or LF.
+struct ListingPass {
+    bool opened = false;
+    // As ScanListingErrors gives it for the whole log.
+    QString error;
+    // The separator was reached and every entry has its placeholder in the tree folder.
+    bool treeComplete = false;
+    // Why the tree is not complete, in words for the user.
+    QString treeProblem;
+    std::optional<ArchiveTotals> totals;
+    qint64 lines = 0;
+};
+ListingPass ReadListingLog(const QString& logPath, EngineCodec codec, const QString& treeFolder);
+
 // Empties `folder` at once without waiting for the deletion: its content is moved aside (a
 // rename) and deleted in the background; the folder itself is made again, empty. False when it
 // could not be emptied.
@@ -125,8 +141,8 @@ public:
     void Cancel();
     bool cancelled() const { return cancelled_; }
 
-    // The lines of the last listing log, read and decoded once per listing.
-    const QStringList& logLines() const { return lines_; }
+    // What the last listing's one pass over its log found.
+    const ListingPass& lastPass() const { return pass_; }
 
     // Why the last list job could not be started (empty when it started).
     QString startError() const { return startError_; }
@@ -136,8 +152,7 @@ private:
     EngineSwitchState& switch_;
     ArchiveListing listing_;
     QString startError_;
-    QStringList lines_;
-    std::optional<ArchiveTotals> totals_;
+    ListingPass pass_;
     bool cancelled_ = false;
 };
 

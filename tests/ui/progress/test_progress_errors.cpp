@@ -294,7 +294,7 @@ TEST_F(ProgressErrors, ClosingTheWindowWhileTheEngineAsksStopsTheJobAndTypesNoth
     bench.prompter.questionAnswers = {true};
     ASSERT_TRUE(bench.waitUnloaded(w));
     ASSERT_GT(engine, 0);
-    EXPECT_NE(::kill(pid_t(engine), 0), 0) << "the engine still runs";
+    EXPECT_TRUE(WaitFor([&] { return !ProcessAlive(engine); }, 5000)) << "the engine still runs";
     ASSERT_EQ(bench.prompter.shown.size(), 1);
     EXPECT_TRUE(bench.prompter.shown[0].startsWith("question: "));
     // "Yes" came too late: the archive is untouched.
