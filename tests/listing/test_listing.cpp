@@ -334,3 +334,43 @@ TEST(EmptyFolderQuickly, TheFolderIsEmptyAtOnceAndTheOldTreeGoesInTheBackground)
     EXPECT_EQ(QDir(dir.path()).entryList(QDir::Dirs | QDir::NoDotAndDotDot),
               QStringList({"Tessimo"}));
 }
+
+TEST(ReadListingLog, OnePassGivesTheErrorTheTreeAndTheTotals) {
+    QTemporaryDir dir;
+    const ListingPass pass = ReadListingLog(QUOVARA_LISTING_DATA "/list-alz3.log",
+                                            EngineCodec::Cp437, dir.filePath("tree"));
+    EXPECT_TRUE(pass.opened);
+    EXPECT_TRUE(pass.error.isEmpty());
+    EXPECT_TRUE(pass.treeComplete);
+    EXPECT_EQ(filesBelow(dir.filePath("tree")).size(), 8);
+    ASSERT_TRUE(pass.totals.has_value());
+    const auto whole = ReadTotals(sampleLines("list-alz3.log"));
+    ASSERT_TRUE(whole.has_value());
+    EXPECT_EQ(pass.totals->fileCountText, whole->fileCountText);
+    EXPECT_EQ(pass.totals->normalSizeMB, whole->normalSizeMB);
+    EXPECT_EQ(pass.totals->packedSizeMB, whole->packedSizeMB);
+    EXPECT_EQ(pass.totals->modeText, whole->modeText);
+    EXPECT_EQ(pass.totals->ratio, whole->ratio);
+
+    const ListingPass failed = ReadListingLog(QUOVARA_LISTING_DATA "/list-missing-archive.log",
+                                              EngineCodec::Cp437, dir.filePath("none"));
+    EXPECT_EQ(failed.error, ScanListingErrors(sampleLines("list-missing-archive.log")));
+    EXPECT_FALSE(failed.treeComplete);
+}
+
+TEST(ReadListingLog, AnEndlessLineIsCutAndDoesNotGrowTheMemory) {
+    QTemporaryDir dir;
+    const QString log = dir.filePath("long.log");
+    {
+        QFile f(log);
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+        f.write("ERROR: ");
+        const QByteArray block(1 << 20, 'x');
+        for (int i = 0; i < 16; ++i)
+            f.write(block);
+    }
+    const ListingPass pass = ReadListingLog(log, EngineCodec::Cp437, dir.filePath("tree"));
+    EXPECT_EQ(pass.lines, 1);
+    EXPECT_EQ(pass.error.size(), 64 * 1024 - 6);
+    EXPECT_FALSE(pass.treeComplete);
+}
