@@ -749,3 +749,29 @@ TEST_F(MainWindow, EndingTheProgramWithASignalEndsTheEngineItWasWaitingFor) {
         EXPECT_TRUE(waitFor([&] { return ::kill(pid_t(engine), 0) != 0; })) << signal;
     }
 }
+
+TEST_F(MainWindow, LeavingTheMirrorTreeByAnyRouteRestoresTheFileSystemLayout) {
+    const QString first = makeArchive(kSix, "first.uha");
+    const QString second = makeArchive(kSix, "second.uha");
+    ASSERT_TRUE(window_.Form_Load(first));
+    show();
+    ASSERT_TRUE(archiveLayout());
+    EXPECT_EQ(window_.windowTitle(),
+              QString::fromUtf8("first.uha — Quovara — demonstration engine"));
+    EXPECT_TRUE(child<ucToolbar>("ucToolbar1")->ButtonEnabled(5));
+    // Deeper inside the mirror tree the layout stays.
+    window_.fileView()->setFolder(ScratchFolder() + "/a/b");
+    EXPECT_TRUE(archiveLayout());
+    // Back climbs out to the archive's folder.
+    window_.fileView()->setFolder(places_.path());
+    EXPECT_FALSE(archiveLayout());
+    EXPECT_FALSE(child<ucToolbar>("ucToolbar1")->ButtonEnabled(5));
+    EXPECT_EQ(window_.windowTitle(), QString::fromUtf8("Quovara — demonstration engine"));
+    // A double-click on another archive there lists it, not an item of the old mirror tree.
+    clickItem(second, true);
+    ASSERT_TRUE(waitFor([&] { return archiveLayout(); }));
+    EXPECT_EQ(window_.lister().listing().archivePath, second);
+    EXPECT_EQ(window_.windowTitle(),
+              QString::fromUtf8("second.uha — Quovara — demonstration engine"));
+    EXPECT_TRUE(prompter_.shown.isEmpty()) << prompter_.shown.join('|').toStdString();
+}

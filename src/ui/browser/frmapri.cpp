@@ -75,7 +75,8 @@ frmApri::frmApri(QWidget* parent)
     : QMainWindow(parent), messagePrompter_(this), prompter_(&messagePrompter_),
       lister_(messagePrompter_, switch_) {
     setObjectName(QStringLiteral("frmApri"));
-    setWindowTitle(ApplicationTitle());
+    baseTitle_ = ApplicationTitle();
+    setWindowTitle(baseTitle_);
     resize(900, 620);
 
     auto* central = new QWidget(this);
@@ -268,8 +269,10 @@ bool frmApri::Form_Load(const QString& commandLine) {
         return false;
     const QString engine = ResolveEngineFile(ProgramFolder(), QStringLiteral("uharc.exe"));
     demonstrationEngine_ = !IsWindowsExecutable(engine);
-    if (demonstrationEngine_)
-        setWindowTitle(ApplicationTitle() + QStringLiteral(" \u2014 demonstration engine"));
+    baseTitle_ = demonstrationEngine_
+                     ? ApplicationTitle() + QStringLiteral(" \u2014 demonstration engine")
+                     : ApplicationTitle();
+    setWindowTitle(baseTitle_);
     FileView1->setFolder(QDir::homePath());
 
     const CommandRequest request = ClassifyCommandLine(commandLine);
@@ -367,7 +370,7 @@ void frmApri::OpenItem(const QString& path) {
         listingNow_ = true;
         stopReading_->setEnabled(true);
         setWindowTitle(QString::fromUtf8(apri::ReadingTitle).arg(QFileInfo(path).fileName()) +
-                       QStringLiteral(" \u2014 ") + title);
+                       QStringLiteral(" \u2014 ") + baseTitle_);
         setStatus(apri::Reading, apri::EscapeStops);
     }
     const bool listed = lister_.OpenSelectedArchive(path);
@@ -409,6 +412,9 @@ void frmApri::showTotals(const ArchiveTotals& t) {
 }
 
 void frmApri::Uha() {
+    // The window names the archive it shows.
+    setWindowTitle(QFileInfo(lister_.listing().archivePath).fileName() +
+                   QStringLiteral(" \u2014 ") + baseTitle_);
     ucToolbar1->SetButtonEnabled(IdSfx, true);
     Barra->show();
     FileView1->setShowHidden(true);
@@ -416,9 +422,17 @@ void frmApri::Uha() {
 }
 
 void frmApri::NoUha() {
+    setWindowTitle(baseTitle_);
+    ucToolbar1->SetButtonEnabled(IdSfx, false);
     Barra->hide();
     FileView1->setShowHidden(false);
     PopView->actions()[1]->setEnabled(true);
+}
+
+bool frmApri::insideScratchFolder(const QString& folder) const {
+    const QString scratch = QDir::cleanPath(ScratchFolder());
+    const QString f = QDir::cleanPath(folder);
+    return f == scratch || f.startsWith(scratch + QLatin1Char('/'));
 }
 
 void frmApri::onFolderChanged(const QString& folder) {
@@ -445,6 +459,11 @@ void frmApri::onFolderChanged(const QString& folder) {
             TempRoot() + PathStyle::host().sep + QLatin1String(names::WorkFolderName);
         if (LongPath(folder).toUpper() == work.toUpper()) {
             FileView1->setFolder(lister_.listing().previousFolder);
+            NoUha();
+        } else if (!insideScratchFolder(folder)) {
+            // The archive layout exists only while the browser is inside the mirror tree:
+            // leaving it by any route (Back, the drop-down, a typed path, a double-click)
+            // restores the file-system layout.
             NoUha();
         }
     }

@@ -104,6 +104,11 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    // True when `folder` is the ScratchFolder or inside it.
+    bool insideScratchFolder(const QString& folder) const;
+    // The window's title while no archive is shown.
+    QString baseTitle_;
+
     // A listing is under way (Escape or closing the window stops it).
     bool listingNow_ = false;
     bool closedWhileListing_ = false;
