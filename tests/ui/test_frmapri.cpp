@@ -775,3 +775,14 @@ TEST_F(MainWindow, LeavingTheMirrorTreeByAnyRouteRestoresTheFileSystemLayout) {
               QString::fromUtf8("second.uha — Quovara — demonstration engine"));
     EXPECT_TRUE(prompter_.shown.isEmpty()) << prompter_.shown.join('|').toStdString();
 }
+
+TEST_F(MainWindow, TheToolbarShowsCaptionsBesideTheImages) {
+    ASSERT_TRUE(window_.Form_Load(QString()));
+    show();
+    auto* toolbar = child<ucToolbar>("ucToolbar1");
+    // List style: the caption stands to the right of its 32-pixel image, so a button is wider
+    // than tall and the bar is one button high.
+    const QRect back = toolbar->ButtonRect(1);
+    EXPECT_GT(back.width(), back.height() + 10) << back.width() << "x" << back.height();
+    EXPECT_LT(toolbar->ToolbarHeight(), 60);
+}

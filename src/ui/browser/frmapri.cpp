@@ -312,7 +312,8 @@ bool frmApri::Form_Load(const QString& commandLine) {
 }
 
 void frmApri::buildToolbar() {
-    ucToolbar1->Initialize(32, true, false, true);
+    // Flat, list style (caption beside the image), divider.
+    ucToolbar1->Initialize(32, true, true, true);
     const char* icons[] = {"101-back",   "102-add",  "103-extract", "104-sfx",
                            "105-verify", "106-view", "107-update",  "108-about"};
     for (const char* icon : icons)
