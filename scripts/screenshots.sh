@@ -27,13 +27,18 @@ xdotool windowmove "$W" 20 20
 sleep 1
 shot() { import -window root -crop 1000x690+15+0 "$1"; }
 shot docs/main-files.png
-# Double-click sample.uha, the last row of the list.
-xdotool mousemove --window "$W" 60 177 click --repeat 2 --delay 80 1
+# Open sample.uha with the keyboard: a click on the list's empty part gives it the focus,
+# typing the name selects it and Return opens it.
+xdotool mousemove --window "$W" 600 500 click 1
+sleep 0.3
+xdotool type --delay 60 "sample.uha"
+sleep 0.3
+xdotool key Return
 sleep 3
 xdotool mousemove --window "$W" 600 400
 shot docs/main-archive.png
 # Search the archive: type into the task pane's search box and press Enter.
-xdotool mousemove --window "$W" 110 297 click 1
+xdotool mousemove --window "$W" 110 281 click 1
 sleep 0.3
 xdotool type --delay 40 "*.svg"
 xdotool key Return
