@@ -7,6 +7,7 @@
 #include "engine/listing.h"
 
 #include <QDirIterator>
+#include <QProcess>
 #include <gtest/gtest.h>
 
 using namespace quovara;
@@ -294,4 +295,52 @@ TEST(VersionSwitch, RecognitionAndTheVersionText) {
     EXPECT_EQ(t.switchedVersion, "0.4");
     UndoEngineSwitch(t, dir.path());
     EXPECT_FALSE(t.engineSwitched);
+}
+
+namespace {
+
+// A listing log of `count` entries in the engine's layout.
+QByteArray logOf(int count) {
+    QByteArray log = "\r\n=== UHARC 0.6 LOG ===\r\n\r\n\r\n\r\n\r\n\r\nheader\r\n" +
+                     QByteArray(79, '-') + "\r\n";
+    for (int i = 0; i < count; ++i)
+        log += "folder\\file" + QByteArray::number(i) +
+               ".txt\r\n                                       0  22-Nov-2026  14:28:18  ---A  "
+               "00000000\r\n";
+    log += QByteArray(79, '-') + "\r\n" + QByteArray::number(count) +
+           " files                                0\r\n                                       "
+           "0 packed (ALZ:2-mode), ratio: 0.0%\r\n" +
+           QByteArray(79, '=') + "\r\n";
+    return log;
+}
+
+} // namespace
+
+// A full disk while the folder view is made, on a small memory file system (where this machine
+// lets the test mount one).
+TEST_F(ListerTest, AFullDiskWhileTheFolderViewIsMadeIsReportedAndLeavesNoPartialTree) {
+    const QString mount = places_.path() + "/small";
+    QDir().mkpath(mount);
+    QProcess mounter;
+    mounter.start("mount", {"-t", "tmpfs", "-o", "size=256k,nr_inodes=60", "tmpfs", mount});
+    if (!mounter.waitForFinished(10000) || mounter.exitStatus() != QProcess::NormalExit ||
+        mounter.exitCode() != 0)
+        GTEST_SKIP() << "no small memory file system can be mounted here";
+    const QByteArray oldTmp = qgetenv("TMPDIR");
+    qputenv("TMPDIR", mount.toLocal8Bit());
+    ASSERT_EQ(EnsurePrivateWorkFolder(), QString());
+    const QString log = places_.path() + "/many.log";
+    writeFile(log, logOf(200));
+    writeExecutable(engine("uharc.exe"), fakeEngine("SIX"));
+    qputenv("QV_LOG_SIX_NONE", log.toLocal8Bit());
+    ArchiveLister lister(prompter_, switch_);
+    EXPECT_EQ(lister.FileInArchivio("/data/many.uha"), ListStatus::Failed);
+    EXPECT_EQ(prompter_.shown,
+              QStringList({"critical: Quovara cannot show the archive\n/data/many.uha\nbecause it "
+                           "cannot create the folder view: no space left on device.\nNothing of "
+                           "it is shown."}));
+    EXPECT_TRUE(scratchFiles().isEmpty());
+    EXPECT_FALSE(QFileInfo::exists(ScratchFolder() + ".new"));
+    qputenv("TMPDIR", oldTmp);
+    QProcess::execute("umount", {mount});
 }
