@@ -786,3 +786,24 @@ TEST_F(MainWindow, TheToolbarShowsCaptionsBesideTheImages) {
     EXPECT_GT(back.width(), back.height() + 10) << back.width() << "x" << back.height();
     EXPECT_LT(toolbar->ToolbarHeight(), 60);
 }
+
+TEST_F(MainWindow, ARootSearchResultRunsLikeAnyOtherItem) {
+    const QString archive = makeArchive(kSix, "plain.uha");
+    ASSERT_TRUE(window_.Form_Load(archive));
+    show();
+    QTest::keyClicks(child<QLineEdit>("TxtCerca"), "root*");
+    QTest::keyClick(child<QLineEdit>("TxtCerca"), Qt::Key_Return);
+    auto* found = child<QTreeWidget>("Trovati");
+    ASSERT_TRUE(waitFor([&] { return text("Stato") == "Quovara is ready"; }));
+    ASSERT_EQ(found->topLevelItemCount(), 1);
+    QTest::mouseClick(found->viewport(), Qt::LeftButton, {},
+                      found->visualItemRect(found->topLevelItem(0)).center());
+    EXPECT_EQ(window_.selectedItem(), "\\root.txt");
+    QTest::mouseClick(child<QPushButton>("EseFile"), Qt::LeftButton);
+    EXPECT_EQ(readAll(WorkFolder() + "/root.txt"), QByteArray("root file"));
+    EXPECT_EQ(opened_, QStringList({WorkFolder() + "/root.txt"}));
+    EXPECT_TRUE(prompter_.shown.isEmpty()) << prompter_.shown.join('|').toStdString();
+    // The extract dialog's preset names the stored item.
+    QTest::mouseClick(child<QPushButton>("EstFile"), Qt::LeftButton);
+    EXPECT_EQ(window_.opened, QStringList({"extract selected"}));
+}

@@ -498,6 +498,10 @@ void frmApri::onExecute(const QString& path) {
     ExtractAndRun();
 }
 
+QString frmApri::selectedStoredName() const {
+    return selectedItem_.startsWith(QLatin1Char('\\')) ? selectedItem_.mid(1) : selectedItem_;
+}
+
 void frmApri::setStatus(const char* stato, const char* consiglio) {
     Stato->setText(QString::fromLatin1(stato));
     Consiglio->setText(QString::fromLatin1(consiglio));
@@ -509,7 +513,8 @@ void frmApri::ExtractAndRun() {
     QString refused;
     if (!WriteJobScript(script, Preamble::Job,
                         SingleItemCommandPieces(ProgramFolder(), TempRoot(), l.password,
-                                                l.archivePath, selectedItem_, PathStyle::host()),
+                                                l.archivePath, selectedStoredName(),
+                                                PathStyle::host()),
                         LastLine::NoLineEnd, &refused)) {
         prompter_->critical(refused);
         return;
@@ -518,7 +523,8 @@ void frmApri::ExtractAndRun() {
     QString error;
     if (!RunAndWait(script, 0, WorkFolder(), {}, &error))
         qCDebug(lcRunner) << "single-item job not started:" << error;
-    ShellOpenReport(*prompter_, PathStyle::host().join(WorkFolder(), sGiveFile(selectedItem_)),
+    ShellOpenReport(*prompter_,
+                    PathStyle::host().join(WorkFolder(), sGiveFile(selectedStoredName())),
                     QString(), QString(), 0);
     setStatus(apri::Ready, apri::SelectAction);
 }

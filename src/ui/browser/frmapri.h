@@ -75,6 +75,9 @@ public:
     ArchiveLister& lister() { return lister_; }
     EngineSwitchState& engineSwitch() { return switch_; }
     const QString& selectedItem() const { return selectedItem_; }
+    // The selected item as the engine stores it: a search result at the archive's root has a
+    // selectedItem that begins with "\", which no stored name does.
+    QString selectedStoredName() const;
     bool commandLineJob() const { return commandLineJob_; }
     Prompter& prompter() { return *prompter_; }
     // Tests answer message boxes with a recorder.

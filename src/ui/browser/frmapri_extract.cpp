@@ -27,7 +27,7 @@ void frmApri::showExtractDialog(bool forSelectedItem) {
         },
         this);
     if (forSelectedItem)
-        dialog.presetItem(selectedItem());
+        dialog.presetItem(selectedStoredName());
     dialog.exec();
 }
 
