@@ -807,3 +807,12 @@ TEST_F(MainWindow, ARootSearchResultRunsLikeAnyOtherItem) {
     QTest::mouseClick(child<QPushButton>("EstFile"), Qt::LeftButton);
     EXPECT_EQ(window_.opened, QStringList({"extract selected"}));
 }
+
+TEST_F(MainWindow, AServedSfxRequestOnAnOldArchiveEndsWithTheEngineSwitchedBack) {
+    const QString archive = makeArchive(kFour, "old.uha");
+    EXPECT_FALSE(window_.Form_Load("sfx  " + archive));
+    EXPECT_EQ(window_.opened, QStringList({"sfx"}));
+    EXPECT_FALSE(window_.engineSwitch().engineSwitched);
+    EXPECT_EQ(readAll(places_.programFolder() + "/uharc.exe"), readAll(kSix));
+    EXPECT_EQ(readAll(places_.programFolder() + "/Uharc0.4.fns"), readAll(kFour));
+}

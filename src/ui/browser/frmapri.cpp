@@ -308,7 +308,13 @@ bool frmApri::Form_Load(const QString& commandLine) {
     case CommandRequest::None:
         break;
     }
-    return !commandLineJob_;
+    if (commandLineJob_) {
+        // A served request ends the program through the window's normal close, which undoes
+        // an engine switch made while listing.
+        close();
+        return false;
+    }
+    return true;
 }
 
 void frmApri::buildToolbar() {
