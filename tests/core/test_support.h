@@ -21,6 +21,15 @@ inline void PrintTo(const QStringList& l, std::ostream* os) {
 
 namespace quovara::testing {
 
+// File names in several scripts, with a blank and an apostrophe: Polish, Cyrillic, Greek,
+// Japanese, an emoji.
+inline QStringList MixedScriptNames() {
+    return {QString::fromUtf8("Łódź.txt"),  QString::fromUtf8("Привет.txt"),
+            QString::fromUtf8("Αθήνα.txt"), QString::fromUtf8("日本語.txt"),
+            QString::fromUtf8("📦.txt"),     QStringLiteral("a b.txt"),
+            QStringLiteral("it's.txt")};
+}
+
 // Writes an executable file.
 inline void writeExecutable(const QString& path, const QByteArray& content) {
     QFile f(path);

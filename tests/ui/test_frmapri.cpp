@@ -521,13 +521,7 @@ TEST_F(MainWindow, SameNamedItemsFromTwoFoldersOverwriteEachOther) {
 // search, and extracted one by one under exactly those names, from an archive with such a name
 // and such a password.
 TEST_F(MainWindow, NamesInEveryScriptAreListedSearchedAndExtractedUnchanged) {
-    const QStringList names = {QString::fromUtf8("Łódź.txt"),
-                               QString::fromUtf8("Привет.txt"),
-                               QString::fromUtf8("Αθήνα.txt"),
-                               QString::fromUtf8("日本語.txt"),
-                               QString::fromUtf8("📦.txt"),
-                               "a b.txt",
-                               "it's.txt"};
+    const QStringList names = MixedScriptNames();
     const QString folder = QString::fromUtf8("Źródła ünï");
     QDir().mkpath(src_ + "/" + folder);
     for (const QString& n : names)

@@ -304,13 +304,7 @@ TEST_F(ProgressErrors, ClosingTheWindowWhileTheEngineAsksStopsTheJobAndTypesNoth
 // Names in several scripts, a blank and an apostrophe go through a test and an extraction
 // unchanged, in an archive whose own name is just as mixed.
 TEST_F(ProgressErrors, NamesInEveryScriptAreTestedAndExtractedUnchanged) {
-    const QStringList names = {QString::fromUtf8("Łódź.txt"),
-                               QString::fromUtf8("Привет.txt"),
-                               QString::fromUtf8("Αθήνα.txt"),
-                               QString::fromUtf8("日本語.txt"),
-                               QString::fromUtf8("📦.txt"),
-                               "a b.txt",
-                               "it's.txt"};
+    const QStringList names = MixedScriptNames();
     QDir().mkpath(bench.src);
     for (const QString& n : names)
         writeFile(bench.src + "/" + n, n.toUtf8());
