@@ -810,3 +810,68 @@ TEST_F(MainWindow, AServedSfxRequestOnAnOldArchiveEndsWithTheEngineSwitchedBack)
     EXPECT_EQ(readAll(places_.programFolder() + "/uharc.exe"), readAll(kSix));
     EXPECT_EQ(readAll(places_.programFolder() + "/Uharc0.4.fns"), readAll(kFour));
 }
+
+namespace {
+
+// The main window whose open-archive question answers with a chosen path.
+class AnsweringApri : public TestApri {
+public:
+    QString answer;
+    int asked = 0;
+
+protected:
+    QString askArchiveToOpen() override {
+        ++asked;
+        return answer;
+    }
+};
+
+} // namespace
+
+TEST_F(MainWindow, EverythingIsReachedWithTheKeyboard) {
+    const QString archive = makeArchive(kSix, "keys.uha");
+    AnsweringApri window;
+    window.setPrompter(&prompter_);
+    window.setInstanceLockPath(lockPath_ + ".keys");
+    ASSERT_TRUE(window.Form_Load(QString()));
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    auto key = [&](int k, Qt::KeyboardModifiers m = Qt::NoModifier) {
+        QWidget* target = QApplication::focusWidget() ? QApplication::focusWidget() : &window;
+        QTest::keyClick(target, Qt::Key(k), m);
+    };
+    // Ctrl+O asks for an archive and opens it.
+    window.answer = archive;
+    key(Qt::Key_O, Qt::ControlModifier);
+    EXPECT_EQ(window.asked, 1);
+    ASSERT_TRUE(waitFor([&] { return window.lister().listing().archivePath == archive; }));
+    auto* pane = window.findChild<TaskPaneBar*>("Barra");
+    EXPECT_FALSE(pane->isHidden());
+    // Ctrl+F puts the cursor in the search box.
+    key(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::focusWidget(), window.findChild<QLineEdit*>("TxtCerca"));
+    // Backspace typed there edits the text, it does not go back.
+    QTest::keyClicks(QApplication::focusWidget(), "ab");
+    key(Qt::Key_Backspace);
+    EXPECT_EQ(window.findChild<QLineEdit*>("TxtCerca")->text(), "a");
+    // F5 lists the archive again.
+    QFile::remove(ScratchFolder() + "/root.txt");
+    key(Qt::Key_F5);
+    EXPECT_TRUE(QFileInfo(ScratchFolder() + "/root.txt").isFile());
+    // Alt+Left goes back out of the archive's folder view.
+    window.fileView()->setFocus();
+    window.fileView()->setFolder(ScratchFolder() + "/a");
+    key(Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(window.fileView()->folder(), ScratchFolder());
+    // Backspace in the file list goes back too.
+    window.fileView()->setFolder(ScratchFolder() + "/a/b");
+    window.fileView()->setFocus();
+    key(Qt::Key_Backspace);
+    EXPECT_EQ(window.fileView()->folder(), ScratchFolder());
+    // Ctrl+Q ends the program.
+    key(Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_TRUE(prompter_.shown.isEmpty()) << prompter_.shown.join('|').toStdString();
+}

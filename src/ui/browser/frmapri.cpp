@@ -22,6 +22,7 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QDir>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -243,6 +244,7 @@ frmApri::frmApri(QWidget* parent)
     });
     connect(&search_, &ArchiveSearch::finished, this,
             [this] { setStatus(apri::Ready, apri::SelectAction); });
+    buildShortcuts();
     // Escape stops the reading of an archive (only while one is read).
     stopReading_ = new QShortcut(QKeySequence(Qt::Key_Escape), this);
     stopReading_->setEnabled(false);
@@ -325,7 +327,7 @@ void frmApri::buildToolbar() {
     for (const char* icon : icons)
         ucToolbar1->AddIcon(
             QIcon(QStringLiteral(":/icons/toolbar/%1.svg").arg(QLatin1String(icon))));
-    ucToolbar1->AddButton(QStringLiteral("Back"), 0, QStringLiteral("Back"));
+    ucToolbar1->AddButton(QStringLiteral("Back"), 0, QStringLiteral("Back (Backspace, Alt+Left)"));
     ucToolbar1->AddButton(QString(), -1, QString(), ucToolbar::tbrSeparator);
     ucToolbar1->AddButton(QStringLiteral("Add"), 1, QStringLiteral("Add files to an archive"));
     ucToolbar1->AddButton(QStringLiteral("Extract"), 2, QStringLiteral("Extract an archive"));
@@ -343,6 +345,40 @@ void frmApri::buildToolbar() {
     connect(ucToolbar1, &ucToolbar::ButtonClick, this, &frmApri::ButtonClick);
     connect(ucToolbar1, &ucToolbar::ButtonDropDown, this,
             [this](int, int x, int y) { PopView->popup(mapToGlobal(QPoint(x, y))); });
+}
+
+void frmApri::buildShortcuts() {
+    // Everything can be reached without the mouse. A line edit keeps Backspace for itself.
+    auto add = [this](const QKeySequence& keys, const char* name, auto slot) {
+        auto* s = new QShortcut(keys, this);
+        s->setObjectName(QLatin1String(name));
+        connect(s, &QShortcut::activated, this, slot);
+    };
+    add(QKeySequence(Qt::Key_Backspace), "BackKey", [this] { ButtonClick(IdBack); });
+    add(QKeySequence(Qt::ALT | Qt::Key_Left), "BackAltLeft", [this] { ButtonClick(IdBack); });
+    add(QKeySequence(Qt::CTRL | Qt::Key_F), "FindKey", [this] {
+        if (!Barra->isHidden()) {
+            TxtCerca->setFocus(Qt::ShortcutFocusReason);
+            TxtCerca->selectAll();
+        }
+    });
+    add(QKeySequence(Qt::Key_F5), "RelistKey", [this] { relistArchive(); });
+    add(QKeySequence(Qt::CTRL | Qt::Key_O), "OpenKey", [this] { openArchiveWithDialog(); });
+    add(QKeySequence(Qt::CTRL | Qt::Key_Q), "QuitKey", [this] { close(); });
+}
+
+void frmApri::openArchiveWithDialog() {
+    const QString path = askArchiveToOpen();
+    if (!path.isEmpty()) {
+        pointBrowserAt(path);
+        OpenItem(path);
+    }
+}
+
+QString frmApri::askArchiveToOpen() {
+    return QFileDialog::getOpenFileName(this, QStringLiteral("Open an archive"),
+                                        FileView1->folder(),
+                                        QStringLiteral("UHARC archives (*.uha)"));
 }
 
 void frmApri::buildTaskPane() {

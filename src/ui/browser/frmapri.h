@@ -106,7 +106,14 @@ protected:
 
     void closeEvent(QCloseEvent* event) override;
 
+protected:
+    // Asks for an archive to open (Ctrl+O); empty when cancelled. Tests replace it.
+    virtual QString askArchiveToOpen();
+
 private:
+    void buildShortcuts();
+    void openArchiveWithDialog();
+
     // True when `folder` is the ScratchFolder or inside it.
     bool insideScratchFolder(const QString& folder) const;
     // The window's title while no archive is shown.
