@@ -14,6 +14,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QGroupBox>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QLoggingCategory>
 #include <QProgressBar>
@@ -202,6 +203,12 @@ const ConsoleState* frmProgress::consoleState() const {
 
 void frmProgress::exec() {
     setWindowModality(Qt::ApplicationModal);
+    // Centred on the main window when it is on the screen.
+    if (main_.isVisible()) {
+        const QRect host = main_.frameGeometry();
+        const QSize size = frameGeometry().size().isValid() ? frameGeometry().size() : sizeHint();
+        move(host.center() - QPoint(size.width() / 2, size.height() / 2));
+    }
     show();
     if (unloaded_)
         return;
@@ -218,6 +225,15 @@ void frmProgress::showEvent(QShowEvent* event) {
         activated_ = true;
         QTimer::singleShot(0, this, &frmProgress::Form_Activate);
     }
+}
+
+void frmProgress::keyPressEvent(QKeyEvent* event) {
+    // Escape does what closing the window does: the job stops.
+    if (event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier) {
+        close();
+        return;
+    }
+    QWidget::keyPressEvent(event);
 }
 
 void frmProgress::closeEvent(QCloseEvent* event) {

@@ -5,6 +5,7 @@
 
 #include "core/places.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QLineEdit>
 #include <QProcess>
@@ -430,4 +431,20 @@ TEST_F(ProgressErrors, ClosingAWindowEndsOnlyItsOwnEngineNotAnotherProgramOfTheS
     EXPECT_TRUE(ProcessAlive(other.processId()));
     other.kill();
     other.waitForFinished();
+}
+
+TEST_F(ProgressErrors, EscapeStopsTheJobAsClosingTheWindowDoes) {
+    bench.makeSource(20, 1000);
+    const QString archive = bench.places.path() + "/escaped.uha";
+    bench.writeAddScript(archive);
+    bench.setDelay(200);
+    frmProgress* w = bench.open(JobKind::Add);
+    ASSERT_TRUE(WaitFor([&] { return w->consoleState() && w->consoleState()->lineCount > 0; }));
+    const qint64 engine = w->jobProcessId();
+    w->activateWindow();
+    QWidget* target = QApplication::focusWidget() ? QApplication::focusWidget() : w;
+    QTest::keyClick(target, Qt::Key_Escape);
+    ASSERT_TRUE(bench.waitUnloaded(w, 5000));
+    EXPECT_TRUE(WaitFor([&] { return !ProcessAlive(engine); }, 5000));
+    EXPECT_TRUE(bench.prompter.shown.isEmpty()) << bench.prompter.shown.join('|').toStdString();
 }
