@@ -185,8 +185,12 @@ void TaskPaneBar::ActivateElement(const Element& e) {
         g->expanded = !g->expanded;
         g->headerState = 2;
         repaintPane();
-        // The host may assign the flag to veto or force the toggle; the next paint shows it.
+        // The host may assign the flag to veto or force the toggle; the pane is laid out again
+        // for the state it chose, so that what is shown is also what can be clicked.
+        const bool laidOutExpanded = g->expanded;
         emit GroupClick(e.group, g->expanded);
+        if (g->expanded != laidOutExpanded)
+            repaintPane();
         update();
         if (QAccessible::isActive()) {
             QAccessible::State changed;
