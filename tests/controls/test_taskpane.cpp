@@ -420,7 +420,7 @@ TEST_F(PaneFixture, RightAndMiddleClicksDoNothing) {
 
 TEST_F(PaneFixture, LeftClickOnAnItemRaisesItemClick) {
     QTest::mouseClick(pane.get(), Qt::LeftButton, {}, itemPoint(2, 3));
-    EXPECT_TRUE(events.contains(QStringLiteral("ItemClick Operazioni/ext")));
+    EXPECT_TRUE(events.contains(QStringLiteral("ItemClick Operazioni/mail")));
     QTest::mouseClick(pane.get(), Qt::LeftButton, {}, itemPoint(-1, 2));
     EXPECT_TRUE(events.contains(QStringLiteral("ItemClick Special Group/find")));
     // Where a collapsed group's item was, nothing is clicked.

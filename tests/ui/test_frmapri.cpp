@@ -15,17 +15,20 @@
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QDirIterator>
+#include <QDropEvent>
 #include <QFileSystemModel>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLockFile>
 #include <QMenu>
+#include <QMimeData>
 #include <QProcess>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
 #include <QTreeWidget>
+#include <QUrl>
 #include <functional>
 #include <gtest/gtest.h>
 
@@ -56,7 +59,15 @@ public:
     QStringList opened;
 
 protected:
-    void showAddDialog() override { opened << "add"; }
+    void showAddDialog() override {
+        opened << "add";
+        addSources << addSource();
+    }
+
+public:
+    QStringList addSources;
+
+protected:
     void showExtractDialog(bool forSelectedItem) override {
         opened << (forSelectedItem ? "extract selected" : "extract");
     }
@@ -874,4 +885,76 @@ TEST_F(MainWindow, EverythingIsReachedWithTheKeyboard) {
     key(Qt::Key_Q, Qt::ControlModifier);
     EXPECT_FALSE(window.isVisible());
     EXPECT_TRUE(prompter_.shown.isEmpty()) << prompter_.shown.join('|').toStdString();
+}
+
+namespace {
+
+// Drops `path` onto `target` the way a file manager's drag does.
+bool dropOnto(QWidget* target, const QString& path) {
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(path)});
+    const QPoint at = target->rect().center();
+    QDragEnterEvent enter(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &enter);
+    if (!enter.isAccepted())
+        return false;
+    QDropEvent drop(QPointF(at), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &drop);
+    return drop.isAccepted();
+}
+
+} // namespace
+
+TEST_F(MainWindow, ADroppedFolderOrFileOpensTheAddDialogForIt) {
+    ASSERT_TRUE(window_.Form_Load(QString()));
+    show();
+    const QString folder = src_ + QString::fromUtf8("/a");
+    ASSERT_TRUE(dropOnto(&window_, folder));
+    ASSERT_TRUE(waitFor([&] { return !window_.opened.isEmpty(); }));
+    EXPECT_EQ(window_.opened, QStringList({"add"}));
+    EXPECT_EQ(window_.addSources, QStringList({folder}));
+    // The browser points at what was dropped, as if it had been selected there.
+    EXPECT_EQ(window_.fileView()->folder(), src_);
+    // A name in any script comes through unchanged.
+    const QString mixed = src_ + "/" + MixedScriptNames().at(4);
+    writeFile(mixed, "x");
+    ASSERT_TRUE(dropOnto(&window_, mixed));
+    ASSERT_TRUE(waitFor([&] { return window_.addSources.size() == 2; }));
+    EXPECT_EQ(window_.addSources.last(), mixed);
+}
+
+TEST_F(MainWindow, ADroppedArchiveIsOpened) {
+    const QString archive = makeArchive(kSix, "dropped.uha");
+    ASSERT_TRUE(window_.Form_Load(QString()));
+    show();
+    ASSERT_TRUE(dropOnto(&window_, archive));
+    ASSERT_TRUE(waitFor([&] { return archiveLayout(); }));
+    EXPECT_EQ(window_.lister().listing().archivePath, archive);
+    EXPECT_TRUE(window_.opened.isEmpty());
+}
+
+TEST_F(MainWindow, ADragWithoutALocalFileIsRefused) {
+    ASSERT_TRUE(window_.Form_Load(QString()));
+    show();
+    QMimeData data;
+    data.setUrls({QUrl("https://example.org/a.uha")});
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window_, &enter);
+    EXPECT_FALSE(enter.isAccepted());
+}
+
+TEST_F(MainWindow, NothingIsDraggedOutOfTheMirrorTree) {
+    const QString archive = makeArchive(kSix, "nodrag.uha");
+    ASSERT_TRUE(window_.Form_Load(QString()));
+    show();
+    EXPECT_TRUE(window_.fileView()->dragOut());
+    EXPECT_TRUE(window_.fileView()->currentView()->dragEnabled());
+    window_.OpenItem(archive);
+    ASSERT_TRUE(archiveLayout());
+    for (int mode = 0; mode < 4; ++mode) {
+        window_.fileView()->setViewMode(mode);
+        EXPECT_FALSE(window_.fileView()->currentView()->dragEnabled()) << mode;
+    }
+    window_.fileView()->setFolder(places_.path());
+    EXPECT_TRUE(window_.fileView()->currentView()->dragEnabled());
 }

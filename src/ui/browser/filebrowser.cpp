@@ -129,6 +129,15 @@ void FileBrowser::setShowHidden(bool show) {
     model_->setFilter(filter);
 }
 
+void FileBrowser::setDragOut(bool allowed) {
+    dragOut_ = allowed;
+    for (QAbstractItemView* v :
+         {static_cast<QAbstractItemView*>(list_), static_cast<QAbstractItemView*>(tree_)}) {
+        v->setDragEnabled(allowed);
+        v->setDragDropMode(allowed ? QAbstractItemView::DragOnly : QAbstractItemView::NoDragDrop);
+    }
+}
+
 void FileBrowser::setViewMode(int mode) {
     const QString selected = selectedPath();
     mode_ = mode;
@@ -161,6 +170,8 @@ void FileBrowser::setViewMode(int mode) {
         break;
     }
     list_->setResizeMode(QListView::Adjust);
+    // A list view's mode brings its own drag settings: ours are put back.
+    setDragOut(dragOut_);
     stack_->setCurrentWidget(mode_ == Report ? static_cast<QWidget*>(tree_) : list_);
     if (mode_ == Report)
         tree_->header()->setSectionResizeMode(0, QHeaderView::Stretch);

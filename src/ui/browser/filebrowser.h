@@ -36,6 +36,11 @@ public:
     // in an archive's mirror tree, where they are entries like any other.
     void setShowHidden(bool show);
 
+    // Whether items can be dragged out of the view (never from an archive's mirror tree, whose
+    // files are empty placeholders, not the archive's files).
+    void setDragOut(bool allowed);
+    bool dragOut() const { return dragOut_; }
+
     void setViewMode(int mode);
     int viewMode() const { return mode_; }
     // Goes back to the previous folder of the history (false when there is none).
@@ -59,6 +64,7 @@ private:
 
     QFileSystemModel* model_;
     QStackedWidget* stack_;
+    bool dragOut_ = true;
     QListView* list_;
     QTreeView* tree_;
     QString folder_;

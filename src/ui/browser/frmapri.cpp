@@ -22,6 +22,7 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QDir>
+#include <QDropEvent>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
@@ -30,10 +31,13 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMimeData>
 #include <QPushButton>
 #include <QShortcut>
+#include <QTimer>
 #include <QToolButton>
 #include <QTreeWidget>
+#include <QUrl>
 #include <QVBoxLayout>
 
 namespace quovara {
@@ -78,6 +82,8 @@ frmApri::frmApri(QWidget* parent)
     setObjectName(QStringLiteral("frmApri"));
     baseTitle_ = ApplicationTitle();
     setWindowTitle(baseTitle_);
+    // Files and folders dropped onto the window are added or opened.
+    setAcceptDrops(true);
     resize(900, 620);
 
     auto* central = new QWidget(this);
@@ -496,6 +502,9 @@ void frmApri::onFolderChanged(const QString& folder) {
     ShComboBox1->setEditText(QDir::toNativeSeparators(folder));
     ShComboBox1->blockSignals(false);
 
+    // Nothing is dragged out of the mirror tree: its files are empty placeholders.
+    FileView1->setDragOut(!insideScratchFolder(folder));
+
     // Climbing out of the mirror tree into the work folder goes back to where the archive was.
     if (!Barra->isHidden()) {
         const QString work =
@@ -684,6 +693,44 @@ void frmApri::relistArchive() {
     const QString archive = lister_.listing().archivePath;
     if (archiveLayout() && !archive.isEmpty())
         OpenItem(archive);
+}
+
+void frmApri::dragEnterEvent(QDragEnterEvent* event) {
+    if (!droppedPath(event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void frmApri::dropEvent(QDropEvent* event) {
+    const QString path = droppedPath(event->mimeData());
+    if (path.isEmpty())
+        return;
+    event->acceptProposedAction();
+    // Handled once the drop has finished, so the source of the drag is not kept waiting.
+    QTimer::singleShot(0, this, [this, path] { openDropped(path); });
+}
+
+QString frmApri::droppedPath(const QMimeData* data) {
+    if (!data || !data->hasUrls())
+        return QString();
+    for (const QUrl& url : data->urls()) {
+        if (url.isLocalFile() && QFileInfo::exists(url.toLocalFile()))
+            return QDir::cleanPath(url.toLocalFile());
+    }
+    return QString();
+}
+
+void frmApri::openDropped(const QString& path) {
+    const QFileInfo info(path);
+    pointBrowserAt(path);
+    if (info.isFile() && info.suffix() == QLatin1String("uha")) {
+        // A dropped archive is opened as if it were double-clicked.
+        OpenItem(path);
+        return;
+    }
+    // Anything else is a source for the Add dialog, as if it were selected in the browser.
+    droppedSource_ = path;
+    showAddDialog();
+    droppedSource_.clear();
 }
 
 void frmApri::closeEvent(QCloseEvent* event) {

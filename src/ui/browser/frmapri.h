@@ -12,6 +12,9 @@
 #include <QMainWindow>
 
 class QShortcut;
+class QMimeData;
+class QDragEnterEvent;
+class QDropEvent;
 class QComboBox;
 class QLabel;
 class QLineEdit;
@@ -78,6 +81,9 @@ public:
     // The selected item as the engine stores it: a search result at the archive's root has a
     // selectedItem that begins with "\", which no stored name does.
     QString selectedStoredName() const;
+    // What the Add dialog takes as its source: a dropped file or folder while its dialog is
+    // open, else the browser's selection.
+    QString addSource() const;
     bool commandLineJob() const { return commandLineJob_; }
     Prompter& prompter() { return *prompter_; }
     // Tests answer message boxes with a recorder.
@@ -105,12 +111,20 @@ protected:
     virtual void showAboutWindow();
 
     void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 protected:
     // Asks for an archive to open (Ctrl+O); empty when cancelled. Tests replace it.
     virtual QString askArchiveToOpen();
 
 private:
+    // The first existing local file or folder of a drag, or empty.
+    static QString droppedPath(const QMimeData* data);
+    void openDropped(const QString& path);
+    // The source of an Add dialog opened by a drop (empty otherwise).
+    QString droppedSource_;
+
     void buildShortcuts();
     void openArchiveWithDialog();
 

@@ -9,9 +9,14 @@
 
 namespace quovara {
 
+QString frmApri::addSource() const {
+    // A dropped file or folder is the source; otherwise the browser's selection.
+    return droppedSource_.isEmpty() ? FileView1->selectedPath() : droppedSource_;
+}
+
 void frmApri::showAddDialog() {
     const QString shown = archiveLayout() ? lister().listing().archivePath : QString();
-    frmAggiungi dialog([this] { return fileView()->selectedPath(); }, prompter(),
+    frmAggiungi dialog([this] { return addSource(); }, prompter(),
                        [this, shown](const QString& archive) {
                            RunJobWindow(JobKind::Add, *this, archive);
                            // A job asked for on the command line ends the program: the main
