@@ -3,6 +3,7 @@
 #include "core/places.h"
 #include "core/prompter.h"
 
+#include <QApplication>
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QDir>
@@ -12,6 +13,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLoggingCategory>
@@ -191,6 +193,17 @@ void frmEstrai::FolderView1_FolderClick(const QModelIndex& index) {
 
 void frmEstrai::Command1_Click() {
     CreateNewFolder(true);
+}
+
+void frmEstrai::keyPressEvent(QKeyEvent* event) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    // The name editor of the folder tree is a child of the tree's viewport.
+    const QWidget* focus = QApplication::focusWidget();
+    if (enter && focus && focus->parentWidget() == FolderView1->viewport()) {
+        event->accept();
+        return;
+    }
+    QDialog::keyPressEvent(event);
 }
 
 void frmEstrai::CreateNewFolder(bool editName) {

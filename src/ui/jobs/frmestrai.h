@@ -49,6 +49,12 @@ public:
               QWidget* parent = nullptr);
     ~frmEstrai() override;
 
+protected:
+    // The Enter that ends the renaming of a new folder only ends the renaming: it never
+    // presses OK.
+    void keyPressEvent(QKeyEvent* event) override;
+
+public:
     // The pre-set for one item of the archive: "Only These Files" chosen with the item as the
     // pattern.
     void presetItem(const QString& item);

@@ -308,3 +308,15 @@ TEST_F(ExtractDialog, TabOrderFollowsTheForm) {
                            "TxTPwd", "Check1", "OpAllFile", "TxtFileType", "TxtFileList",
                            "ChkExclude", "TxtExclude", "Command2", "Command3"}));
 }
+
+TEST_F(ExtractDialog, AnEnterThatReachesTheDialogWhileANewFolderIsRenamedDoesNotPressOk) {
+    open(archive_);
+    clickFolder(base_ + "/out");
+    click(c<QPushButton>("Command1"));
+    QWidget* editor = QApplication::focusWidget();
+    ASSERT_NE(qobject_cast<QLineEdit*>(editor), nullptr);
+    // The editor lets Return go on to its window, as a line edit does.
+    QTest::keyClick(dialog_.get(), Qt::Key_Return);
+    EXPECT_TRUE(handedOver_.isEmpty());
+    EXPECT_TRUE(dialog_->isVisible());
+}
