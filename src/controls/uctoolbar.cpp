@@ -8,11 +8,13 @@
 #include <QFontMetrics>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyle>
 #include <QStyleOptionFocusRect>
+#include <QToolButton>
 #include <QToolTip>
 
 namespace quovara {
@@ -25,6 +27,8 @@ constexpr int kPadY = 4;
 constexpr int kImageTextGap = 3;
 constexpr int kSeparatorWidth = 8;
 constexpr int kArrowWidth = 13;
+// The overflow arrow at the right end.
+constexpr int kOverflowWidth = 18;
 } // namespace
 
 ucToolbar::ucToolbar(QWidget* parent) : QWidget(parent) {
@@ -33,6 +37,53 @@ ucToolbar::ucToolbar(QWidget* parent) : QWidget(parent) {
     setMouseTracking(true);
     setFocusPolicy(Qt::NoFocus);
     m_font = font();
+    // Buttons that do not fit stay reachable through an arrow at the right end, as desktop
+    // toolbars have it.
+    m_overflow = new QToolButton(this);
+    m_overflow->setObjectName(QStringLiteral("Overflow"));
+    m_overflow->setArrowType(Qt::DownArrow);
+    m_overflow->setAutoRaise(true);
+    m_overflow->setToolTip(QStringLiteral("More buttons"));
+    m_overflow->setAccessibleName(QStringLiteral("More buttons"));
+    m_overflow->hide();
+    connect(m_overflow, &QToolButton::clicked, this, &ucToolbar::showOverflowMenu);
+}
+
+QList<int> ucToolbar::OverflowButtons() const {
+    QList<int> out;
+    if (!m_initialised || m_contentSize.width() <= width())
+        return out;
+    const int limit = width() - kOverflowWidth;
+    for (const auto& b : m_buttons)
+        if (b.style != tbrSeparator && !b.rect.isEmpty() && b.rect.right() >= limit)
+            out << b.id;
+    return out;
+}
+
+void ucToolbar::placeOverflow() {
+    const bool needed = m_initialised && m_contentSize.width() > width();
+    if (needed) {
+        m_overflow->setGeometry(width() - kOverflowWidth, clientTop(), kOverflowWidth,
+                                m_contentSize.height());
+        m_overflow->raise();
+    }
+    m_overflow->setVisible(needed);
+}
+
+void ucToolbar::showOverflowMenu() {
+    QMenu menu(this);
+    menu.setObjectName(QStringLiteral("OverflowMenu"));
+    for (const int id : OverflowButtons()) {
+        const Button* b = find(id);
+        const QString tip = ButtonTipText(id);
+        QAction* a = menu.addAction(b->caption.isEmpty() ? tip : b->caption);
+        if (b->image >= 0 && b->image < m_images.size())
+            a->setIcon(m_images.at(b->image));
+        a->setToolTip(tip);
+        a->setEnabled(b->state & tbrEnabled);
+        connect(a, &QAction::triggered, this, [this, id] { ActivateButton(id); });
+    }
+    menu.exec(m_overflow->mapToGlobal(QPoint(0, m_overflow->height())));
 }
 
 ucToolbar::~ucToolbar() {
@@ -309,6 +360,7 @@ void ucToolbar::relayout() {
         x += w;
     }
     m_contentSize = QSize(x, height);
+    placeOverflow();
     updateGeometry();
     update();
 }
@@ -437,6 +489,7 @@ bool ucToolbar::event(QEvent* e) {
 
 void ucToolbar::resizeEvent(QResizeEvent* e) {
     QWidget::resizeEvent(e);
+    placeOverflow();
     update();
 }
 

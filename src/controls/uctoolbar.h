@@ -52,6 +52,8 @@
 #include <QStringList>
 #include <QWidget>
 
+class QToolButton;
+
 namespace quovara {
 
 class ucToolbar : public QWidget {
@@ -110,6 +112,9 @@ public:
     void ActivateButton(int Button);
     // Raises the drop-down of a drop-down button as its arrow would.
     void DropDownButton(int Button);
+    // The buttons that do not fit in the toolbar's width; they are offered by its overflow
+    // arrow (object name "Overflow"), shown only while there are any.
+    QList<int> OverflowButtons() const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -135,6 +140,10 @@ protected:
     void focusOutEvent(QFocusEvent* e) override;
 
 private:
+    void placeOverflow();
+    void showOverflowMenu();
+    ::QToolButton* m_overflow = nullptr;
+
     struct Button {
         QString caption;
         int image = -1;

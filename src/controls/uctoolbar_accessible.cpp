@@ -14,13 +14,24 @@ ucToolbar* ToolbarAccessible::toolbar() const {
     return static_cast<ucToolbar*>(widget());
 }
 
+namespace {
+// The overflow arrow while it is shown: a real button, the toolbar's last child.
+QWidget* visibleOverflow(const ucToolbar* toolbar) {
+    QWidget* w =
+        toolbar->findChild<QWidget*>(QStringLiteral("Overflow"), Qt::FindDirectChildrenOnly);
+    return w && w->isVisible() ? w : nullptr;
+}
+} // namespace
+
 int ToolbarAccessible::childCount() const {
-    return toolbar()->ButtonCount();
+    return toolbar()->ButtonCount() + (visibleOverflow(toolbar()) ? 1 : 0);
 }
 
 QAccessibleInterface* ToolbarAccessible::child(int index) const {
     if (index < 0 || index >= childCount())
         return nullptr;
+    if (index == toolbar()->ButtonCount())
+        return QAccessible::queryAccessibleInterface(visibleOverflow(toolbar()));
     const int id = index + 1;
     return m_children.get(quint64(id), [&] { return new ToolbarButtonAccessible(toolbar(), id); });
 }

@@ -7,8 +7,11 @@
 #include <QHBoxLayout>
 #include <QHelpEvent>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPainter>
 #include <QTest>
+#include <QTimer>
+#include <QToolButton>
 #include <QToolTip>
 #include <gtest/gtest.h>
 #include <memory>
@@ -348,4 +351,33 @@ TEST_F(ToolbarFixture, HotButtonIsDrawnDifferently) {
     const QRect r = tb->ButtonRect(3);
     // Outside the hot button nothing changed.
     EXPECT_EQ(before.copy(0, 0, r.left(), tb->height()), hot.copy(0, 0, r.left(), tb->height()));
+}
+
+TEST_F(ToolbarFixture, ButtonsThatDoNotFitStayReachableThroughTheOverflowArrow) {
+    auto* overflow = tb->findChild<QToolButton*>(QStringLiteral("Overflow"));
+    ASSERT_NE(overflow, nullptr);
+    EXPECT_FALSE(overflow->isVisible());
+    EXPECT_TRUE(tb->OverflowButtons().isEmpty());
+    // Narrower than its buttons: the last ones are offered by the arrow.
+    tb->resize(tb->ButtonRect(3).right() + 10, tb->height());
+    EXPECT_TRUE(overflow->isVisible());
+    EXPECT_EQ(tb->OverflowButtons(), QList<int>({3, 4, 5, 6}));
+    EXPECT_EQ(overflow->accessibleName(), "More buttons");
+    // Clicking the arrow opens the menu; choosing "Add" clicks that button.
+    QStringList offered;
+    QTimer::singleShot(0, [&] {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        if (!menu)
+            return;
+        for (QAction* a : menu->actions())
+            offered << a->text() + (a->isEnabled() ? "" : " (disabled)");
+        menu->setActiveAction(menu->actions().first());
+        QTest::keyClick(menu, Qt::Key_Return);
+    });
+    QTest::mouseClick(overflow, Qt::LeftButton);
+    EXPECT_EQ(offered, QStringList({"Add", "Extract (disabled)", "View", "Check"}));
+    EXPECT_TRUE(events.contains("ButtonClick 3")) << events.join('|').toStdString();
+    // Wide enough again: no arrow.
+    tb->resize(tb->sizeHint().width() + 10, tb->height());
+    EXPECT_FALSE(overflow->isVisible());
 }

@@ -392,8 +392,12 @@ void frmApri::buildTaskPane() {
     Barra->AddGroup(QStringLiteral("Dettagli"), QStringLiteral("Details"));
     Barra->AddGroup(QStringLiteral("Operazioni"), QStringLiteral("File and Folder Operations"));
     Barra->AddGroup(QStringLiteral("Stato"), QStringLiteral("State"));
-    for (QWidget* w : {pDettagli, pOperazioni, pStato})
-        w->setFixedSize(Barra->width() - 30, w->sizeHint().height());
+    // Each group's content takes the height it needs; its width follows the pane (narrower
+    // when the pane shows its scroll bar), so nothing in it is cut.
+    for (QWidget* w : {pDettagli, pOperazioni, pStato}) {
+        w->resize(Barra->width() - 30, w->sizeHint().height());
+        w->setFixedHeight(w->sizeHint().height());
+    }
     Barra->SetGroupChild(QStringLiteral("Dettagli"), pDettagli);
     Barra->SetGroupChild(QStringLiteral("Operazioni"), pOperazioni);
     Barra->SetGroupChild(QStringLiteral("Stato"), pStato);
