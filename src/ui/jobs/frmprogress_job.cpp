@@ -203,8 +203,13 @@ void frmProgress::restartWithSwitchedEngine() {
     SwitchEngine(main_.engineSwitch(), ProgramFolder(), pendingVersionMessage_);
     pendingVersionMessage_.clear();
     phase_ = Phase::Idle;
-    // Activate again from step 1 (also for a window in the notification area, whose job goes
-    // on); startTime stays, so the elapsed time keeps counting.
+    // The Activate run starts again from its first step, which honours trayUsed: a window that
+    // has been to the notification area does not start the job again (kept as the Activate
+    // handler has it). startTime stays, so the elapsed time keeps counting.
+    if (TrayUsed()) {
+        qCDebug(lcJobWindow) << "trayUsed is set: the restarted Activate run returns at once";
+        return;
+    }
     startJob();
 }
 

@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QRegularExpression>
 #include <QTest>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 using namespace quovara;
@@ -198,4 +199,34 @@ TEST_F(ProgressTray, ShowMinimizedEndsInTheNotificationAreaToo) {
     EXPECT_FALSE(bench.main->isVisible());
     ASSERT_TRUE(bench.waitUnloaded(w));
     EXPECT_FALSE(bench.tray->shown);
+}
+
+TEST_F(ProgressTray, AfterAVersionRequestTheRestartedRunHonoursTrayUsed) {
+    bench.makeSource(4, 20000);
+    archive = bench.makeArchive(kFour, "four.uha");
+    bench.writeExtractScript(archive, bench.places.path() + "/dest");
+    bench.setDelay(300);
+    // As soon as the job has started, the window has been to the notification area: before
+    // the engine's request is read (the first round comes 100 ms after the start).
+    QTimer probe;
+    probe.setInterval(1);
+    QObject::connect(&probe, &QTimer::timeout, [&] {
+        auto* p = bench.main->findChild<frmProgress*>("frmExtracting");
+        if (p && p->runs() == 1 && !TrayUsed())
+            SetTrayUsed(true);
+    });
+    probe.start();
+    frmProgress* w = bench.open(JobKind::Extract);
+    ASSERT_TRUE(WaitFor([&] { return bench.main->engineSwitch().engineSwitched; }));
+    probe.stop();
+    // The Activate run starts again from its first step and returns at once: no second run.
+    QTest::qWait(400);
+    EXPECT_EQ(w->runs(), 1);
+    EXPECT_FALSE(w->jobRunning());
+    EXPECT_FALSE(QFileInfo(bench.places.path() + "/dest/f00.bin").exists());
+    // Closing the window undoes the switch.
+    w->close();
+    ASSERT_TRUE(bench.waitUnloaded(w));
+    EXPECT_FALSE(bench.main->engineSwitch().engineSwitched);
+    EXPECT_EQ(readAll(bench.programFile("uharc.exe")), readAll(kSix));
 }
