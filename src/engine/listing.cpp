@@ -10,6 +10,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
 #include <QSet>
@@ -311,7 +312,8 @@ constexpr qint64 kChunk = 256 * 1024;
 
 } // namespace
 
-ListingPass ReadListingLog(const QString& logPath, EngineCodec codec, const QString& treeFolder) {
+ListingPass ReadListingLog(const QString& logPath, EngineCodec codec, const QString& treeFolder,
+                           const std::atomic<bool>* stop, std::atomic<qint64>* entries) {
     ListingPass pass;
     QFile file(logPath);
     if (!file.open(QIODevice::ReadOnly))
@@ -354,6 +356,8 @@ ListingPass ReadListingLog(const QString& logPath, EngineCodec codec, const QStr
             placeEntry(writer, name);
             if (!writer.failure().isEmpty())
                 pass.treeProblem = writer.failure();
+            if (entries)
+                entries->fetch_add(1, std::memory_order_relaxed);
         }
     };
 
@@ -362,6 +366,10 @@ ListingPass ReadListingLog(const QString& logPath, EngineCodec codec, const QStr
         chunk = file.read(kChunk);
         if (chunk.isEmpty())
             break;
+        if (stop && stop->load()) {
+            pass.treeProblem = QStringLiteral("the reading was stopped");
+            return pass;
+        }
         for (const char c : chunk) {
             if (c == '\n' && lastWasCr) {
                 lastWasCr = false;
@@ -479,7 +487,25 @@ void ArchiveLister::Batch() {
     const QString staging = ScratchFolder() + QStringLiteral(".new");
     if (!EmptyFolderQuickly(staging))
         qCDebug(lcListing) << "could not empty" << staging;
-    pass_ = ReadListingLog(log, ActiveEngineCodec(), staging);
+    // The pass runs beside the window's thread, which waits in an event loop: the window
+    // stays live (it repaints, and Escape stops the reading) while the tree is made.
+    stop_ = false;
+    entries_ = 0;
+    const EngineCodec codec = ActiveEngineCodec();
+    QEventLoop loop;
+    std::thread worker([&] {
+        pass_ = ReadListingLog(log, codec, staging, &stop_, &entries_);
+        QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
+    });
+    loop.exec();
+    worker.join();
+    if (cancelled_) {
+        qCDebug(lcListing) << "listing stopped by the user while the tree was made";
+        if (!QDir(staging).removeRecursively())
+            qCDebug(lcListing) << "could not delete" << staging;
+        listing_.status = ListStatus::Failed;
+        return;
+    }
     listing_.status = SpecificaErrore(Errore());
 }
 
@@ -510,6 +536,7 @@ ListStatus ArchiveLister::SpecificaErrore(const QString& message) {
 
 void ArchiveLister::Cancel() {
     cancelled_ = true;
+    stop_ = true;
     StopWaitedJobs();
 }
 

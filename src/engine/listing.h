@@ -11,6 +11,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <atomic>
 #include <optional>
 
 namespace quovara {
@@ -95,7 +96,12 @@ struct ListingPass {
     std::optional<ArchiveTotals> totals;
     qint64 lines = 0;
 };
-ListingPass ReadListingLog(const QString& logPath, EngineCodec codec, const QString& treeFolder);
+// `stop` (when given) is looked at between lines: once it is set, the pass ends, incomplete.
+// `entries` (when given) counts the entries placed so far, for a progress display; both may be
+// read from another thread than the one running the pass.
+ListingPass ReadListingLog(const QString& logPath, EngineCodec codec, const QString& treeFolder,
+                           const std::atomic<bool>* stop = nullptr,
+                           std::atomic<qint64>* entries = nullptr);
 
 // Empties `folder` at once without waiting for the deletion: its content is moved aside (a
 // rename) and deleted in the background; the folder itself is made again, empty. False when it
@@ -141,6 +147,9 @@ public:
     void Cancel();
     bool cancelled() const { return cancelled_; }
 
+    // Entries placed in the mirror tree so far by the listing under way.
+    qint64 entriesPlaced() const { return entries_.load(); }
+
     // What the last listing's one pass over its log found.
     const ListingPass& lastPass() const { return pass_; }
 
@@ -154,6 +163,8 @@ private:
     QString startError_;
     ListingPass pass_;
     bool cancelled_ = false;
+    std::atomic<bool> stop_{false};
+    std::atomic<qint64> entries_{0};
 };
 
 } // namespace quovara

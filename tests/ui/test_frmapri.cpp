@@ -24,6 +24,7 @@
 #include <QMimeData>
 #include <QProcess>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
@@ -957,4 +958,53 @@ TEST_F(MainWindow, NothingIsDraggedOutOfTheMirrorTree) {
     }
     window_.fileView()->setFolder(places_.path());
     EXPECT_TRUE(window_.fileView()->currentView()->dragEnabled());
+}
+
+TEST_F(MainWindow, TheWindowStaysLiveAndCountsEntriesWhileABigArchiveIsRead) {
+    // An engine that answers with the listing of 40,000 entries in 40 folders.
+    QByteArray log =
+        "\r\n=== LOG ===\r\n\r\n\r\n\r\n\r\n\r\nheader\r\n" + QByteArray(79, '-') + "\r\n";
+    const int count = 40000;
+    for (int i = 0; i < count; ++i)
+        log += "d" + QByteArray::number(i % 40) + "\\f" + QByteArray::number(i) +
+               ".txt\r\n                                       0  22-Nov-2026  14:28:18  ---A  "
+               "00000000\r\n";
+    log += QByteArray(79, '-') + "\r\n" + QByteArray::number(count) +
+           " files                                0\r\n                                       "
+           "0 packed (ALZ:2-mode), ratio: 0.0%\r\n" +
+           QByteArray(79, '=') + "\r\n";
+    const QString logFile = places_.path() + "/big.log";
+    writeFile(logFile, log);
+    const QString archive = places_.path() + "/big.uha";
+    writeFile(archive, "UHA");
+    ASSERT_TRUE(window_.Form_Load(QString()));
+    show();
+    // In place of the engine once the start-up has put its engine in place.
+    const QString engine = places_.programFolder() + "/uharc.exe";
+    QFile::remove(engine);
+    writeExecutable(engine, "#!/bin/sh\nfor a in \"$@\"; do case \"$a\" in -lg*) cat '" +
+                                logFile.toUtf8() + "' >> \"${a#-lg}\";; esac; done\n");
+    QStringList states;
+    QElapsedTimer sinceTick;
+    qint64 longestGap = 0;
+    QTimer probe;
+    probe.setInterval(10);
+    QObject::connect(&probe, &QTimer::timeout, [&] {
+        longestGap = std::max(longestGap, sinceTick.restart());
+        const QString s = text("Stato");
+        if (states.isEmpty() || states.last() != s)
+            states << s;
+    });
+    sinceTick.start();
+    probe.start();
+    window_.OpenItem(archive);
+    probe.stop();
+    ASSERT_TRUE(archiveLayout());
+    EXPECT_EQ(text("NomeAr"), "Files: 40000");
+    // The window's own loop ran while the tree was made, and it showed the count.
+    EXPECT_TRUE(states.filter(QRegularExpression("^Quovara is reading the archive: \\d+ entries$"))
+                    .size() >= 1)
+        << states.join('|').toStdString();
+    std::printf("longest gap between two runs of the event loop while listing: %lld ms\n",
+                static_cast<long long>(longestGap));
 }

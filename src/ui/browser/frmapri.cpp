@@ -426,7 +426,17 @@ void frmApri::OpenItem(const QString& path) {
                        QStringLiteral(" \u2014 ") + baseTitle_);
         setStatus(apri::Reading, apri::EscapeStops);
     }
+    // The count of entries made so far, while the folder view is built.
+    QTimer count;
+    count.setInterval(200);
+    connect(&count, &QTimer::timeout, this, [this] {
+        if (const qint64 n = lister_.entriesPlaced(); n > 0)
+            Stato->setText(QString::fromLatin1(apri::ReadingCount).arg(n));
+    });
+    if (archiveName)
+        count.start();
     const bool listed = lister_.OpenSelectedArchive(path);
+    count.stop();
     if (archiveName) {
         listingNow_ = false;
         stopReading_->setEnabled(false);

@@ -45,6 +45,7 @@ inline constexpr char PleaseWait[] = "Please wait ...";
 // While an archive is listed: the state texts and the window title (%1: the archive's name).
 inline constexpr char Reading[] = "Quovara is reading the archive";
 inline constexpr char EscapeStops[] = "Press Escape to stop";
+inline constexpr char ReadingCount[] = "Quovara is reading the archive: %1 entries";
 inline constexpr char ReadingTitle[] = "Reading %1 \u2026";
 // The version page: the product's web server, a fixed path and a fixed query.
 inline constexpr char VersionPage[] =
