@@ -246,7 +246,12 @@ frmApri::frmApri(QWidget* parent)
     });
     connect(&search_, &ArchiveSearch::found, this, [this](const QString& name, const QString& in) {
         auto* row = new QTreeWidgetItem(Trovati, {name, in});
-        row->setIcon(0, SharedFileIconProvider()->icon(QFileInfo(name)));
+        // One icon look-up per kind of file, not per hit: a search can find thousands.
+        const QString kind = QFileInfo(name).suffix().toLower();
+        auto icon = searchIcons_.constFind(kind);
+        if (icon == searchIcons_.constEnd())
+            icon = searchIcons_.insert(kind, SharedFileIconProvider()->icon(QFileInfo(name)));
+        row->setIcon(0, *icon);
     });
     connect(&search_, &ArchiveSearch::finished, this,
             [this] { setStatus(apri::Ready, apri::SelectAction); });

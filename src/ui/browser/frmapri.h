@@ -9,6 +9,8 @@
 #include "engine/listing.h"
 #include "ui/common/messageprompter.h"
 
+#include <QHash>
+#include <QIcon>
 #include <QMainWindow>
 
 class QShortcut;
@@ -120,6 +122,9 @@ protected:
     virtual QString askArchiveToOpen();
 
 private:
+    // Icons of search results by file extension.
+    QHash<QString, QIcon> searchIcons_;
+
     // The first existing local file or folder of a drag, or empty.
     static QString droppedPath(const QMimeData* data);
     void openDropped(const QString& path);
