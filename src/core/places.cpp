@@ -14,6 +14,7 @@
 #include <cstring>
 #include <pwd.h>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 #include <vector>
 #endif
@@ -165,10 +166,40 @@ void CleanWorkFolder() {
             qCDebug(lcFiles) << "could not remove the link" << work;
         return;
     }
-    if (!info.isDir())
+    // The previous session's work folder (its mirror tree can hold many thousands of
+    // placeholders) is moved aside at once and deleted in the background, together with any
+    // such folder of ours that an earlier session left half-deleted: start-up never waits.
+    QStringList aside;
+    const QDir root(QFileInfo(work).absolutePath());
+    const QString prefix = QFileInfo(work).fileName() + QStringLiteral(".old-");
+    for (const QFileInfo& old : root.entryInfoList({prefix + QLatin1Char('*')},
+                                                   QDir::Dirs | QDir::Hidden | QDir::NoSymLinks)) {
+#ifdef Q_OS_UNIX
+        if (old.ownerId() != ::geteuid())
+            continue; // someone else's: never touched
+#endif
+        aside << old.absoluteFilePath();
+    }
+    if (info.isDir()) {
+        static int generation = 0;
+        const QString moved = root.filePath(
+            prefix +
+            QStringLiteral("%1-%2").arg(QCoreApplication::applicationPid()).arg(++generation));
+        if (QDir().rename(work, moved)) {
+            aside << moved;
+        } else {
+            qCDebug(lcFiles) << "could not move the work folder aside; deleting it here";
+            if (!QDir(work).removeRecursively())
+                qCDebug(lcFiles) << "could not delete the work folder completely" << work;
+        }
+    }
+    if (aside.isEmpty())
         return;
-    if (!QDir(work).removeRecursively())
-        qCDebug(lcFiles) << "could not delete the work folder completely" << work;
+    std::thread([aside] {
+        for (const QString& folder : aside)
+            if (!QDir(folder).removeRecursively())
+                qCDebug(lcFiles) << "could not delete the old work folder" << folder;
+    }).detach();
 }
 
 void MakeDir(const QString& path) {

@@ -8,7 +8,9 @@
 #include "test_support.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QLockFile>
+#include <QThread>
 #include <gtest/gtest.h>
 
 #include <sys/stat.h>
@@ -308,4 +310,23 @@ TEST(PrepareWorkspace, AWorkFolderThatCannotBeMadePrivateStopsTheProgramWithItsP
               QStringList({"critical: Quovara cannot use its work folder\n" + file +
                            "/Corvana\nbecause it cannot be reached (Not a directory).\nNothing "
                            "is written there, and no job runs until this is put right."}));
+}
+
+TEST(CleanWorkFolder, TheOldWorkFolderAndLeftoversAreDeletedInTheBackground) {
+    ScopedPlaces places;
+    QDir().mkpath(ScratchFolder() + "/a/b");
+    writeFile(ScratchFolder() + "/a/b/c.txt", "");
+    // Left half-deleted by an earlier session.
+    QDir().mkpath(WorkFolder() + ".old-1-1/Tessimo/x");
+    CleanWorkFolder();
+    // The work folder is gone at once; what was moved aside goes soon after.
+    EXPECT_FALSE(QFileInfo::exists(WorkFolder()));
+    QElapsedTimer t;
+    t.start();
+    auto leftovers = [&] {
+        return QDir(places.tempRoot()).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    };
+    while (!leftovers().isEmpty() && t.elapsed() < 5000)
+        QThread::msleep(10);
+    EXPECT_TRUE(leftovers().isEmpty()) << leftovers().join(',').toStdString();
 }
