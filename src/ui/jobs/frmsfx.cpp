@@ -31,7 +31,9 @@ SfxSaveDialog& saveDialogHook() {
     return hook;
 }
 
-QString platformSaveDialog(QWidget* parent, const SfxSaveRequest& request) {
+} // namespace
+
+QString PlatformSfxSaveDialog(QWidget* parent, const SfxSaveRequest& request) {
     QFileDialog dialog(parent, request.title);
     dialog.setObjectName(QStringLiteral("CommonDialog"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
@@ -45,9 +47,20 @@ QString platformSaveDialog(QWidget* parent, const SfxSaveRequest& request) {
         dialog.selectFile(request.proposal);
     if (dialog.exec() != QDialog::Accepted)
         return QString();
+    // Qt's own dialog reads a typed name holding '"' as a list of quoted names; on Linux a
+    // double quote is an ordinary letter of a file name, so such a name is taken whole.
+    if (const auto* edit = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        edit && edit->text().contains(QLatin1Char('"'))) {
+        QString name = edit->text();
+        if (!request.suffix.isEmpty() && QFileInfo(name).suffix().isEmpty())
+            name += QLatin1Char('.') + request.suffix;
+        return QFileInfo(name).isAbsolute() ? name : dialog.directory().filePath(name);
+    }
     const QStringList chosen = dialog.selectedFiles();
     return chosen.isEmpty() ? QString() : chosen.first();
 }
+
+namespace {
 
 // The assembly speaks to the main window's state and hint lines and to the user.
 class LabelFeedback : public SfxFeedback {
@@ -356,7 +369,7 @@ void frmSFX::cmdOk_Click() {
                            QStringLiteral(".exe");
     }
     const SfxSaveDialog& hook = saveDialogHook();
-    const QString output = hook ? hook(this, request) : platformSaveDialog(this, request);
+    const QString output = hook ? hook(this, request) : PlatformSfxSaveDialog(this, request);
     if (output.isEmpty())
         return;
 

@@ -50,6 +50,9 @@ struct SfxSaveRequest {
 
 // Shows the save dialog and answers the chosen path, or the empty string for Cancel.
 using SfxSaveDialog = std::function<QString(QWidget* parent, const SfxSaveRequest& request)>;
+// The platform's save dialog. A name that holds double quotes (legal here) is taken as typed,
+// not read as a list of quoted names.
+QString PlatformSfxSaveDialog(QWidget* parent, const SfxSaveRequest& request);
 // Replaces the save dialog (tests answer it without a modal window); an empty function
 // restores the platform's file dialog.
 void SetSfxSaveDialog(SfxSaveDialog dialog);

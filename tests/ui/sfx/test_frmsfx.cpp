@@ -11,7 +11,9 @@
 #include "ui/browser/frmapri.h"
 #include "ui/jobs/frmsfx.h"
 
+#include <QApplication>
 #include <QComboBox>
+#include <QFileDialog>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -19,7 +21,9 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QTabBar>
+#include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -543,4 +547,28 @@ TEST_F(SfxFromMainWindow, SfxRequestWordOnAProtectedArchiveIsRefused) {
     EXPECT_FALSE(act.acted());
     EXPECT_TRUE(prompter_.shown.contains(
         "information: You cannot create a SFX with an archive protected by a password"));
+}
+
+TEST(SfxSaveDialog, ANameWithDoubleQuotesIsTakenWhole) {
+    QTemporaryDir dir;
+    SfxSaveRequest request;
+    request.title = "Save the SFX";
+    request.filter = "Application (*.exe)";
+    request.suffix = "exe";
+    request.proposal = dir.filePath("it's \"q\".exe");
+    // Accept the proposal as it stands, with Enter in the name box.
+    QTimer poll;
+    poll.setInterval(20);
+    QObject::connect(&poll, &QTimer::timeout, [&poll] {
+        for (QWidget* w : QApplication::topLevelWidgets())
+            if (auto* d = qobject_cast<QFileDialog*>(w); d && d->isVisible()) {
+                poll.stop();
+                auto* edit = d->findChild<QLineEdit*>("fileNameEdit");
+                ASSERT_NE(edit, nullptr);
+                QTest::keyClick(edit, Qt::Key_Return);
+                return;
+            }
+    });
+    poll.start();
+    EXPECT_EQ(PlatformSfxSaveDialog(nullptr, request), request.proposal);
 }
