@@ -82,6 +82,24 @@ EngineCodec ActiveEngineCodec() {
                                                             : EngineCodec::Utf8;
 }
 
+QStringList SplitAnyLineEnds(const QString& text) {
+    QStringList lines;
+    qsizetype start = 0;
+    const qsizetype n = text.size();
+    for (qsizetype i = 0; i < n; ++i) {
+        const QChar c = text[i];
+        if (c != QLatin1Char('\r') && c != QLatin1Char('\n'))
+            continue;
+        lines.append(text.mid(start, i - start));
+        if (c == QLatin1Char('\r') && i + 1 < n && text[i + 1] == QLatin1Char('\n'))
+            ++i;
+        start = i + 1;
+    }
+    if (start < n)
+        lines.append(text.mid(start));
+    return lines;
+}
+
 QStringList SplitEngineLines(const QString& text) {
     QStringList lines;
     qsizetype start = 0;

@@ -35,4 +35,8 @@ EngineCodec ActiveEngineCodec();
 // unfinished line counts too.
 QStringList SplitEngineLines(const QString& text);
 
+// Splits text into lines at CR LF, CR or LF alike (logs and list files written by other tools);
+// the last, unfinished line counts too.
+QStringList SplitAnyLineEnds(const QString& text);
+
 } // namespace quovara

@@ -12,7 +12,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcessEnvironment>
-#include <QRegularExpression>
 #include <QSocketNotifier>
 #include <QStandardPaths>
 
@@ -106,7 +105,7 @@ QString writeLauncherList(const QString& listPath, const QString& copyPath) {
             .arg(listPath, list.errorString());
     const QString text = QString::fromLocal8Bit(list.readAll());
     QStringList lines;
-    for (QString line : text.split(QRegularExpression(QStringLiteral("\\r\\n|\\n|\\r")))) {
+    for (QString line : SplitAnyLineEnds(text)) {
         if (line.isEmpty())
             continue;
         line = line.startsWith(QLatin1Char('/'))

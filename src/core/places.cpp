@@ -157,6 +157,34 @@ QString ProgramFolder() {
     return QDir::toNativeSeparators(data);
 }
 
+namespace {
+
+void deleteInBackground(const QStringList& folders) {
+    std::thread([folders] {
+        for (const QString& folder : folders)
+            if (!QDir(folder).removeRecursively())
+                qCDebug(lcFiles) << "could not delete the folder moved aside" << folder;
+    }).detach();
+}
+
+} // namespace
+
+bool MoveAsideAndDelete(const QString& folder) {
+    const QFileInfo info(folder);
+    if (!info.isDir() || info.isSymLink())
+        return true;
+    static int generation = 0;
+    const QString aside =
+        folder +
+        QStringLiteral(".old-%1-%2").arg(QCoreApplication::applicationPid()).arg(++generation);
+    if (QDir().rename(folder, aside)) {
+        deleteInBackground({aside});
+        return true;
+    }
+    qCDebug(lcFiles) << "could not move" << folder << "aside; deleting it here";
+    return QDir(folder).removeRecursively();
+}
+
 void CleanWorkFolder() {
     const QString work = WorkFolder();
     QFileInfo info(work);
@@ -169,37 +197,21 @@ void CleanWorkFolder() {
     // The previous session's work folder (its mirror tree can hold many thousands of
     // placeholders) is moved aside at once and deleted in the background, together with any
     // such folder of ours that an earlier session left half-deleted: start-up never waits.
-    QStringList aside;
     const QDir root(QFileInfo(work).absolutePath());
     const QString prefix = QFileInfo(work).fileName() + QStringLiteral(".old-");
+    QStringList leftovers;
     for (const QFileInfo& old : root.entryInfoList({prefix + QLatin1Char('*')},
                                                    QDir::Dirs | QDir::Hidden | QDir::NoSymLinks)) {
 #ifdef Q_OS_UNIX
         if (old.ownerId() != ::geteuid())
             continue; // someone else's: never touched
 #endif
-        aside << old.absoluteFilePath();
+        leftovers << old.absoluteFilePath();
     }
-    if (info.isDir()) {
-        static int generation = 0;
-        const QString moved = root.filePath(
-            prefix +
-            QStringLiteral("%1-%2").arg(QCoreApplication::applicationPid()).arg(++generation));
-        if (QDir().rename(work, moved)) {
-            aside << moved;
-        } else {
-            qCDebug(lcFiles) << "could not move the work folder aside; deleting it here";
-            if (!QDir(work).removeRecursively())
-                qCDebug(lcFiles) << "could not delete the work folder completely" << work;
-        }
-    }
-    if (aside.isEmpty())
-        return;
-    std::thread([aside] {
-        for (const QString& folder : aside)
-            if (!QDir(folder).removeRecursively())
-                qCDebug(lcFiles) << "could not delete the old work folder" << folder;
-    }).detach();
+    if (!leftovers.isEmpty())
+        deleteInBackground(leftovers);
+    if (info.isDir() && !MoveAsideAndDelete(work))
+        qCDebug(lcFiles) << "could not delete the work folder completely" << work;
 }
 
 void MakeDir(const QString& path) {

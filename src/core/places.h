@@ -65,6 +65,12 @@ QString WorkFile(const char* name);
 // when it holds an engine file; else the per-user data folder (created on demand).
 QString ProgramFolder();
 
+// Gets `folder` (a real folder, not a link) out of the way at once: it is renamed to
+// "<folder>.old-<pid>-<n>" beside itself and deleted on a background thread, so that the caller
+// never waits for a large tree. When the rename fails it is deleted here. False when it could
+// be neither moved nor deleted; true also when there was no such folder.
+bool MoveAsideAndDelete(const QString& folder);
+
 // Deletes the WorkFolder with everything in it when it exists; does not create it again.
 // A WorkFolder that is a symbolic link is unlinked, never followed.
 void CleanWorkFolder();

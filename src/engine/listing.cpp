@@ -57,24 +57,8 @@ QStringList ReadEngineLines(const QString& path, bool* opened, EngineCodec codec
         *opened = ok;
     if (!ok)
         return {};
-    // The real engine ends its log lines with CR LF; other tools may write LF or CR alone, and
-    // each of them ends a line here too.
-    QString text = DecodeEngineText(file.readAll(), codec);
-    QStringList lines;
-    qsizetype start = 0;
-    const qsizetype n = text.size();
-    for (qsizetype i = 0; i < n; ++i) {
-        const QChar c = text[i];
-        if (c != QLatin1Char('\r') && c != QLatin1Char('\n'))
-            continue;
-        lines.append(text.mid(start, i - start));
-        if (c == QLatin1Char('\r') && i + 1 < n && text[i + 1] == QLatin1Char('\n'))
-            ++i;
-        start = i + 1;
-    }
-    if (start < n)
-        lines.append(text.mid(start));
-    return lines;
+    // The real engine ends its log lines with CR LF; other tools may write LF or CR alone.
+    return SplitAnyLineEnds(DecodeEngineText(file.readAll(), codec));
 }
 
 QString ScanListingErrors(const QStringList& lines) {
@@ -229,71 +213,6 @@ QString ListingFailedMessage(const QString& archive, const QString& problem) {
         .arg(archive, problem);
 }
 
-bool EmptyFolderQuickly(const QString& folder) {
-    const QFileInfo info(folder);
-    if (info.isDir() && !info.isSymLink()) {
-        // A rename is instant whatever the folder holds; the deletion goes on in the background.
-        static int generation = 0;
-        const QString aside =
-            folder +
-            QStringLiteral(".old%1-%2").arg(QCoreApplication::applicationPid()).arg(++generation);
-        if (!QDir().rename(folder, aside)) {
-            qCDebug(lcListing) << "could not move the old mirror tree aside; deleting it here";
-            if (!QDir(folder).removeRecursively())
-                return false;
-        } else {
-            std::thread([aside] {
-                if (!QDir(aside).removeRecursively())
-                    qCDebug(lcListing) << "could not delete the old mirror tree" << aside;
-            }).detach();
-        }
-    } else if (info.isSymLink() && !QFile::remove(folder)) {
-        return false;
-    }
-    MirrorWriter fresh(folder);
-    return fresh.rootOk();
-}
-
-bool BuildMirrorTree(const QStringList& lines, const QString& scratchFolder, QString* problem) {
-    MirrorWriter writer(scratchFolder);
-    auto failWith = [&](const QString& why) {
-        if (problem)
-            *problem = why;
-        // No partial tree is ever shown.
-        if (!QDir(scratchFolder).removeRecursively() || !QDir().mkdir(scratchFolder))
-            qCDebug(lcListing) << "could not empty the mirror tree after a failure";
-        return false;
-    };
-    if (!writer.rootOk())
-        return failWith(QStringLiteral("it cannot create the folder view %1").arg(scratchFolder));
-    const QString separator = ListingSeparator();
-    qsizetype next = 9; // nine header lines are skipped unread
-    QString name;
-    // The test comes before the read, so the separator itself is handled as a last entry (its
-    // "detail line" being the first totals line); its placeholder is removed afterwards.
-    while (name != separator) {
-        if (next >= lines.size()) {
-            qCDebug(lcListing) << "listing ends before its separator line";
-            return failWith(QStringLiteral("the engine's listing is incomplete"));
-        }
-        name = EntryName(lines[next]);
-        next += 2;
-        QString folder = sGivePath(name);
-        if (Tipo(folder) == 1)
-            folder = folder.mid(2);
-        else if (folder.size() == 2 && folder[1] == QLatin1Char(':'))
-            folder.clear(); // an entry at a drive's root ("C:\a.txt") lands at the root
-        const QString file = sGiveFile(name);
-        writer.placeholder(writer.makeFolder(folder), file);
-        if (!writer.failure().isEmpty())
-            return failWith(writer.failure());
-    }
-    const QString artefact = QDir(scratchFolder).filePath(separator);
-    if (!QFile::remove(artefact))
-        qCDebug(lcListing) << "could not remove" << artefact;
-    return true;
-}
-
 namespace {
 
 // Where a placeholder for the entry `name` goes: its folder (drive and drive root dropped) and
@@ -312,6 +231,104 @@ constexpr qint64 kChunk = 256 * 1024;
 
 } // namespace
 
+bool EmptyFolderQuickly(const QString& folder) {
+    if (QFileInfo(folder).isSymLink()) {
+        if (!QFile::remove(folder))
+            return false;
+    } else if (!MoveAsideAndDelete(folder)) {
+        return false;
+    }
+    MirrorWriter fresh(folder);
+    return fresh.rootOk();
+}
+
+namespace {
+
+// The one pass's rules, line by line: the error scan, the mirror tree (nine header lines, then
+// an entry line and its detail line each, up to the separator) and the two totals lines.
+class ListingLineReader {
+public:
+    ListingLineReader(ListingPass& pass, const QString& treeFolder,
+                      std::atomic<qint64>* entries = nullptr)
+        : pass_(pass), writer_(treeFolder), separator_(ListingSeparator()), entries_(entries) {
+        if (!writer_.rootOk())
+            pass_.treeProblem =
+                QStringLiteral("it cannot create the folder view %1").arg(treeFolder);
+    }
+
+    void take(const QString& text) {
+        ++pass_.lines;
+        if (!versionRequest_ && text.startsWith(QLatin1String("ERROR:"))) {
+            const QString m = ScanListingErrors(QStringList{text});
+            if (!m.isEmpty()) {
+                pass_.error = m;
+                versionRequest_ = Like(m, QStringLiteral("*--> use UHARC version*"));
+            }
+        }
+        if (separatorSeen_) {
+            if (totalsLines_.size() < 2)
+                totalsLines_ << text;
+            return;
+        }
+        if (pass_.lines <= 9 || (pass_.lines - 10) % 2 != 0)
+            return;
+        const QString name = EntryName(text);
+        if (name == separator_) {
+            separatorSeen_ = true;
+            return;
+        }
+        if (pass_.treeProblem.isEmpty()) {
+            placeEntry(writer_, name);
+            if (!writer_.failure().isEmpty())
+                pass_.treeProblem = writer_.failure();
+            if (entries_)
+                entries_->fetch_add(1, std::memory_order_relaxed);
+        }
+    }
+
+    void finish() {
+        if (!separatorSeen_) {
+            qCDebug(lcListing) << "listing ends before its separator line";
+            if (pass_.treeProblem.isEmpty())
+                pass_.treeProblem = QStringLiteral("the engine's listing is incomplete");
+            return;
+        }
+        pass_.treeComplete = pass_.treeProblem.isEmpty();
+        QStringList tail(9);
+        tail << separator_ << totalsLines_;
+        pass_.totals = ReadTotals(tail);
+    }
+
+private:
+    ListingPass& pass_;
+    MirrorWriter writer_;
+    const QString separator_;
+    std::atomic<qint64>* entries_;
+    bool versionRequest_ = false;
+    bool separatorSeen_ = false;
+    QStringList totalsLines_;
+};
+
+} // namespace
+
+bool BuildMirrorTree(const QStringList& lines, const QString& scratchFolder, QString* problem) {
+    ListingPass pass;
+    {
+        ListingLineReader reader(pass, scratchFolder);
+        for (const QString& line : lines)
+            reader.take(line);
+        reader.finish();
+    }
+    if (pass.treeComplete)
+        return true;
+    if (problem)
+        *problem = pass.treeProblem;
+    // No partial tree is ever shown.
+    if (!QDir(scratchFolder).removeRecursively() || !QDir().mkdir(scratchFolder))
+        qCDebug(lcListing) << "could not empty the mirror tree after a failure";
+    return false;
+}
+
 ListingPass ReadListingLog(const QString& logPath, EngineCodec codec, const QString& treeFolder,
                            const std::atomic<bool>* stop, std::atomic<qint64>* entries) {
     ListingPass pass;
@@ -319,47 +336,10 @@ ListingPass ReadListingLog(const QString& logPath, EngineCodec codec, const QStr
     if (!file.open(QIODevice::ReadOnly))
         return pass;
     pass.opened = true;
-    MirrorWriter writer(treeFolder);
-    if (!writer.rootOk())
-        pass.treeProblem = QStringLiteral("it cannot create the folder view %1").arg(treeFolder);
-    const QString separator = ListingSeparator();
-    bool versionRequest = false;
-    bool separatorSeen = false;
-    QStringList totalsLines;
+    ListingLineReader reader(pass, treeFolder, entries);
     QByteArray line;
     bool lastWasCr = false;
-
-    auto takeLine = [&](const QByteArray& bytes) {
-        const QString text = DecodeEngineText(bytes, codec);
-        ++pass.lines;
-        if (!versionRequest && bytes.startsWith("ERROR:")) {
-            const QString m = ScanListingErrors(QStringList{text});
-            if (!m.isEmpty()) {
-                pass.error = m;
-                versionRequest = Like(m, QStringLiteral("*--> use UHARC version*"));
-            }
-        }
-        if (separatorSeen) {
-            if (totalsLines.size() < 2)
-                totalsLines << text;
-            return;
-        }
-        // Nine header lines, then an entry line and its detail line each.
-        if (pass.lines <= 9 || (pass.lines - 10) % 2 != 0)
-            return;
-        const QString name = EntryName(text);
-        if (name == separator) {
-            separatorSeen = true;
-            return;
-        }
-        if (pass.treeProblem.isEmpty()) {
-            placeEntry(writer, name);
-            if (!writer.failure().isEmpty())
-                pass.treeProblem = writer.failure();
-            if (entries)
-                entries->fetch_add(1, std::memory_order_relaxed);
-        }
-    };
+    auto takeLine = [&](const QByteArray& bytes) { reader.take(DecodeEngineText(bytes, codec)); };
 
     QByteArray chunk;
     for (;;) {
@@ -389,17 +369,7 @@ ListingPass ReadListingLog(const QString& logPath, EngineCodec codec, const QStr
     if (!line.isEmpty())
         takeLine(line);
 
-    if (!separatorSeen) {
-        if (pass.treeProblem.isEmpty())
-            pass.treeProblem = QStringLiteral("the engine's listing is incomplete");
-    } else if (pass.treeProblem.isEmpty()) {
-        pass.treeComplete = true;
-    }
-    if (separatorSeen) {
-        QStringList tail(9);
-        tail << separator << totalsLines;
-        pass.totals = ReadTotals(tail);
-    }
+    reader.finish();
     return pass;
 }
 
@@ -446,6 +416,13 @@ std::optional<ArchiveTotals> ReadTotals(const QStringList& lines) {
     return t;
 }
 
+namespace {
+// Where a new mirror tree is built until it is complete.
+QString stagingFolder() {
+    return ScratchFolder() + QStringLiteral(".new");
+}
+} // namespace
+
 ArchiveLister::ArchiveLister(Prompter& prompter, EngineSwitchState& engineSwitch)
     : prompter_(&prompter), switch_(engineSwitch) {}
 
@@ -484,7 +461,7 @@ void ArchiveLister::Batch() {
     }
     // The log is read once, in pieces: the error scan, the new mirror tree (built aside, so the
     // shown one stays until the new one is complete) and the totals in one pass.
-    const QString staging = ScratchFolder() + QStringLiteral(".new");
+    const QString staging = stagingFolder();
     if (!EmptyFolderQuickly(staging))
         qCDebug(lcListing) << "could not empty" << staging;
     // The pass runs beside the window's thread, which waits in an event loop: the window
@@ -565,7 +542,7 @@ ListStatus ArchiveLister::FileInArchivio(const QString& selectedPath) {
         case ListStatus::Opened: {
             // One archive at a time: the new tree, complete, takes the place of the old one,
             // which is deleted in the background.
-            const QString staging = ScratchFolder() + QStringLiteral(".new");
+            const QString staging = stagingFolder();
             QString problem = pass_.treeProblem;
             if (problem.isEmpty() && !pass_.totals)
                 problem = QStringLiteral("the engine's listing is incomplete");
@@ -589,11 +566,13 @@ ListStatus ArchiveLister::FileInArchivio(const QString& selectedPath) {
     }
 }
 
-bool ArchiveLister::OpenSelectedArchive(const QString& path) {
+bool IsArchiveName(const QString& path) {
     // The extension as the file system reports it: the text after the last dot of the name.
-    const QString name = QFileInfo(path).fileName();
-    const int dot = name.lastIndexOf(QLatin1Char('.'));
-    if (dot < 0 || name.mid(dot + 1) != QLatin1String("uha"))
+    return QFileInfo(path).suffix() == QLatin1String("uha");
+}
+
+bool ArchiveLister::OpenSelectedArchive(const QString& path) {
+    if (!IsArchiveName(path))
         return false;
     for (;;) {
         MirrorWriter scratch(ScratchFolder());

@@ -108,6 +108,9 @@ ListingPass ReadListingLog(const QString& logPath, EngineCodec codec, const QStr
 // could not be emptied.
 bool EmptyFolderQuickly(const QString& folder);
 
+// True for a name that is listed as an archive: its extension is "uha" in lower case.
+bool IsArchiveName(const QString& path);
+
 // The message for an archive whose listing cannot be shown.
 QString ListingFailedMessage(const QString& archive, const QString& problem);
 

@@ -4,6 +4,7 @@
 #include <QByteArray>
 #include <QDir>
 #include <QFile>
+#include <QList>
 #include <QString>
 #include <QTemporaryDir>
 #include <ostream>
@@ -20,6 +21,21 @@ inline void PrintTo(const QStringList& l, std::ostream* os) {
 }
 
 namespace quovara::testing {
+
+// A listing log in the engine's layout: nine header lines, an entry line and a detail line per
+// stored name, the separator and the two totals lines.
+inline QByteArray ListingLogOf(const QList<QByteArray>& storedNames) {
+    QByteArray log = "\r\n=== UHARC 0.6 LOG ===\r\n\r\n\r\n\r\n\r\n\r\nheader\r\n" +
+                     QByteArray(79, '-') + "\r\n";
+    for (const QByteArray& name : storedNames)
+        log += name + "\r\n                                       0  22-Nov-2026  14:28:18  ---A  "
+                      "00000000\r\n";
+    log += QByteArray(79, '-') + "\r\n" + QByteArray::number(storedNames.size()) +
+           " files                                0\r\n                                       "
+           "0 packed (ALZ:2-mode), ratio: 0.0%\r\n" +
+           QByteArray(79, '=') + "\r\n";
+    return log;
+}
 
 // File names in several scripts, with a blank and an apostrophe: Polish, Cyrillic, Greek,
 // Japanese, an emoji.

@@ -297,25 +297,6 @@ TEST(VersionSwitch, RecognitionAndTheVersionText) {
     EXPECT_FALSE(t.engineSwitched);
 }
 
-namespace {
-
-// A listing log of `count` entries in the engine's layout.
-QByteArray logOf(int count) {
-    QByteArray log = "\r\n=== UHARC 0.6 LOG ===\r\n\r\n\r\n\r\n\r\n\r\nheader\r\n" +
-                     QByteArray(79, '-') + "\r\n";
-    for (int i = 0; i < count; ++i)
-        log += "folder\\file" + QByteArray::number(i) +
-               ".txt\r\n                                       0  22-Nov-2026  14:28:18  ---A  "
-               "00000000\r\n";
-    log += QByteArray(79, '-') + "\r\n" + QByteArray::number(count) +
-           " files                                0\r\n                                       "
-           "0 packed (ALZ:2-mode), ratio: 0.0%\r\n" +
-           QByteArray(79, '=') + "\r\n";
-    return log;
-}
-
-} // namespace
-
 // A full disk while the folder view is made, on a small memory file system (where this machine
 // lets the test mount one).
 TEST_F(ListerTest, AFullDiskWhileTheFolderViewIsMadeIsReportedAndLeavesNoPartialTree) {
@@ -330,7 +311,10 @@ TEST_F(ListerTest, AFullDiskWhileTheFolderViewIsMadeIsReportedAndLeavesNoPartial
     qputenv("TMPDIR", mount.toLocal8Bit());
     ASSERT_EQ(EnsurePrivateWorkFolder(), QString());
     const QString log = places_.path() + "/many.log";
-    writeFile(log, logOf(200));
+    QList<QByteArray> names;
+    for (int i = 0; i < 200; ++i)
+        names << "folder\\file" + QByteArray::number(i) + ".txt";
+    writeFile(log, ListingLogOf(names));
     writeExecutable(engine("uharc.exe"), fakeEngine("SIX"));
     qputenv("QV_LOG_SIX_NONE", log.toLocal8Bit());
     ArchiveLister lister(prompter_, switch_);

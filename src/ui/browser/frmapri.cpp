@@ -423,7 +423,7 @@ void frmApri::OpenItem(const QString& path) {
         return;
     // While the archive is read the window says so, and Escape or closing it stops the reading.
     const QString title = windowTitle();
-    const bool archiveName = QFileInfo(path).suffix() == QLatin1String("uha");
+    const bool archiveName = IsArchiveName(path);
     if (archiveName) {
         listingNow_ = true;
         stopReading_->setEnabled(true);
@@ -741,7 +741,7 @@ QString frmApri::droppedPath(const QMimeData* data) {
 void frmApri::openDropped(const QString& path) {
     const QFileInfo info(path);
     pointBrowserAt(path);
-    if (info.isFile() && info.suffix() == QLatin1String("uha")) {
+    if (info.isFile() && IsArchiveName(path)) {
         // A dropped archive is opened as if it were double-clicked.
         OpenItem(path);
         return;
