@@ -208,25 +208,8 @@ TEST(FromCp437, DecodesTheHighHalf) {
     EXPECT_EQ(FromCp437("\xc4\xb3"), QString::fromUtf8("\u2500\u2502"));
 }
 
-namespace {
-
-// Unsets TMPDIR for one test and puts it back afterwards.
-class NoTmpDir {
-public:
-    NoTmpDir() : old_(qgetenv("TMPDIR")) { qunsetenv("TMPDIR"); }
-    ~NoTmpDir() {
-        if (!old_.isNull())
-            qputenv("TMPDIR", old_);
-    }
-
-private:
-    QByteArray old_;
-};
-
-} // namespace
-
 TEST(Places, WithoutTmpDirTheTempRootIsAPrivateFolderOfTheUser) {
-    NoTmpDir noTmp;
+    ScopedEnv noTmp("TMPDIR", QByteArray());
     const QString root = TempRoot();
     EXPECT_EQ(QFileInfo(root).absolutePath(), QDir::tempPath());
     EXPECT_TRUE(QFileInfo(root).fileName().startsWith("quovara-"));

@@ -68,6 +68,30 @@ inline void writeFile(const QString& path, const QByteArray& content) {
     f.write(content);
 }
 
+// Sets an environment variable for one scope (a null value unsets it) and puts the previous
+// value back afterwards.
+class ScopedEnv {
+public:
+    ScopedEnv(const char* name, const QByteArray& value) : name_(name), old_(qgetenv(name)) {
+        if (value.isNull())
+            qunsetenv(name);
+        else
+            qputenv(name, value);
+    }
+    ~ScopedEnv() {
+        if (old_.isNull())
+            qunsetenv(name_);
+        else
+            qputenv(name_, old_);
+    }
+    ScopedEnv(const ScopedEnv&) = delete;
+    ScopedEnv& operator=(const ScopedEnv&) = delete;
+
+private:
+    const char* name_;
+    QByteArray old_;
+};
+
 // Points TMPDIR and QUOVARA_PROGRAM_DIR at fresh temporary folders for one test, and puts the
 // previous values back afterwards.
 class ScopedPlaces {

@@ -660,10 +660,9 @@ TEST_F(MainWindow, OpeningASecondArchiveShowsAndSearchesOnlyItsOwnEntries) {
 namespace {
 
 // An engine that never ends while it lists, for the jobs started while this lives.
-class HangingEngine {
+class HangingEngine : public ScopedEnv {
 public:
-    HangingEngine() { qputenv("QUOVARA_STANDIN_FAULT", "hang"); }
-    ~HangingEngine() { qunsetenv("QUOVARA_STANDIN_FAULT"); }
+    HangingEngine() : ScopedEnv("QUOVARA_STANDIN_FAULT", "hang") {}
 };
 
 // The pid of the running stand-in list job of this test's program folder, or 0.

@@ -335,10 +335,9 @@ TEST_F(ProgressErrors, NamesInEveryScriptAreTestedAndExtractedUnchanged) {
 namespace {
 
 // Sets the stand-in engine's fault for the jobs started while it lives.
-class ScopedFault {
+class ScopedFault : public ScopedEnv {
 public:
-    explicit ScopedFault(const QByteArray& fault) { qputenv("QUOVARA_STANDIN_FAULT", fault); }
-    ~ScopedFault() { qunsetenv("QUOVARA_STANDIN_FAULT"); }
+    explicit ScopedFault(const QByteArray& fault) : ScopedEnv("QUOVARA_STANDIN_FAULT", fault) {}
 };
 
 QString abnormal(const QString& archive, const QString& why) {
