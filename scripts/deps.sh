@@ -16,7 +16,7 @@ packages=(
 
 missing=()
 for p in "${packages[@]}"; do
-    if ! dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "ok installed"; then
+    if ! grep -q "ok installed" <<<"$(dpkg-query -W -f='${Status}' "$p" 2>/dev/null)"; then
         missing+=("$p")
     fi
 done

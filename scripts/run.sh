@@ -6,7 +6,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 bash scripts/build.sh
-if [ -n "${QUOVARA_PROGRAM_DIR:-}" ] && ls "$QUOVARA_PROGRAM_DIR" 2>/dev/null | grep -qi '^uharc\.exe$'; then
+if [ -n "${QUOVARA_PROGRAM_DIR:-}" ] && grep -qi '^uharc\.exe$' <<<"$(ls "$QUOVARA_PROGRAM_DIR" 2>/dev/null)"; then
     exec build/bin/quovara "$@"
 fi
 bash scripts/prepare-demo.sh

@@ -21,7 +21,8 @@ openbox >/dev/null 2>&1 &
 sleep 1
 build/bin/quovara >/dev/null 2>&1 &
 sleep 3
-W=$(xdotool search --onlyvisible --name "Quovara" | head -1)
+W=$(xdotool search --onlyvisible --name "Quovara")
+W=${W%%$'\n'*}
 xdotool windowsize "$W" 980 640
 xdotool windowmove "$W" 20 20
 sleep 1

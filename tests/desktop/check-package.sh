@@ -47,13 +47,15 @@ field() { printf '%s\n' "$info" | sed -n "s/^ $1: //p"; }
 [ "$(field Architecture)" = "$arch" ] || fail "Architecture: $(field Architecture)"
 [ "$(field Section)" = utils ] || fail "Section: $(field Section)"
 [ -n "$(field Maintainer)" ] || fail "no Maintainer"
-field Description | grep -q 'archive manager for UHARC archives' || fail "Description"
-printf '%s\n' "$info" | grep -qx '  quovara --install-engine puts it in place.' ||
+# Each check reads a here-string, not a pipe: with pipefail, "grep -q" leaving early could
+# end the writer with SIGPIPE and fail a check that matched.
+grep -q 'archive manager for UHARC archives' <<<"$(field Description)" || fail "Description"
+grep -qx '  quovara --install-engine puts it in place.' <<<"$info" ||
     fail "the long description: $(printf '%s\n' "$info" | sed -n '/Description:/,/^ [A-Z]/p')"
 depends="$(field Depends)"
 echo "Depends: $depends"
 for lib in libqt6core6 libqt6gui6 libqt6widgets6 libc6 libstdc++6; do
-    printf '%s\n' "$depends" | tr ',' '\n' | grep -q "^ *$lib\b" || fail "Depends lacks $lib"
+    grep -q "^ *$lib\b" <<<"${depends//,/$'\n'}" || fail "Depends lacks $lib"
 done
 
 # The contents.
@@ -61,7 +63,7 @@ root="$work/root"
 dpkg-deb -x "$deb" "$root" || { echo "FAILED: dpkg -x"; exit 1; }
 share="$root/usr/share"
 [ -x "$root/usr/bin/quovara" ] || fail "usr/bin/quovara is missing or not executable"
-file -b "$root/usr/bin/quovara" | grep -q '^ELF' || fail "usr/bin/quovara is not an ELF program"
+grep -q '^ELF' <<<"$(file -b "$root/usr/bin/quovara")" || fail "usr/bin/quovara is not an ELF program"
 for f in applications/quovara.desktop mime/packages/quovara.xml \
          metainfo/org.example.Quovara.metainfo.xml man/man1/quovara.1.gz \
          icons/hicolor/scalable/apps/quovara.svg icons/hicolor/48x48/apps/quovara.png \
@@ -119,10 +121,10 @@ grep -q '<launchable type="desktop-id">quovara.desktop</launchable>' "$metainfo"
 
 # The manual page: section 1, the command line, the installer and the environment.
 man="$(gzip -dc "$share/man/man1/quovara.1.gz")" || fail "the manual page is not gzip data"
-printf '%s\n' "$man" | grep -q '^\.TH QUOVARA 1 ' || fail "manual page title"
+grep -q '^\.TH QUOVARA 1 ' <<<"$man" || fail "manual page title"
 for text in 'install\\-engine' 'extract  ' 'QUOVARA_PROGRAM_DIR' 'QUOVARA_WINE' \
             'wine32' '\.local/share/quovara'; do
-    printf '%s\n' "$man" | grep -q -- "$text" || fail "the manual page does not mention $text"
+    grep -q -- "$text" <<<"$man" || fail "the manual page does not mention $text"
 done
 
 if [ "$failures" -ne 0 ]; then

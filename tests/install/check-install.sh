@@ -59,7 +59,8 @@ grep -qx '50:application/x-uharc:\*\.uha' "$share/mime/globs2" ||
     fail "glob *.uha not in globs2: $(grep uharc "$share/mime/globs2")"
 grep -qx 'application/x-uharc:application-x-uharc' "$share/mime/icons" || fail "MIME icon"
 # The compiled magic: a section for the type, then ">0=" with a two-byte length 3 and "UHA".
-if ! od -An -c "$share/mime/magic" | tr -d ' \n' | grep -q '\[50:application/x-uharc\]\\n>0=\\0003UHA\\n'; then
+magic="$(od -An -c "$share/mime/magic" | tr -d ' \n')"
+if ! grep -q '\[50:application/x-uharc\]\\n>0=\\0003UHA\\n' <<<"$magic"; then
     fail "signature UHA at offset 0 not in the magic file"
 fi
 
