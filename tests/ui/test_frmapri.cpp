@@ -28,7 +28,7 @@
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
-#include <QTreeWidget>
+#include <QTreeView>
 #include <QUrl>
 #include <functional>
 #include <gtest/gtest.h>
@@ -42,6 +42,11 @@ namespace {
 
 const QString kSix = QStringLiteral(QUOVARA_STANDIN_06);
 const QString kFour = QStringLiteral(QUOVARA_STANDIN_04);
+
+// The text of a row's column in a list such as the search results.
+QString cell(const QAbstractItemView* view, int row, int column) {
+    return view->model()->index(row, column).data().toString();
+}
 
 bool waitFor(const std::function<bool()>& done, int ms = 10000) {
     QElapsedTimer t;
@@ -409,22 +414,22 @@ TEST_F(MainWindow, SearchWithoutADotFindsNamesThatBeginWithItDeeperFoldersFirst)
     show();
     QTest::keyClicks(child<QLineEdit>("TxtCerca"), "d");
     QTest::mouseClick(child<QToolButton>("ImgCerca"), Qt::LeftButton);
-    auto* found = child<QTreeWidget>("Trovati");
+    auto* found = child<QTreeView>("Trovati");
     EXPECT_TRUE(found->isVisible());
     EXPECT_FALSE(window_.fileView()->isVisible());
     ASSERT_TRUE(waitFor([&] { return text("Stato") == "Quovara is ready"; }));
-    ASSERT_EQ(found->topLevelItemCount(), 2);
-    EXPECT_EQ(found->headerItem()->text(0), "File Name");
-    EXPECT_EQ(found->headerItem()->text(1), "File Path");
-    EXPECT_EQ(found->topLevelItem(0)->text(0), "dd.txt");
-    EXPECT_EQ(found->topLevelItem(0)->text(1), "a\\b");
-    EXPECT_EQ(found->topLevelItem(1)->text(0), "d.txt");
-    EXPECT_EQ(found->topLevelItem(1)->text(1), "a");
+    ASSERT_EQ(found->model()->rowCount(), 2);
+    EXPECT_EQ(found->model()->headerData(0, Qt::Horizontal).toString(), "File Name");
+    EXPECT_EQ(found->model()->headerData(1, Qt::Horizontal).toString(), "File Path");
+    EXPECT_EQ(cell(found, 0, 0), "dd.txt");
+    EXPECT_EQ(cell(found, 0, 1), "a\\b");
+    EXPECT_EQ(cell(found, 1, 0), "d.txt");
+    EXPECT_EQ(cell(found, 1, 1), "a");
     // Back hides the results and shows the browser again.
     clickToolbar(1);
     EXPECT_FALSE(found->isVisible());
     EXPECT_TRUE(window_.fileView()->isVisible());
-    EXPECT_EQ(found->topLevelItemCount(), 0);
+    EXPECT_EQ(found->model()->rowCount(), 0);
 }
 
 TEST_F(MainWindow, SearchWithADotAndARootResult) {
@@ -433,18 +438,18 @@ TEST_F(MainWindow, SearchWithADotAndARootResult) {
     show();
     QTest::keyClicks(child<QLineEdit>("TxtCerca"), "*.TXT");
     QTest::keyClick(child<QLineEdit>("TxtCerca"), Qt::Key_Return);
-    auto* found = child<QTreeWidget>("Trovati");
+    auto* found = child<QTreeView>("Trovati");
     ASSERT_TRUE(waitFor([&] { return text("Stato") == "Quovara is ready"; }));
     QStringList rows;
-    for (int i = 0; i < found->topLevelItemCount(); ++i)
-        rows << found->topLevelItem(i)->text(1) + "|" + found->topLevelItem(i)->text(0);
+    for (int i = 0; i < found->model()->rowCount(); ++i)
+        rows << cell(found, i, 1) + "|" + cell(found, i, 0);
     EXPECT_EQ(rows, QStringList({"a\\b|c.txt", "a\\b|dd.txt", "a|d.txt", "|root.txt"}));
     // A root result makes the selected item begin with "\".
-    const QRect r = found->visualItemRect(found->topLevelItem(3));
+    const QRect r = found->visualRect(found->model()->index(3, 0));
     QTest::mouseClick(found->viewport(), Qt::LeftButton, {}, r.center());
     EXPECT_EQ(window_.selectedItem(), "\\root.txt");
     QTest::mouseClick(found->viewport(), Qt::LeftButton, {},
-                      found->visualItemRect(found->topLevelItem(0)).center());
+                      found->visualRect(found->model()->index(0, 0)).center());
     EXPECT_EQ(window_.selectedItem(), "a\\b\\c.txt");
 }
 
@@ -454,7 +459,7 @@ TEST_F(MainWindow, SearchWithNoArchiveOpenFindsNothing) {
     QTest::keyClicks(child<QLineEdit>("TxtCerca"), "a");
     QTest::mouseClick(child<QToolButton>("ImgCerca"), Qt::LeftButton);
     ASSERT_TRUE(waitFor([&] { return text("Stato") == "Quovara is ready"; }));
-    EXPECT_EQ(child<QTreeWidget>("Trovati")->topLevelItemCount(), 0);
+    EXPECT_EQ(child<QTreeView>("Trovati")->model()->rowCount(), 0);
 }
 
 TEST_F(MainWindow, RunSelectedFileExtractsItIntoTheWorkFolderAndOpensIt) {
@@ -554,12 +559,12 @@ TEST_F(MainWindow, NamesInEveryScriptAreListedSearchedAndExtractedUnchanged) {
 
     QTest::keyClicks(child<QLineEdit>("TxtCerca"), QString::fromUtf8("*.txt"));
     QTest::keyClick(child<QLineEdit>("TxtCerca"), Qt::Key_Return);
-    auto* found = child<QTreeWidget>("Trovati");
+    auto* found = child<QTreeView>("Trovati");
     ASSERT_TRUE(waitFor([&] { return text("Stato") == "Quovara is ready"; }));
     QStringList hits;
-    for (int i = 0; i < found->topLevelItemCount(); ++i)
-        if (found->topLevelItem(i)->text(1) == folder)
-            hits << found->topLevelItem(i)->text(0);
+    for (int i = 0; i < found->model()->rowCount(); ++i)
+        if (cell(found, i, 1) == folder)
+            hits << cell(found, i, 0);
     hits.sort();
     EXPECT_EQ(hits, expected);
 
@@ -652,9 +657,9 @@ TEST_F(MainWindow, OpeningASecondArchiveShowsAndSearchesOnlyItsOwnEntries) {
     QTest::keyClicks(child<QLineEdit>("TxtCerca"), "*.txt");
     QTest::keyClick(child<QLineEdit>("TxtCerca"), Qt::Key_Return);
     ASSERT_TRUE(waitFor([&] { return text("Stato") == "Quovara is ready"; }));
-    auto* found = child<QTreeWidget>("Trovati");
-    ASSERT_EQ(found->topLevelItemCount(), 1);
-    EXPECT_EQ(found->topLevelItem(0)->text(0), "b-file.txt");
+    auto* found = child<QTreeView>("Trovati");
+    ASSERT_EQ(found->model()->rowCount(), 1);
+    EXPECT_EQ(cell(found, 0, 0), "b-file.txt");
 }
 
 namespace {
@@ -798,11 +803,11 @@ TEST_F(MainWindow, ARootSearchResultRunsLikeAnyOtherItem) {
     show();
     QTest::keyClicks(child<QLineEdit>("TxtCerca"), "root*");
     QTest::keyClick(child<QLineEdit>("TxtCerca"), Qt::Key_Return);
-    auto* found = child<QTreeWidget>("Trovati");
+    auto* found = child<QTreeView>("Trovati");
     ASSERT_TRUE(waitFor([&] { return text("Stato") == "Quovara is ready"; }));
-    ASSERT_EQ(found->topLevelItemCount(), 1);
+    ASSERT_EQ(found->model()->rowCount(), 1);
     QTest::mouseClick(found->viewport(), Qt::LeftButton, {},
-                      found->visualItemRect(found->topLevelItem(0)).center());
+                      found->visualRect(found->model()->index(0, 0)).center());
     EXPECT_EQ(window_.selectedItem(), "\\root.txt");
     QTest::mouseClick(child<QPushButton>("EseFile"), Qt::LeftButton);
     EXPECT_EQ(readAll(WorkFolder() + "/root.txt"), QByteArray("root file"));

@@ -1,8 +1,22 @@
 #include "archivesearch.h"
 
+#include "core/logging.h"
 #include "core/vbtext.h"
 
 #include <QDir>
+#include <QDirIterator>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <algorithm>
+
+#ifdef Q_OS_UNIX
+#include <cerrno>
+#include <cstring>
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#endif
 
 namespace quovara {
 
@@ -26,6 +40,7 @@ void ArchiveSearch::start(const QString& pattern, const QString& root) {
     root_ = QDir::cleanPath(root);
     hits_ = 0;
     searching_ = true;
+    handedOver_ = false;
     pushFolder(root_);
     timer_.start();
 }
@@ -36,49 +51,101 @@ void ArchiveSearch::stop() {
     searching_ = false;
     timer_.stop();
     stack_.clear();
+    // Results not yet handed over are dropped: a stopped search shows no more.
+    pending_.clear();
     emit finished(hits_);
 }
 
 void ArchiveSearch::pushFolder(const QString& folder) {
+    // One pass over the folder sorts its entries into sub-folders and files. A link to a
+    // folder is neither searched nor reported: the walk never leaves the mirror tree.
     Frame frame;
     frame.folder = folder;
-    frame.subfolders = QDir(folder).entryList(
-        QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden | QDir::NoSymLinks, QDir::Name);
-    stack_.append(frame);
+#ifdef Q_OS_UNIX
+    // Straight from the directory stream: the kind of most entries comes with its name, so a
+    // folder of thousands of placeholders costs one read and no look-up per file.
+    DIR* dir = ::opendir(QFile::encodeName(folder).constData());
+    if (!dir) {
+        qCDebug(lcFiles) << "search: cannot read folder" << folder << std::strerror(errno);
+    } else {
+        while (const dirent* entry = ::readdir(dir)) {
+            const char* name = entry->d_name;
+            if (name[0] == '.' && (name[1] == 0 || (name[1] == '.' && name[2] == 0)))
+                continue;
+            unsigned char type = entry->d_type;
+            struct stat st {};
+            if (type == DT_UNKNOWN)
+                type = ::fstatat(::dirfd(dir), name, &st, AT_SYMLINK_NOFOLLOW) != 0 ? DT_REG
+                       : S_ISDIR(st.st_mode)                                        ? DT_DIR
+                       : S_ISLNK(st.st_mode)                                        ? DT_LNK
+                                                                                    : DT_REG;
+            if (type == DT_LNK && ::fstatat(::dirfd(dir), name, &st, 0) == 0 && S_ISDIR(st.st_mode))
+                continue;
+            (type == DT_DIR ? frame.subfolders : frame.files) << QFile::decodeName(name);
+        }
+        ::closedir(dir);
+    }
+#else
+    QDirIterator it(folder, QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System);
+    while (it.hasNext()) {
+        it.next();
+        const QFileInfo info = it.fileInfo();
+        if (!info.isDir())
+            frame.files << info.fileName();
+        else if (!info.isSymLink())
+            frame.subfolders << info.fileName();
+    }
+#endif
+    std::sort(frame.subfolders.begin(), frame.subfolders.end());
+    std::sort(frame.files.begin(), frame.files.end());
+    stack_.append(std::move(frame));
 }
 
-void ArchiveSearch::emitFiles(const QString& folder) {
+void ArchiveSearch::collectHits(const Frame& frame) {
     // The folder as a path inside the archive: what follows the root and its separator.
-    QString inside = folder.mid(root_.size() + 1);
+    QString inside = frame.folder.mid(root_.size() + 1);
     inside.replace(QLatin1Char('/'), QLatin1Char('\\'));
-    const QStringList files =
-        QDir(folder).entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name);
-    for (const QString& name : files) {
+    for (const QString& name : frame.files) {
         if (!WildcardMatch(name, pattern_))
             continue;
         if (hits_ < 32767)
             ++hits_;
-        emit found(name, inside);
+        pending_.append({name, inside});
     }
 }
 
+void ArchiveSearch::handOver() {
+    if (pending_.isEmpty())
+        return;
+    handedOver_ = true;
+    sinceHandOver_.start();
+    const QList<SearchHit> hits = std::move(pending_);
+    pending_.clear();
+    emit found(hits);
+}
+
 void ArchiveSearch::step() {
-    // A bounded amount of work per turn of the event loop.
-    for (int budget = 64; budget > 0 && searching_; --budget) {
-        if (stack_.isEmpty()) {
-            stop();
-            return;
-        }
+    // A few milliseconds of work per turn of the event loop.
+    QElapsedTimer spent;
+    spent.start();
+    while (searching_ && !stack_.isEmpty() && spent.elapsed() < 8) {
         Frame& top = stack_.last();
         if (top.next < top.subfolders.size()) {
-            const QString sub = QDir(top.folder).filePath(top.subfolders[top.next++]);
+            const QString sub = top.folder + QLatin1Char('/') + top.subfolders[top.next++];
             pushFolder(sub);
             continue;
         }
-        const QString folder = top.folder;
-        stack_.removeLast();
-        emitFiles(folder);
+        collectHits(stack_.takeLast());
     }
+    if (!searching_)
+        return;
+    // The first results are shown at once, later ones a few times a second: every hand-over
+    // makes the list lay itself out again, which a hand-over per step would make the main
+    // cost of a search that finds everything.
+    if (stack_.isEmpty() || !handedOver_ || sinceHandOver_.elapsed() >= kHandOverMs)
+        handOver();
+    if (stack_.isEmpty())
+        stop();
 }
 
 } // namespace quovara

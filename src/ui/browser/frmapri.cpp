@@ -36,7 +36,7 @@
 #include <QShortcut>
 #include <QTimer>
 #include <QToolButton>
-#include <QTreeWidget>
+#include <QTreeView>
 #include <QUrl>
 #include <QVBoxLayout>
 
@@ -123,10 +123,15 @@ frmApri::frmApri(QWidget* parent)
     FileView1->setObjectName(QStringLiteral("FileView1"));
     right->addWidget(FileView1, 1);
 
-    Trovati = new QTreeWidget(central);
+    Trovati = new QTreeView(central);
     Trovati->setObjectName(QStringLiteral("Trovati"));
-    Trovati->setHeaderLabels({QStringLiteral("File Name"), QStringLiteral("File Path")});
+    results_ = new SearchResults(Trovati);
+    Trovati->setModel(results_);
     Trovati->setRootIsDecorated(false);
+    Trovati->setItemsExpandable(false);
+    Trovati->setAllColumnsShowFocus(true);
+    // Every row is one line: the list need not measure each of thousands of results.
+    Trovati->setUniformRowHeights(true);
     Trovati->setAccessibleName(QStringLiteral("Search results"));
     Trovati->hide();
     right->addWidget(Trovati, 1);
@@ -240,19 +245,14 @@ frmApri::frmApri(QWidget* parent)
         else
             ExtractAndRun();
     });
-    connect(Trovati, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
-        if (item)
-            selectedItem_ = item->text(1) + QLatin1Char('\\') + item->text(0);
-    });
-    connect(&search_, &ArchiveSearch::found, this, [this](const QString& name, const QString& in) {
-        auto* row = new QTreeWidgetItem(Trovati, {name, in});
-        // One icon look-up per kind of file, not per hit: a search can find thousands.
-        const QString kind = QFileInfo(name).suffix().toLower();
-        auto icon = searchIcons_.constFind(kind);
-        if (icon == searchIcons_.constEnd())
-            icon = searchIcons_.insert(kind, SharedFileIconProvider()->icon(QFileInfo(name)));
-        row->setIcon(0, *icon);
-    });
+    connect(Trovati->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this](const QModelIndex& current) {
+                if (!current.isValid())
+                    return;
+                const SearchHit& hit = results_->hit(current.row());
+                selectedItem_ = hit.archiveFolder + QLatin1Char('\\') + hit.name;
+            });
+    connect(&search_, &ArchiveSearch::found, results_, &SearchResults::append);
     connect(&search_, &ArchiveSearch::finished, this,
             [this] { setStatus(apri::Ready, apri::SelectAction); });
     buildShortcuts();
@@ -603,7 +603,7 @@ void frmApri::StartSearch() {
     FileView1->hide();
     ShComboBox1->hide();
     Trovati->show();
-    Trovati->clear();
+    results_->clear();
     // Each column takes half of the list's width.
     Trovati->setColumnWidth(0, Trovati->viewport()->width() / 2);
     Trovati->setColumnWidth(1, Trovati->viewport()->width() / 2);
@@ -643,7 +643,7 @@ void frmApri::ButtonClick(int index) {
     case IdBack:
         if (!Trovati->isHidden()) {
             stopSearch();
-            Trovati->clear();
+            results_->clear();
             Trovati->hide();
             FileView1->show();
             ShComboBox1->show();

@@ -5,6 +5,7 @@
 
 #include "archivesearch.h"
 #include "commandline.h"
+#include "searchresults.h"
 
 #include "engine/listing.h"
 #include "ui/common/messageprompter.h"
@@ -23,8 +24,7 @@ class QLineEdit;
 class QMenu;
 class QPushButton;
 class QToolButton;
-class QTreeWidget;
-class QTreeWidgetItem;
+class QTreeView;
 
 namespace quovara {
 
@@ -79,6 +79,7 @@ public:
     void NoUha();
 
     ArchiveLister& lister() { return lister_; }
+    const ArchiveSearch& archiveSearch() const { return search_; }
     EngineSwitchState& engineSwitch() { return switch_; }
     const QString& selectedItem() const { return selectedItem_; }
     // The selected item as the engine stores it: a search result at the archive's root has a
@@ -123,7 +124,6 @@ protected:
 
 private:
     // Icons of search results by file extension.
-    QHash<QString, QIcon> searchIcons_;
 
     // The first existing local file or folder of a drag, or empty.
     static QString droppedPath(const QMimeData* data);
@@ -169,7 +169,8 @@ private:
     ucToolbar* ucToolbar1 = nullptr;
     QComboBox* ShComboBox1 = nullptr;
     FileBrowser* FileView1 = nullptr;
-    QTreeWidget* Trovati = nullptr;
+    QTreeView* Trovati = nullptr;
+    SearchResults* results_ = nullptr;
     TaskPaneBar* Barra = nullptr;
     QWidget* pDettagli = nullptr;
     QWidget* pOperazioni = nullptr;

@@ -1,0 +1,65 @@
+#include "searchresults.h"
+
+#include "fileicons.h"
+
+#include <QAbstractFileIconProvider>
+#include <QFileInfo>
+
+namespace quovara {
+
+SearchResults::SearchResults(QObject* parent) : QAbstractTableModel(parent) {}
+
+void SearchResults::append(const QList<SearchHit>& hits) {
+    if (hits.isEmpty())
+        return;
+    beginInsertRows(QModelIndex(), int(rows_.size()), int(rows_.size() + hits.size() - 1));
+    rows_.append(hits);
+    endInsertRows();
+}
+
+void SearchResults::clear() {
+    beginResetModel();
+    rows_.clear();
+    rows_.squeeze();
+    endResetModel();
+}
+
+int SearchResults::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : int(rows_.size());
+}
+
+int SearchResults::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : 2;
+}
+
+QVariant SearchResults::data(const QModelIndex& index, int role) const {
+    if (!index.isValid() || index.row() >= rows_.size())
+        return QVariant();
+    const SearchHit& hit = rows_.at(index.row());
+    if (role == Qt::DisplayRole)
+        return index.column() == 0 ? hit.name : hit.archiveFolder;
+    if (role == Qt::DecorationRole && index.column() == 0)
+        return iconFor(hit.name);
+    return QVariant();
+}
+
+QVariant SearchResults::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+        return QVariant();
+    if (section == 0)
+        return QStringLiteral("File Name");
+    if (section == 1)
+        return QStringLiteral("File Path");
+    return QVariant();
+}
+
+QIcon SearchResults::iconFor(const QString& name) const {
+    const qsizetype dot = name.lastIndexOf(QLatin1Char('.'));
+    const QString kind = dot < 0 ? QString() : name.mid(dot + 1).toLower();
+    auto icon = icons_.constFind(kind);
+    if (icon == icons_.constEnd())
+        icon = icons_.insert(kind, SharedFileIconProvider()->icon(QFileInfo(name)));
+    return *icon;
+}
+
+} // namespace quovara

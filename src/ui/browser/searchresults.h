@@ -1,0 +1,38 @@
+// The rows of the search results list (`Trovati`): "File Name" with the icon of its kind of
+// file, and "File Path", the folder inside the archive. Results arrive in batches; a batch
+// is one insertion, so a search that finds a hundred thousand files costs the list a handful
+// of layouts, not one per file.
+#pragma once
+
+#include "archivesearch.h"
+
+#include <QAbstractTableModel>
+#include <QHash>
+#include <QIcon>
+#include <QList>
+
+namespace quovara {
+
+class SearchResults : public QAbstractTableModel {
+    Q_OBJECT
+public:
+    explicit SearchResults(QObject* parent = nullptr);
+
+    void append(const QList<SearchHit>& hits);
+    void clear();
+    const SearchHit& hit(int row) const { return rows_.at(row); }
+
+    int rowCount(const QModelIndex& parent = QModelIndex()) const override;
+    int columnCount(const QModelIndex& parent = QModelIndex()) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    QIcon iconFor(const QString& name) const;
+
+    QList<SearchHit> rows_;
+    // One icon look-up per kind of file (its extension), made when a row is first shown.
+    mutable QHash<QString, QIcon> icons_;
+};
+
+} // namespace quovara
