@@ -95,8 +95,15 @@ public:
     // The first failure to create something, in words; empty while all went well.
     const QString& failure() const { return failure_; }
 
+    MirrorWriter(const MirrorWriter&) = delete;
+    MirrorWriter& operator=(const MirrorWriter&) = delete;
+    ~MirrorWriter() { forgetLastFolder(); }
+
     // Makes the folder path (components separated by "\" or "/") and returns its host path.
+    // Entries of one folder follow each other in a listing: the last folder is remembered.
     QByteArray makeFolder(const QString& folder) {
+        if (lastKnown_ && folder == lastFolder_)
+            return lastPath_;
         QByteArray current = QFile::encodeName(root_);
         qsizetype start = 0;
         for (qsizetype i = 0; i <= folder.size(); ++i) {
@@ -112,6 +119,10 @@ public:
                 current = next;
             }
         }
+        forgetLastFolder();
+        lastKnown_ = true;
+        lastFolder_ = folder;
+        lastPath_ = current;
         return current;
     }
 
@@ -119,25 +130,34 @@ public:
     void placeholder(const QByteArray& folder, const QString& file) {
         // The name may still hold separators ("\c.txt"): only its last usable part counts.
         QString name;
-        const QStringList parts =
-            QString(file).replace(QLatin1Char('/'), QLatin1Char('\\')).split(QLatin1Char('\\'));
-        for (const QString& part : parts) {
-            if (usable(part))
-                name = part;
+        if (!file.contains(QLatin1Char('\\')) && !file.contains(QLatin1Char('/'))) {
+            if (usable(file))
+                name = file;
+        } else {
+            const QStringList parts =
+                QString(file).replace(QLatin1Char('/'), QLatin1Char('\\')).split(QLatin1Char('\\'));
+            for (const QString& part : parts) {
+                if (usable(part))
+                    name = part;
+            }
         }
         if (name.isEmpty() || folder.isEmpty())
             return;
-        const QByteArray path = folder + '/' + QFile::encodeName(name);
 #ifdef Q_OS_UNIX
-        const int fd =
-            ::open(path.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW | O_CLOEXEC, 0644);
+        // Made relative to the open folder: one look-up of the name, not of the whole path,
+        // and nothing between the root and the folder can be swapped under us.
+        const QByteArray encoded = QFile::encodeName(name);
+        const int fd = ::openat(folderHandle(folder), encoded.constData(),
+                                O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW | O_CLOEXEC, 0644);
         if (fd < 0) {
-            qCDebug(lcListing) << "could not create placeholder" << path;
-            fail(errno);
+            const int error = errno;
+            qCDebug(lcListing) << "could not create placeholder" << folder + '/' + encoded;
+            fail(error);
             return;
         }
         ::close(fd);
 #else
+        const QByteArray path = folder + '/' + QFile::encodeName(name);
         QFile f(QFile::decodeName(path));
         if (!f.open(QIODevice::WriteOnly | QIODevice::Truncate))
             qCDebug(lcListing) << "could not create placeholder" << path;
@@ -185,10 +205,39 @@ private:
                            .arg(QString::fromLocal8Bit(std::strerror(error)).toLower());
     }
 
+#ifdef Q_OS_UNIX
+    // An open handle on `folder` (the last folder made), opened without following a link.
+    int folderHandle(const QByteArray& folder) {
+        if (folderFd_ < 0 || folder != folderFdPath_) {
+            if (folderFd_ >= 0)
+                ::close(folderFd_);
+            folderFd_ = ::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+            folderFdPath_ = folder;
+        }
+        return folderFd_;
+    }
+#endif
+
+    void forgetLastFolder() {
+        lastKnown_ = false;
+#ifdef Q_OS_UNIX
+        if (folderFd_ >= 0)
+            ::close(folderFd_);
+        folderFd_ = -1;
+#endif
+    }
+
     QString root_;
     QString failure_;
     bool root_ok_ = false;
     QSet<QByteArray> known_;
+    bool lastKnown_ = false;
+    QString lastFolder_;
+    QByteArray lastPath_;
+#ifdef Q_OS_UNIX
+    int folderFd_ = -1;
+    QByteArray folderFdPath_;
+#endif
 };
 
 } // namespace
