@@ -5,13 +5,17 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
 
 #ifdef Q_OS_UNIX
 #include <cerrno>
+#include <condition_variable>
 #include <cstring>
+#include <deque>
+#include <mutex>
 #include <pwd.h>
 #include <sys/stat.h>
 #include <thread>
@@ -159,15 +163,114 @@ QString ProgramFolder() {
 
 namespace {
 
-void deleteInBackground(const QStringList& folders) {
-    std::thread([folders] {
+// Deletes folders moved aside, one at a time on one worker thread. While a mirror tree is
+// being made the worker holds off between two files, so that the new tree never competes
+// with the deletion of an old one for the disk.
+class AsideDeleter {
+public:
+    static AsideDeleter& instance() {
+        // Never destroyed: a detached worker may still use it while the program ends; what
+        // it leaves undeleted is found and deleted at the next start-up.
+        static auto* deleter = new AsideDeleter;
+        return *deleter;
+    }
+
+    void add(const QStringList& folders) {
+        std::lock_guard<std::mutex> lock(mutex_);
         for (const QString& folder : folders)
-            if (!QDir(folder).removeRecursively())
+            queue_.push_back(folder);
+        if (!running_) {
+            running_ = true;
+            std::thread([this] { work(); }).detach();
+        }
+    }
+
+    void hold() {
+        std::lock_guard<std::mutex> lock(mutex_);
+        ++holds_;
+    }
+
+    void release() {
+        {
+            std::lock_guard<std::mutex> lock(mutex_);
+            if (holds_ > 0)
+                --holds_;
+        }
+        resumed_.notify_all();
+    }
+
+private:
+    void work() {
+        for (;;) {
+            QString folder;
+            {
+                std::lock_guard<std::mutex> lock(mutex_);
+                if (queue_.empty()) {
+                    running_ = false;
+                    return;
+                }
+                folder = queue_.front();
+                queue_.pop_front();
+            }
+            if (!removeTree(folder))
                 qCDebug(lcFiles) << "could not delete the folder moved aside" << folder;
-    }).detach();
+        }
+    }
+
+    void waitWhileHeld() {
+        std::unique_lock<std::mutex> lock(mutex_);
+        resumed_.wait(lock, [this] { return holds_ == 0; });
+    }
+
+    // Deletes `folder` and everything below it; links are removed, never followed.
+    bool removeTree(const QString& folder) {
+        bool ok = true;
+        QDirIterator it(folder,
+                        QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System);
+        while (it.hasNext()) {
+            it.next();
+            const QFileInfo entry = it.fileInfo();
+            if (entry.isDir() && !entry.isSymLink()) {
+                ok = removeTree(entry.filePath()) && ok;
+                continue;
+            }
+            waitWhileHeld();
+            if (!QFile::remove(entry.filePath())) {
+                // A read-only file: made writable first, as a desktop's delete would.
+                QFile::setPermissions(entry.filePath(), entry.permissions() | QFile::WriteOwner);
+                if (!QFile::remove(entry.filePath())) {
+                    qCDebug(lcFiles) << "could not delete" << entry.filePath();
+                    ok = false;
+                }
+            }
+        }
+        if (!QDir().rmdir(folder)) {
+            qCDebug(lcFiles) << "could not delete the folder" << folder;
+            ok = false;
+        }
+        return ok;
+    }
+
+    std::mutex mutex_;
+    std::condition_variable resumed_;
+    std::deque<QString> queue_;
+    bool running_ = false;
+    int holds_ = 0;
+};
+
+void deleteInBackground(const QStringList& folders) {
+    AsideDeleter::instance().add(folders);
 }
 
 } // namespace
+
+BackgroundDeletesHeld::BackgroundDeletesHeld() {
+    AsideDeleter::instance().hold();
+}
+
+BackgroundDeletesHeld::~BackgroundDeletesHeld() {
+    AsideDeleter::instance().release();
+}
 
 bool MoveAsideAndDelete(const QString& folder) {
     const QFileInfo info(folder);

@@ -71,6 +71,16 @@ QString ProgramFolder();
 // be neither moved nor deleted; true also when there was no such folder.
 bool MoveAsideAndDelete(const QString& folder);
 
+// While one of these lives, the deletion of folders moved aside pauses between two files: a
+// new mirror tree is made with the disk to itself, and the old one goes once it is done.
+class BackgroundDeletesHeld {
+public:
+    BackgroundDeletesHeld();
+    ~BackgroundDeletesHeld();
+    BackgroundDeletesHeld(const BackgroundDeletesHeld&) = delete;
+    BackgroundDeletesHeld& operator=(const BackgroundDeletesHeld&) = delete;
+};
+
 // Deletes the WorkFolder with everything in it when it exists; does not create it again.
 // A WorkFolder that is a symbolic link is unlinked, never followed.
 void CleanWorkFolder();

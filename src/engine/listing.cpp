@@ -520,6 +520,7 @@ void ArchiveLister::Batch() {
     const EngineCodec codec = ActiveEngineCodec();
     QEventLoop loop;
     std::thread worker([&] {
+        const BackgroundDeletesHeld quiet;
         pass_ = ReadListingLog(log, codec, staging, &stop_, &entries_);
         QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
     });

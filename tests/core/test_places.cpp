@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QLockFile>
+#include <QTest>
 #include <QThread>
 #include <gtest/gtest.h>
 
@@ -312,4 +313,56 @@ TEST(CleanWorkFolder, TheOldWorkFolderAndLeftoversAreDeletedInTheBackground) {
     while (!leftovers().isEmpty() && t.elapsed() < 5000)
         QThread::msleep(10);
     EXPECT_TRUE(leftovers().isEmpty()) << leftovers().join(',').toStdString();
+}
+
+namespace {
+
+void put(const QString& path, const QByteArray& content) {
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    writeFile(path, content);
+}
+
+// True once nothing named "<folder>.old-*" is left beside `folder`.
+bool nothingAsideOf(const QString& folder) {
+    const QFileInfo info(folder);
+    return QDir(info.absolutePath())
+        .entryList({info.fileName() + ".old-*"}, QDir::AllEntries | QDir::Hidden)
+        .isEmpty();
+}
+
+} // namespace
+
+TEST(MoveAsideAndDelete, TheFolderGoesAtOnceAndWhatWasInItGoesInTheBackground) {
+    QTemporaryDir dir;
+    const QString folder = dir.filePath("tree");
+    for (int i = 0; i < 50; ++i)
+        put(folder + QString("/d%1/f%2.txt").arg(i % 5).arg(i), "x");
+    ASSERT_TRUE(QFile::link(dir.filePath("outside"), folder + "/link"));
+    put(dir.filePath("outside/keep.txt"), "keep");
+    ASSERT_TRUE(MoveAsideAndDelete(folder));
+    EXPECT_FALSE(QFileInfo::exists(folder));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return nothingAsideOf(folder); }, 10000));
+    // A link inside is removed, never followed.
+    EXPECT_EQ(readAll(dir.filePath("outside/keep.txt")), QByteArray("keep"));
+}
+
+TEST(MoveAsideAndDelete, DeletingWaitsWhileHeldAndGoesOnOnceReleased) {
+    QTemporaryDir dir;
+    const QString folder = dir.filePath("tree");
+    for (int i = 0; i < 20; ++i)
+        put(folder + QString("/f%1.txt").arg(i), "x");
+    QString aside;
+    {
+        const BackgroundDeletesHeld held;
+        ASSERT_TRUE(MoveAsideAndDelete(folder));
+        EXPECT_FALSE(QFileInfo::exists(folder));
+        const QStringList moved =
+            QDir(dir.path()).entryList({"tree.old-*"}, QDir::Dirs | QDir::Hidden);
+        ASSERT_EQ(moved.size(), 1);
+        aside = dir.filePath(moved.first());
+        // While held, at most the one file under way goes.
+        QTest::qWait(300);
+        EXPECT_GE(QDir(aside).entryList(QDir::Files).size(), 19);
+    }
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !QFileInfo::exists(aside); }, 10000));
 }
