@@ -295,6 +295,8 @@ void TaskPaneBar::paintPane(QPainter& p, const TaskPanePalette& pal) {
             r = ItemRect(m_hotItemGroup, m_hotItem).adjusted(-2, 0, 2, 0);
         else if (m_hotHeader != 0)
             r = GroupHeaderRect(m_hotHeader).adjusted(2, 2, -2, -2);
+        else
+            r = rect().adjusted(1, 1, -2, -2); // focused, nothing hot yet: the whole pane
         if (!r.isEmpty()) {
             QStyleOptionFocusRect opt;
             opt.initFrom(this);

@@ -1006,3 +1006,38 @@ TEST_F(MainWindow, TheWindowStaysLiveAndCountsEntriesWhileABigArchiveIsRead) {
     std::printf("longest gap between two runs of the event loop while listing: %lld ms\n",
                 static_cast<long long>(longestGap));
 }
+
+TEST_F(MainWindow, TheFileListAndTheTaskPaneShowWhereTheFocusIs) {
+    const QString archive = makeArchive(kSix, "focus.uha");
+    ASSERT_TRUE(window_.Form_Load(archive));
+    show();
+    window_.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
+    // Tab moves the focus, as a person without a mouse does.
+    auto tabTo = [&](QWidget* target) {
+        for (int i = 0; i < 30 && !target->hasFocus(); ++i)
+            QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget()
+                                                        : static_cast<QWidget*>(&window_),
+                            Qt::Key_Tab);
+        return target->hasFocus();
+    };
+    // The file list, given the focus, marks an item as the current one without selecting it.
+    QAbstractItemView* list = window_.fileView()->currentView();
+    ASSERT_TRUE(waitFor([&] { return list->model()->rowCount(list->rootIndex()) > 0; }));
+    child<QLineEdit>("TxtCerca")->setFocus();
+    list->setCurrentIndex(QModelIndex());
+    ASSERT_TRUE(tabTo(list));
+    EXPECT_TRUE(list->currentIndex().isValid());
+    EXPECT_TRUE(list->selectionModel()->selectedIndexes().isEmpty());
+    EXPECT_TRUE(window_.fileView()->selectedPath().isEmpty());
+    // The task pane, given the focus with nothing under the pointer, draws a focus frame.
+    auto* pane = child<TaskPaneBar>("Barra");
+    const QImage before = pane->grab().toImage();
+    ASSERT_TRUE(tabTo(pane));
+    EXPECT_NE(pane->grab().toImage(), before);
+    ASSERT_TRUE(tabTo(list));
+    EXPECT_EQ(pane->grab().toImage(), before);
+    // The search box and its button name their shortcut in their tips.
+    EXPECT_EQ(child<QToolButton>("ImgCerca")->toolTip(), "Search (Ctrl+F)");
+    EXPECT_EQ(child<QLineEdit>("TxtCerca")->toolTip(), "Search file in archive (Ctrl+F)");
+}

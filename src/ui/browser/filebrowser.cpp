@@ -37,6 +37,7 @@ FileBrowser::FileBrowser(QWidget* parent) : QWidget(parent) {
         v->setEditTriggers(QAbstractItemView::NoEditTriggers);
         v->setMouseTracking(true);
         v->viewport()->installEventFilter(this);
+        v->installEventFilter(this);
         connect(v, &QAbstractItemView::activated, this, &FileBrowser::onActivated);
         connect(v->selectionModel(), &QItemSelectionModel::currentChanged, this,
                 &FileBrowser::selectionChanged);
@@ -57,8 +58,11 @@ FileBrowser::FileBrowser(QWidget* parent) : QWidget(parent) {
     setFocusProxy(list_);
 
     connect(model_, &QFileSystemModel::directoryLoaded, this, [this](const QString& path) {
-        if (QDir(path) == QDir(folder_))
+        if (QDir(path) == QDir(folder_)) {
             applySelection();
+            if (currentView()->hasFocus())
+                showFocusItem(currentView());
+        }
     });
     setViewMode(List);
 }
@@ -191,8 +195,20 @@ void FileBrowser::onActivated(const QModelIndex& index) {
     emit executeRequested(QDir::toNativeSeparators(path));
 }
 
+void FileBrowser::showFocusItem(QAbstractItemView* view) {
+    // A list with the focus shows it on an item: with no current item yet, the first one
+    // becomes current (its focus frame shows) without being selected.
+    if (view->currentIndex().isValid())
+        return;
+    const QModelIndex first = model_->index(0, 0, view->rootIndex());
+    if (first.isValid())
+        view->selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+}
+
 bool FileBrowser::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::MouseMove) {
+    if (event->type() == QEvent::FocusIn && (watched == list_ || watched == tree_)) {
+        showFocusItem(static_cast<QAbstractItemView*>(watched));
+    } else if (event->type() == QEvent::MouseMove) {
         auto* viewport = static_cast<QWidget*>(watched);
         auto* me = static_cast<QMouseEvent*>(event);
         const bool overItem = currentView()->indexAt(me->position().toPoint()).isValid();

@@ -61,6 +61,7 @@ private:
     void showFolder(const QString& path);
     void applySelection();
     void onActivated(const QModelIndex& index);
+    void showFocusItem(QAbstractItemView* view);
 
     QFileSystemModel* model_;
     QStackedWidget* stack_;

@@ -173,6 +173,7 @@ frmApri::frmApri(QWidget* parent)
     TxtCerca = new QLineEdit(pOperazioni);
     TxtCerca->setObjectName(QStringLiteral("TxtCerca"));
     TxtCerca->setAccessibleName(QStringLiteral("Search file in archive"));
+    TxtCerca->setToolTip(QStringLiteral("Search file in archive (Ctrl+F)"));
     LBCerca->setBuddy(TxtCerca);
     ImgCerca = new QToolButton(pOperazioni);
     ImgCerca->setObjectName(QStringLiteral("ImgCerca"));
@@ -181,7 +182,7 @@ frmApri::frmApri(QWidget* parent)
     ImgCerca->setAutoRaise(true);
     ImgCerca->setCursor(Qt::PointingHandCursor);
     ImgCerca->setAccessibleName(QStringLiteral("Search"));
-    ImgCerca->setToolTip(QStringLiteral("Search"));
+    ImgCerca->setToolTip(QStringLiteral("Search (Ctrl+F)"));
     EstFile = linkButton(QStringLiteral("Extract selected item"), "EstFile", pOperazioni);
     EseFile = linkButton(QStringLiteral("Run selected file"), "EseFile", pOperazioni);
     ops->addWidget(LBCerca, 0, 0, 1, 2);
