@@ -320,3 +320,30 @@ TEST_F(ExtractDialog, AnEnterThatReachesTheDialogWhileANewFolderIsRenamedDoesNot
     EXPECT_TRUE(handedOver_.isEmpty());
     EXPECT_TRUE(dialog_->isVisible());
 }
+
+TEST_F(ExtractDialog, TheFolderTreeShowsTheArchivesFolderSelectedWithoutWaiting) {
+    // An archive several folders deep, each level with many sibling folders.
+    QString deep = base_;
+    for (int level = 0; level < 5; ++level) {
+        for (int i = 0; i < 40; ++i)
+            QDir().mkpath(deep + QString("/sibling%1").arg(i));
+        deep += QString("/level%1").arg(level);
+    }
+    QDir().mkpath(deep);
+    archive_ = deep + "/deep.uha";
+    writeFile(archive_, "archive");
+    QElapsedTimer shown;
+    shown.start();
+    open(archive_);
+    auto visible = [&] {
+        const QModelIndex current = tree()->currentIndex();
+        if (!current.isValid() || model()->filePath(current) != deep)
+            return false;
+        const QRect r = tree()->visualRect(current);
+        return !r.isEmpty() && tree()->viewport()->rect().contains(r.center());
+    };
+    ASSERT_TRUE(QTest::qWaitFor(visible, 10000));
+    std::printf("the archive's folder showed selected after %lld ms\n",
+                static_cast<long long>(shown.elapsed()));
+    EXPECT_EQ(c<QLineEdit>("TxTDir")->text(), deep);
+}
