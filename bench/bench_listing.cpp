@@ -3,6 +3,7 @@
 // side in one run. Prints both times and their ratio, and the memory the pass added to the
 // process's peak, against the log's size.
 //   bench_listing [entries] [rounds]
+#include "big_tree.h"
 #include "core/codepage.h"
 #include "engine/listing.h"
 
@@ -11,59 +12,17 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
-#include <QSet>
 #include <QTemporaryDir>
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <fcntl.h>
 #include <sys/resource.h>
-#include <sys/stat.h>
-#include <unistd.h>
 #include <vector>
 
 using namespace quovara;
+using namespace quovara::bench;
 
 namespace {
-
-struct Entry {
-    QByteArray folder; // "d012/s3"
-    QByteArray file;   // "f00042.txt"
-};
-
-std::vector<Entry> makeEntries(int count) {
-    std::vector<Entry> entries;
-    entries.reserve(count);
-    for (int i = 0; i < count; ++i) {
-        Entry e;
-        e.folder = QByteArray("d") + QByteArray::number(i / 1000).rightJustified(3, '0') + "/s" +
-                   QByteArray::number((i / 100) % 10);
-        e.file = QByteArray("f") + QByteArray::number(i).rightJustified(6, '0') + ".txt";
-        entries.push_back(e);
-    }
-    return entries;
-}
-
-QByteArray makeLog(const std::vector<Entry>& entries) {
-    QByteArray log =
-        "\r\n=== UHARC 0.6 LOG =================================== 22-Nov-2026  14:35:54 "
-        "===\r\nEnvironment: \"\"\r\nCommandline: \"uharc.exe l -d2 -y+ -lgLOG.txt "
-        "big.uha\"\r\n\r\nProcessing archive \"big.uha\" (created: 22-Nov-2026, "
-        "14:35).\r\n\r\nfile                                size     date        time "
-        "   attr   crc-32 \r\n" +
-        QByteArray(79, '-') + "\r\n";
-    for (const Entry& e : entries) {
-        QByteArray name = e.folder + "/" + e.file;
-        name.replace('/', '\\');
-        log += name + "\r\n                                       0  22-Nov-2026  14:28:18  ---A  "
-                      "00000000\r\n";
-    }
-    log += QByteArray(79, '-') + "\r\n" + QByteArray::number(qulonglong(entries.size())) +
-           " files                                0\r\n                                       0 "
-           "packed (ALZ:2-mode), ratio: 0.0%\r\n" +
-           QByteArray(79, '=') + "\r\n\r\n";
-    return log;
-}
 
 double listingRun(const QString& logPath, const QString& scratch) {
     QElapsedTimer t;
@@ -75,30 +34,6 @@ double listingRun(const QString& logPath, const QString& scratch) {
         std::exit(1);
     }
     return ms;
-}
-
-double bareRun(const std::vector<Entry>& entries, const QByteArray& root) {
-    QElapsedTimer t;
-    t.start();
-    ::mkdir(root.constData(), 0755);
-    QSet<QByteArray> made;
-    for (const Entry& e : entries) {
-        if (!made.contains(e.folder)) {
-            // The two levels of the folder, each made once.
-            const QByteArray top = root + "/" + e.folder.left(e.folder.indexOf('/'));
-            if (!made.contains(top.mid(root.size() + 1))) {
-                ::mkdir(top.constData(), 0755);
-                made.insert(top.mid(root.size() + 1));
-            }
-            ::mkdir((root + "/" + e.folder).constData(), 0755);
-            made.insert(e.folder);
-        }
-        const int fd = ::open((root + "/" + e.folder + "/" + e.file).constData(),
-                              O_WRONLY | O_CREAT | O_TRUNC, 0644);
-        if (fd >= 0)
-            ::close(fd);
-    }
-    return t.nsecsElapsed() / 1e6;
 }
 
 // The process's peak resident memory so far, in MiB.

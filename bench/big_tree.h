@@ -1,0 +1,82 @@
+// The big archive that the measurements share: its entries (100 folders of 10 sub-folders of
+// 100 files each for 100,000 entries), the engine's listing log of it, and the bare loop that
+// creates the same files and folders, the baseline of every mirror-tree figure.
+#pragma once
+
+#include <QByteArray>
+#include <QElapsedTimer>
+#include <QSet>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <vector>
+
+namespace quovara::bench {
+
+struct Entry {
+    QByteArray folder; // "d012/s3"
+    QByteArray file;   // "f00042.txt"
+};
+
+inline std::vector<Entry> makeEntries(int count) {
+    std::vector<Entry> entries;
+    entries.reserve(count);
+    for (int i = 0; i < count; ++i) {
+        Entry e;
+        e.folder = QByteArray("d") + QByteArray::number(i / 1000).rightJustified(3, '0') + "/s" +
+                   QByteArray::number((i / 100) % 10);
+        e.file = QByteArray("f") + QByteArray::number(i).rightJustified(6, '0') + ".txt";
+        entries.push_back(e);
+    }
+    return entries;
+}
+
+// The log that "uharc l -d2" writes for the entries (0.6 layout, CR LF).
+inline QByteArray makeLog(const std::vector<Entry>& entries) {
+    QByteArray log =
+        "\r\n=== UHARC 0.6 LOG =================================== 22-Nov-2026  14:35:54 "
+        "===\r\nEnvironment: \"\"\r\nCommandline: \"uharc.exe l -d2 -y+ -lgLOG.txt "
+        "big.uha\"\r\n\r\nProcessing archive \"big.uha\" (created: 22-Nov-2026, "
+        "14:35).\r\n\r\nfile                                size     date        time "
+        "   attr   crc-32 \r\n" +
+        QByteArray(79, '-') + "\r\n";
+    for (const Entry& e : entries) {
+        QByteArray name = e.folder + "/" + e.file;
+        name.replace('/', '\\');
+        log += name + "\r\n                                       0  22-Nov-2026  14:28:18  ---A  "
+                      "00000000\r\n";
+    }
+    log += QByteArray(79, '-') + "\r\n" + QByteArray::number(qulonglong(entries.size())) +
+           " files                                0\r\n                                       0 "
+           "packed (ALZ:2-mode), ratio: 0.0%\r\n" +
+           QByteArray(79, '=') + "\r\n\r\n";
+    return log;
+}
+
+// Creates the entries as empty files under `root` with plain system calls, each folder made
+// once; returns the milliseconds it took.
+inline double bareRun(const std::vector<Entry>& entries, const QByteArray& root) {
+    QElapsedTimer t;
+    t.start();
+    ::mkdir(root.constData(), 0755);
+    QSet<QByteArray> made;
+    for (const Entry& e : entries) {
+        if (!made.contains(e.folder)) {
+            // The two levels of the folder, each made once.
+            const QByteArray top = root + "/" + e.folder.left(e.folder.indexOf('/'));
+            if (!made.contains(top.mid(root.size() + 1))) {
+                ::mkdir(top.constData(), 0755);
+                made.insert(top.mid(root.size() + 1));
+            }
+            ::mkdir((root + "/" + e.folder).constData(), 0755);
+            made.insert(e.folder);
+        }
+        const int fd = ::open((root + "/" + e.folder + "/" + e.file).constData(),
+                              O_WRONLY | O_CREAT | O_TRUNC, 0644);
+        if (fd >= 0)
+            ::close(fd);
+    }
+    return t.nsecsElapsed() / 1e6;
+}
+
+} // namespace quovara::bench
