@@ -1041,3 +1041,16 @@ TEST_F(MainWindow, TheFileListAndTheTaskPaneShowWhereTheFocusIs) {
     EXPECT_EQ(child<QToolButton>("ImgCerca")->toolTip(), "Search (Ctrl+F)");
     EXPECT_EQ(child<QLineEdit>("TxtCerca")->toolTip(), "Search file in archive (Ctrl+F)");
 }
+
+TEST_F(MainWindow, AnArchiveNamedRelativeToTheStartingFolderIsOpened) {
+    makeArchive(kSix, QString::fromUtf8("względny.uha"));
+    const QString before = QDir::currentPath();
+    ASSERT_TRUE(QDir::setCurrent(places_.path()));
+    const bool loaded = window_.Form_Load(QString::fromUtf8("względny.uha"));
+    QDir::setCurrent(before);
+    ASSERT_TRUE(loaded);
+    EXPECT_TRUE(archiveLayout());
+    EXPECT_EQ(window_.lister().listing().archivePath,
+              places_.path() + QString::fromUtf8("/względny.uha"));
+    EXPECT_TRUE(prompter_.shown.isEmpty()) << prompter_.shown.join('|').toStdString();
+}

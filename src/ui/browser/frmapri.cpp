@@ -289,7 +289,12 @@ bool frmApri::Form_Load(const QString& commandLine) {
     setWindowTitle(baseTitle_);
     FileView1->setFolder(QDir::homePath());
 
-    const CommandRequest request = ClassifyCommandLine(commandLine);
+    CommandRequest request = ClassifyCommandLine(commandLine);
+    // A path typed in a shell may be relative to where the program was started; the engine
+    // runs elsewhere, so every request names its file by its full path.
+    if (request.kind != CommandRequest::None && !request.path.isEmpty() &&
+        QFileInfo(request.path).isRelative())
+        request.path = QDir::toNativeSeparators(QFileInfo(request.path).absoluteFilePath());
     switch (request.kind) {
     case CommandRequest::Archive:
         pointBrowserAt(request.path);
