@@ -11,7 +11,6 @@
 #include <QPainterPath>
 #include <QScrollBar>
 #include <QStyle>
-#include <QStyleOptionFocusRect>
 #include <QTimer>
 
 namespace quovara {
@@ -296,13 +295,16 @@ void TaskPaneBar::paintPane(QPainter& p, const TaskPanePalette& pal) {
         else if (m_hotHeader != 0)
             r = GroupHeaderRect(m_hotHeader).adjusted(2, 2, -2, -2);
         else
-            r = rect().adjusted(1, 1, -2, -2); // focused, nothing hot yet: the whole pane
+            r = rect().adjusted(4, 4, -5, -5); // focused, nothing hot yet: the whole pane
         if (!r.isEmpty()) {
-            QStyleOptionFocusRect opt;
-            opt.initFrom(this);
-            opt.rect = r;
-            opt.backgroundColor = pal.body;
-            style()->drawPrimitive(QStyle::PE_FrameFocusRect, &opt, &p, this);
+            // A solid frame in a dark shade of the selection colour: the style's dotted focus
+            // rectangle is barely visible on the pane's blue.
+            p.save();
+            p.setRenderHint(QPainter::Antialiasing);
+            p.setPen(QPen(palette().color(QPalette::Highlight).darker(170), 2));
+            p.setBrush(Qt::NoBrush);
+            p.drawRoundedRect(QRectF(r).adjusted(1, 1, -1, -1), 3, 3);
+            p.restore();
         }
     }
 }

@@ -1,6 +1,7 @@
 #include "filebrowser.h"
 
 #include "fileicons.h"
+#include "focusframe.h"
 
 #include <QDir>
 #include <QEvent>
@@ -33,6 +34,7 @@ FileBrowser::FileBrowser(QWidget* parent) : QWidget(parent) {
     for (QAbstractItemView* v :
          {static_cast<QAbstractItemView*>(list_), static_cast<QAbstractItemView*>(tree_)}) {
         v->setModel(model_);
+        v->setItemDelegate(new FocusFrameDelegate(v));
         v->setSelectionMode(QAbstractItemView::SingleSelection);
         v->setEditTriggers(QAbstractItemView::NoEditTriggers);
         v->setMouseTracking(true);

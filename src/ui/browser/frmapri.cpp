@@ -2,6 +2,7 @@
 
 #include "filebrowser.h"
 #include "fileicons.h"
+#include "focusframe.h"
 
 #include "controls/taskpanebar.h"
 #include "controls/uctoolbar.h"
@@ -127,6 +128,7 @@ frmApri::frmApri(QWidget* parent)
     Trovati->setObjectName(QStringLiteral("Trovati"));
     results_ = new SearchResults(Trovati);
     Trovati->setModel(results_);
+    Trovati->setItemDelegate(new FocusFrameDelegate(Trovati));
     Trovati->setRootIsDecorated(false);
     Trovati->setItemsExpandable(false);
     Trovati->setAllColumnsShowFocus(true);
