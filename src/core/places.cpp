@@ -258,10 +258,6 @@ private:
     int holds_ = 0;
 };
 
-void deleteInBackground(const QStringList& folders) {
-    AsideDeleter::instance().add(folders);
-}
-
 } // namespace
 
 BackgroundDeletesHeld::BackgroundDeletesHeld() {
@@ -281,7 +277,7 @@ bool MoveAsideAndDelete(const QString& folder) {
         folder +
         QStringLiteral(".old-%1-%2").arg(QCoreApplication::applicationPid()).arg(++generation);
     if (QDir().rename(folder, aside)) {
-        deleteInBackground({aside});
+        AsideDeleter::instance().add({aside});
         return true;
     }
     qCDebug(lcFiles) << "could not move" << folder << "aside; deleting it here";
@@ -312,7 +308,7 @@ void CleanWorkFolder() {
         leftovers << old.absoluteFilePath();
     }
     if (!leftovers.isEmpty())
-        deleteInBackground(leftovers);
+        AsideDeleter::instance().add(leftovers);
     if (info.isDir() && !MoveAsideAndDelete(work))
         qCDebug(lcFiles) << "could not delete the work folder completely" << work;
 }

@@ -206,14 +206,11 @@ private:
     }
 
 #ifdef Q_OS_UNIX
-    // An open handle on `folder` (the last folder made), opened without following a link.
+    // An open handle on `folder`, the last folder made (forgetLastFolder closes it when
+    // another one is made), opened without following a link.
     int folderHandle(const QByteArray& folder) {
-        if (folderFd_ < 0 || folder != folderFdPath_) {
-            if (folderFd_ >= 0)
-                ::close(folderFd_);
+        if (folderFd_ < 0)
             folderFd_ = ::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
-            folderFdPath_ = folder;
-        }
         return folderFd_;
     }
 #endif
@@ -236,7 +233,6 @@ private:
     QByteArray lastPath_;
 #ifdef Q_OS_UNIX
     int folderFd_ = -1;
-    QByteArray folderFdPath_;
 #endif
 };
 

@@ -317,11 +317,6 @@ TEST(CleanWorkFolder, TheOldWorkFolderAndLeftoversAreDeletedInTheBackground) {
 
 namespace {
 
-void put(const QString& path, const QByteArray& content) {
-    QDir().mkpath(QFileInfo(path).absolutePath());
-    writeFile(path, content);
-}
-
 // True once nothing named "<folder>.old-*" is left beside `folder`.
 bool nothingAsideOf(const QString& folder) {
     const QFileInfo info(folder);
@@ -336,9 +331,9 @@ TEST(MoveAsideAndDelete, TheFolderGoesAtOnceAndWhatWasInItGoesInTheBackground) {
     QTemporaryDir dir;
     const QString folder = dir.filePath("tree");
     for (int i = 0; i < 50; ++i)
-        put(folder + QString("/d%1/f%2.txt").arg(i % 5).arg(i), "x");
+        writeFile(folder + QString("/d%1/f%2.txt").arg(i % 5).arg(i), "x");
     ASSERT_TRUE(QFile::link(dir.filePath("outside"), folder + "/link"));
-    put(dir.filePath("outside/keep.txt"), "keep");
+    writeFile(dir.filePath("outside/keep.txt"), "keep");
     ASSERT_TRUE(MoveAsideAndDelete(folder));
     EXPECT_FALSE(QFileInfo::exists(folder));
     ASSERT_TRUE(QTest::qWaitFor([&] { return nothingAsideOf(folder); }, 10000));
@@ -350,7 +345,7 @@ TEST(MoveAsideAndDelete, DeletingWaitsWhileHeldAndGoesOnOnceReleased) {
     QTemporaryDir dir;
     const QString folder = dir.filePath("tree");
     for (int i = 0; i < 20; ++i)
-        put(folder + QString("/f%1.txt").arg(i), "x");
+        writeFile(folder + QString("/f%1.txt").arg(i), "x");
     QString aside;
     {
         const BackgroundDeletesHeld held;

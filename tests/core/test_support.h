@@ -4,6 +4,7 @@
 #include <QByteArray>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QList>
 #include <QString>
 #include <QTemporaryDir>
@@ -62,7 +63,9 @@ inline QByteArray readAll(const QString& path) {
     return f.readAll();
 }
 
+// Writes `content` to `path`, making the folders it needs.
 inline void writeFile(const QString& path, const QByteArray& content) {
+    QDir().mkpath(QFileInfo(path).absolutePath());
     QFile f(path);
     f.open(QIODevice::WriteOnly | QIODevice::Truncate);
     f.write(content);

@@ -15,12 +15,6 @@ using namespace quovara::testing;
 
 namespace {
 
-void touch(const QString& path) {
-    QDir().mkpath(QFileInfo(path).absolutePath());
-    QFile f(path);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-}
-
 QStringList runToEnd(ArchiveSearch& search, const QString& pattern, const QString& root,
                      int* handOvers = nullptr) {
     QStringList rows;
@@ -47,7 +41,7 @@ TEST(ArchiveSearchWalk, SubFoldersComeBeforeAFoldersOwnFilesAndNamesAreInOrder) 
     QTemporaryDir dir;
     for (const char* name :
          {"b.txt", "a.txt", "z/y.txt", "z/x.TXT", "m/k/j.txt", "m/n.doc", "m/l.txt"})
-        touch(dir.filePath(name));
+        writeFile(dir.filePath(name), {});
     ArchiveSearch search;
     EXPECT_EQ(runToEnd(search, "*.txt", dir.path()),
               QStringList({"m\\k|j.txt", "m|l.txt", "z|x.TXT", "z|y.txt", "|a.txt", "|b.txt"}));
@@ -57,8 +51,8 @@ TEST(ArchiveSearchWalk, SubFoldersComeBeforeAFoldersOwnFilesAndNamesAreInOrder) 
 TEST(ArchiveSearchWalk, ALinkToAFolderIsNotFollowedButALinkToAFileIsAHit) {
     QTemporaryDir dir;
     QTemporaryDir outside;
-    touch(outside.filePath("secret.txt"));
-    touch(dir.filePath("in/real.txt"));
+    writeFile(outside.filePath("secret.txt"), {});
+    writeFile(dir.filePath("in/real.txt"), {});
     ASSERT_TRUE(QFile::link(outside.path(), dir.filePath("away")));
     ASSERT_TRUE(QFile::link(dir.filePath("in/real.txt"), dir.filePath("alias.txt")));
     ArchiveSearch search;
@@ -68,7 +62,7 @@ TEST(ArchiveSearchWalk, ALinkToAFolderIsNotFollowedButALinkToAFileIsAHit) {
 TEST(ArchiveSearchWalk, NamesInAnyScriptAreFoundAndReportedUnchanged) {
     QTemporaryDir dir;
     for (const QString& name : MixedScriptNames())
-        touch(dir.filePath(QString::fromUtf8("Łódź/") + name));
+        writeFile(dir.filePath(QString::fromUtf8("Łódź/") + name), {});
     ArchiveSearch search;
     const QStringList rows = runToEnd(search, "*", dir.path());
     ASSERT_EQ(rows.size(), MixedScriptNames().size());
@@ -80,7 +74,7 @@ TEST(ArchiveSearchWalk, ManyHitsArriveInAFewBatchesTheFirstOnesEarly) {
     QTemporaryDir dir;
     for (int f = 0; f < 20; ++f)
         for (int i = 0; i < 100; ++i)
-            touch(dir.filePath(QString("d%1/f%2.txt").arg(f, 2, 10, QChar('0')).arg(i)));
+            writeFile(dir.filePath(QString("d%1/f%2.txt").arg(f, 2, 10, QChar('0')).arg(i)), {});
     ArchiveSearch search;
     QElapsedTimer t;
     qint64 firstAt = -1;
@@ -106,7 +100,7 @@ TEST(ArchiveSearchWalk, NothingArrivesAfterAStopAndItFinishesOnce) {
     QTemporaryDir dir;
     for (int f = 0; f < 10; ++f)
         for (int i = 0; i < 100; ++i)
-            touch(dir.filePath(QString("d%1/f%2.txt").arg(f).arg(i)));
+            writeFile(dir.filePath(QString("d%1/f%2.txt").arg(f).arg(i)), {});
     ArchiveSearch search;
     QSignalSpy finished(&search, &ArchiveSearch::finished);
     int rows = 0;

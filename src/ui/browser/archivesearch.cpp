@@ -40,7 +40,7 @@ void ArchiveSearch::start(const QString& pattern, const QString& root) {
     root_ = QDir::cleanPath(root);
     hits_ = 0;
     searching_ = true;
-    handedOver_ = false;
+    sinceHandOver_.invalidate();
     pushFolder(root_);
     timer_.start();
 }
@@ -117,7 +117,6 @@ void ArchiveSearch::collectHits(const Frame& frame) {
 void ArchiveSearch::handOver() {
     if (pending_.isEmpty())
         return;
-    handedOver_ = true;
     sinceHandOver_.start();
     const QList<SearchHit> hits = std::move(pending_);
     pending_.clear();
@@ -142,7 +141,7 @@ void ArchiveSearch::step() {
     // The first results are shown at once, later ones a few times a second: every hand-over
     // makes the list lay itself out again, which a hand-over per step would make the main
     // cost of a search that finds everything.
-    if (stack_.isEmpty() || !handedOver_ || sinceHandOver_.elapsed() >= kHandOverMs)
+    if (stack_.isEmpty() || !sinceHandOver_.isValid() || sinceHandOver_.elapsed() >= kHandOverMs)
         handOver();
     if (stack_.isEmpty())
         stop();

@@ -59,7 +59,7 @@ private:
     QString root_;
     QList<Frame> stack_;
     QList<SearchHit> pending_;
-    bool handedOver_ = false;
+    // Since the last hand-over; invalid until the first of a search.
     QElapsedTimer sinceHandOver_;
     QTimer timer_;
     bool searching_ = false;

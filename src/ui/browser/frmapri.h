@@ -10,8 +10,6 @@
 #include "engine/listing.h"
 #include "ui/common/messageprompter.h"
 
-#include <QHash>
-#include <QIcon>
 #include <QMainWindow>
 
 class QShortcut;
