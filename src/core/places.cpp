@@ -11,6 +11,7 @@
 #include <QStandardPaths>
 
 #ifdef Q_OS_UNIX
+#include <atomic>
 #include <cerrno>
 #include <condition_variable>
 #include <cstring>
@@ -272,7 +273,8 @@ bool MoveAsideAndDelete(const QString& folder) {
     const QFileInfo info(folder);
     if (!info.isDir() || info.isSymLink())
         return true;
-    static int generation = 0;
+    // Folders are moved aside from more than one thread (the listing's worker, the window's).
+    static std::atomic<int> generation = 0;
     const QString aside =
         folder +
         QStringLiteral(".old-%1-%2").arg(QCoreApplication::applicationPid()).arg(++generation);

@@ -10,6 +10,7 @@
 #include <QTime>
 #include <QTimer>
 #include <cmath>
+#include <thread>
 
 namespace quovara {
 
@@ -21,6 +22,17 @@ bool DeadlineReached(qint64 now, qint64 start, qint64 deadline, bool wrapped) {
     if (now < deadline)
         return false;
     return !wrapped || now < start;
+}
+
+void RunBeside(const std::function<void()>& work) {
+    QEventLoop loop;
+    std::thread worker([&] {
+        work();
+        // Queued: the quit reaches the loop also when the work ends before the loop starts.
+        QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
+    });
+    loop.exec();
+    worker.join();
 }
 
 namespace {

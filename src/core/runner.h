@@ -23,6 +23,12 @@ bool RunAndWait(const QString& scriptPath, qint16 timeoutSeconds,
                 const QString& workingFolder = QString(), const std::function<qint64()>& clock = {},
                 QString* startError = nullptr);
 
+// Runs `work` on a thread of its own while this thread waits in an event loop, and returns when
+// it is done. For file-system work that a busy disk can hold up (a rename or a small write can
+// wait a long time for the journal while thousands of files are written back): the window
+// keeps repainting and taking keys meanwhile. `work` must not touch widgets.
+void RunBeside(const std::function<void()>& work);
+
 // Ends the jobs that RunAndWait is waiting for now (the user stopped the wait); each wait then
 // returns at once. The number of jobs ended.
 int StopWaitedJobs();

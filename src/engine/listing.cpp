@@ -10,7 +10,6 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
 #include <QSet>
@@ -18,7 +17,6 @@
 #ifdef Q_OS_UNIX
 #include <cerrno>
 #include <cstring>
-#include <thread>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -473,20 +471,23 @@ ArchiveLister::ArchiveLister(Prompter& prompter, EngineSwitchState& engineSwitch
 
 void ArchiveLister::Batch() {
     const QString log = WorkFile(names::ListLog);
-    // The engine appends to its log: any old one goes, also an empty one or a link standing in
-    // its place (removing a link never touches what it points to).
-    if (QFileInfo(log).exists() || QFileInfo(log).isSymLink()) {
-        if (!QFile::remove(log))
-            qCDebug(lcListing) << "could not delete" << log;
-    }
     startError_.clear();
     pass_ = ListingPass();
     const QString script = WorkFile(names::ListScript);
+    const CommandPieces pieces = ListCommandPieces(ProgramFolder(), TempRoot(), listing_.password,
+                                                   listing_.archivePath, PathStyle::host());
     QString refused;
-    if (!WriteJobScript(script, Preamble::List,
-                        ListCommandPieces(ProgramFolder(), TempRoot(), listing_.password,
-                                          listing_.archivePath, PathStyle::host()),
-                        LastLine::NoLineEnd, &refused)) {
+    bool written = false;
+    RunBeside([&] {
+        // The engine appends to its log: any old one goes, also an empty one or a link standing
+        // in its place (removing a link never touches what it points to).
+        if (QFileInfo(log).exists() || QFileInfo(log).isSymLink()) {
+            if (!QFile::remove(log))
+                qCDebug(lcListing) << "could not delete" << log;
+        }
+        written = WriteJobScript(script, Preamble::List, pieces, LastLine::NoLineEnd, &refused);
+    });
+    if (!written) {
         // Nothing runs: the user is told what is wrong (once, here), and the listing fails.
         prompter_->critical(refused);
         listing_.status = ListStatus::Failed;
@@ -507,29 +508,34 @@ void ArchiveLister::Batch() {
     // The log is read once, in pieces: the error scan, the new mirror tree (built aside, so the
     // shown one stays until the new one is complete) and the totals in one pass.
     const QString staging = stagingFolder();
-    if (!EmptyFolderQuickly(staging))
-        qCDebug(lcListing) << "could not empty" << staging;
     // The pass runs beside the window's thread, which waits in an event loop: the window
     // stays live (it repaints, and Escape stops the reading) while the tree is made.
     stop_ = false;
     entries_ = 0;
     const EngineCodec codec = ActiveEngineCodec();
-    QEventLoop loop;
-    std::thread worker([&] {
+    RunBeside([&] {
+        if (!EmptyFolderQuickly(staging))
+            qCDebug(lcListing) << "could not empty" << staging;
         const BackgroundDeletesHeld quiet;
         pass_ = ReadListingLog(log, codec, staging, &stop_, &entries_);
-        QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
     });
-    loop.exec();
-    worker.join();
     if (cancelled_) {
         qCDebug(lcListing) << "listing stopped by the user while the tree was made";
-        if (!QDir(staging).removeRecursively())
-            qCDebug(lcListing) << "could not delete" << staging;
+        discardStaging();
         listing_.status = ListStatus::Failed;
         return;
     }
     listing_.status = SpecificaErrore(Errore());
+}
+
+void ArchiveLister::discardStaging() {
+    // A tree left unfinished can be big: it is moved aside at once and deleted in the
+    // background, like any folder view that is no longer wanted.
+    const QString staging = stagingFolder();
+    bool gone = false;
+    RunBeside([&] { gone = !QFileInfo::exists(staging) || MoveAsideAndDelete(staging); });
+    if (!gone)
+        qCDebug(lcListing) << "could not delete" << staging;
 }
 
 QString ArchiveLister::Errore() const {
@@ -566,10 +572,11 @@ void ArchiveLister::Cancel() {
 ListStatus ArchiveLister::FileInArchivio(const QString& selectedPath) {
     cancelled_ = false;
     for (;;) {
-        QFile placeholder(WorkFile(names::Placeholder));
-        if (!placeholder.open(QIODevice::WriteOnly | QIODevice::Truncate))
-            qCDebug(lcListing) << "could not create" << placeholder.fileName();
-        placeholder.close();
+        RunBeside([] {
+            QFile placeholder(WorkFile(names::Placeholder));
+            if (!placeholder.open(QIODevice::WriteOnly | QIODevice::Truncate))
+                qCDebug(lcListing) << "could not create" << placeholder.fileName();
+        });
 
         listing_.archivePath = selectedPath;
         Batch();
@@ -593,14 +600,18 @@ ListStatus ArchiveLister::FileInArchivio(const QString& selectedPath) {
             if (problem.isEmpty() && !pass_.totals)
                 problem = QStringLiteral("the engine's listing is incomplete");
             if (problem.isEmpty()) {
-                if (!EmptyFolderQuickly(ScratchFolder()) || !QDir().rmdir(ScratchFolder()) ||
-                    !QDir().rename(staging, ScratchFolder()))
+                bool replaced = false;
+                RunBeside([&] {
+                    replaced = EmptyFolderQuickly(ScratchFolder()) &&
+                               QDir().rmdir(ScratchFolder()) &&
+                               QDir().rename(staging, ScratchFolder());
+                });
+                if (!replaced)
                     problem = QStringLiteral("it cannot replace the previous folder view");
             }
             if (!problem.isEmpty()) {
                 // No partial tree: the one shown before stays as it was.
-                if (!QDir(staging).removeRecursively())
-                    qCDebug(lcListing) << "could not delete" << staging;
+                discardStaging();
                 prompter_->critical(ListingFailedMessage(selectedPath, problem));
                 listing_.status = ListStatus::Failed;
                 listing_.password.clear();

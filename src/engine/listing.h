@@ -160,6 +160,9 @@ public:
     QString startError() const { return startError_; }
 
 private:
+    // Moves the new tree being made aside, for deletion in the background.
+    void discardStaging();
+
     Prompter* prompter_;
     EngineSwitchState& switch_;
     ArchiveListing listing_;

@@ -11,7 +11,9 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QThread>
 #include <QTimer>
+#include <atomic>
 #include <gtest/gtest.h>
 
 #include <signal.h>
@@ -101,6 +103,33 @@ TEST_F(Runner, MissingProgramIsAFailedStart) {
     QString error;
     EXPECT_FALSE(RunAndWait(script(names::ListScript), 0, places.path(), {}, &error));
     EXPECT_TRUE(error.contains("does not exist")) << error.toStdString();
+}
+
+TEST(RunBeside, TheLoopRunsWhileTheWorkTakesItsTime) {
+    // Work that takes 300 ms (a disk holding up a rename): the timer of this thread keeps
+    // firing meanwhile, and the call returns only when the work is done.
+    int ticks = 0;
+    QTimer timer;
+    timer.setInterval(10);
+    QObject::connect(&timer, &QTimer::timeout, [&] { ++ticks; });
+    timer.start();
+    std::atomic<bool> done = false;
+    Qt::HANDLE workThread = nullptr;
+    RunBeside([&] {
+        workThread = QThread::currentThreadId();
+        QThread::msleep(300);
+        done = true;
+    });
+    EXPECT_TRUE(done);
+    EXPECT_NE(workThread, QThread::currentThreadId());
+    EXPECT_GE(ticks, 10);
+}
+
+TEST(RunBeside, WorkThatEndsAtOnceStillReturns) {
+    int runs = 0;
+    for (int i = 0; i < 50; ++i)
+        RunBeside([&] { ++runs; });
+    EXPECT_EQ(runs, 50);
 }
 
 TEST(RunAndWait, MissingScriptIsAFailedStart) {

@@ -358,7 +358,11 @@ void frmApri::buildToolbar() {
                           ucToolbar::tbrDropDown);
     ucToolbar1->AddButton(QString(), -1, QString(), ucToolbar::tbrSeparator);
     ucToolbar1->AddButton(QStringLiteral("Update"), 6, QStringLiteral("Look for a newer version"));
-    ucToolbar1->AddButton(QStringLiteral("About"), 7, QStringLiteral("About Quovara"));
+    // The keys that have no button of their own are named in the last button's tip.
+    ucToolbar1->AddButton(
+        QStringLiteral("About"), 7,
+        QStringLiteral(
+            "About Quovara. Keys: Ctrl+O open an archive, F5 read it again, Ctrl+Q quit"));
     ucToolbar1->SetButtonEnabled(IdSfx, false);
     ucToolbar1->setFixedHeight(ucToolbar1->ToolbarHeight() + 4);
     connect(ucToolbar1, &ucToolbar::ButtonClick, this, &frmApri::ButtonClick);
