@@ -738,6 +738,48 @@ TEST_F(MainWindow, AnArchiveFromTheCommandLineIsReadWithTheWindowShownAndEscapeS
     EXPECT_EQ(window_.windowTitle(), QString::fromUtf8("Quovara — demonstration engine"));
 }
 
+TEST_F(MainWindow, WhileAnArchiveIsReadTheWindowTakesNoInputButWhatStopsTheReading) {
+    const QString endless = makeArchive(kSix, "endless.uha");
+    const QString second = makeArchive(kSix, "second.uha");
+    ASSERT_TRUE(window_.Form_Load(QString()));
+    show();
+    window_.fileView()->setFolder(places_.path());
+    QAbstractItemView* list = window_.fileView()->currentView();
+    ASSERT_TRUE(waitFor([&] { return list->model()->rowCount(list->rootIndex()) >= 2; }));
+    list->setFocus();
+    auto hang = std::make_unique<HangingEngine>();
+    QWidget* focusBefore = nullptr;
+    QWidget* focusAfter = nullptr;
+    QString selectedWhileReading = "not looked at";
+    whenListJobRuns(places_.programFolder(), [&](qint64) {
+        window_.activateWindow();
+        if (!QTest::qWaitForWindowActive(&window_))
+            ADD_FAILURE() << "the window never became active";
+        focusBefore = QApplication::focusWidget();
+        // A double-click on another archive, the toolbar's Add, Back, Tab: none of them acts.
+        clickItem(second, true);
+        clickToolbar(3);
+        QTest::keyClick(list, Qt::Key_Backspace);
+        QTest::keyClick(list, Qt::Key_Tab);
+        focusAfter = QApplication::focusWidget();
+        selectedWhileReading = window_.fileView()->selectedPath();
+        // Escape still stops the reading.
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    });
+    window_.OpenItem(endless);
+    EXPECT_TRUE(selectedWhileReading.isEmpty()) << selectedWhileReading.toStdString();
+    EXPECT_EQ(focusAfter, focusBefore);
+    EXPECT_TRUE(prompter_.shown.isEmpty()) << prompter_.shown.join('|').toStdString();
+    EXPECT_EQ(window_.lister().listing().archivePath, endless);
+    EXPECT_EQ(QDir(window_.fileView()->folder()), QDir(places_.path()));
+    EXPECT_FALSE(archiveLayout());
+    // Once the reading has stopped, the window takes input again.
+    hang.reset();
+    clickItem(second, true);
+    ASSERT_TRUE(waitFor([&] { return archiveLayout(); }));
+    EXPECT_EQ(window_.lister().listing().archivePath, second);
+}
+
 TEST_F(MainWindow, ClosingTheWindowWhileAnArchiveIsReadEndsTheEngineAndTheProgram) {
     const QString archive = makeArchive(kSix, "endless.uha");
     HangingEngine hang;

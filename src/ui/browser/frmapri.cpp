@@ -20,6 +20,7 @@
 #include "engine/grammar.h"
 
 #include <QActionGroup>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QDir>
@@ -29,6 +30,7 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -40,6 +42,7 @@
 #include <QTreeView>
 #include <QUrl>
 #include <QVBoxLayout>
+#include <optional>
 
 namespace quovara {
 
@@ -55,6 +58,55 @@ enum ToolbarId {
     IdView = 8,
     IdUpdate = 10,
     IdAbout = 11,
+};
+
+// While an archive is read, the window takes no input but what stops the reading (Escape,
+// Ctrl+Q, closing it): a click or a key that started another listing or a job in the middle of
+// this one would have two jobs working on the same files of the work folder. Other windows
+// (the password prompt, a message) are not touched, nor are releases, which start nothing
+// whose press was not seen.
+class ReadingInputGuard : public QObject {
+public:
+    explicit ReadingInputGuard(QWidget* window) : window_(window) {
+        qApp->installEventFilter(this);
+    }
+    ~ReadingInputGuard() override { qApp->removeEventFilter(this); }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        switch (event->type()) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::ContextMenu:
+        case QEvent::DragEnter:
+        case QEvent::DragMove:
+        case QEvent::Drop:
+            break;
+        case QEvent::KeyPress:
+        case QEvent::ShortcutOverride:
+            if (stopsTheReading(static_cast<QKeyEvent*>(event)))
+                return false;
+            break;
+        default:
+            return false;
+        }
+        auto* widget = qobject_cast<QWidget*>(watched);
+        if (!widget || widget->window() != window_)
+            return false;
+        // Claimed by the widget, a key fires none of the window's shortcuts, and the key
+        // itself is then dropped here.
+        event->accept();
+        return true;
+    }
+
+private:
+    static bool stopsTheReading(const QKeyEvent* key) {
+        const QKeyCombination combination = key->keyCombination();
+        return combination == QKeyCombination(Qt::Key_Escape) ||
+               combination == QKeyCombination(Qt::CTRL | Qt::Key_Q);
+    }
+
+    QWidget* window_;
 };
 
 QPushButton* linkButton(const QString& caption, const char* name, QWidget* parent) {
@@ -436,7 +488,9 @@ void frmApri::OpenItem(const QString& path) {
     // While the archive is read the window says so, and Escape or closing it stops the reading.
     const QString title = windowTitle();
     const bool archiveName = IsArchiveName(path);
+    std::optional<ReadingInputGuard> guard;
     if (archiveName) {
+        guard.emplace(this);
         listingNow_ = true;
         stopReading_->setEnabled(true);
         setWindowTitle(QString::fromUtf8(apri::ReadingTitle).arg(QFileInfo(path).fileName()) +
@@ -455,6 +509,7 @@ void frmApri::OpenItem(const QString& path) {
     const bool listed = lister_.OpenSelectedArchive(path);
     count.stop();
     if (archiveName) {
+        guard.reset();
         listingNow_ = false;
         stopReading_->setEnabled(false);
         setWindowTitle(title);
