@@ -14,7 +14,7 @@ EXPECTED = [
     ("push button", "Details"), ("push button", "File and Folder Operations"),
     ("push button", "State"),
     ("push button", "Extract selected item"), ("push button", "Run selected file"),
-    ("push button", "Search"), ("text", "Search file in archive"),
+    ("push button", "Search"), ("text", "Search file in archive"), ("text", "Folder"),
     ("label", "Quovara is ready"), ("label", "Select an action"),
 ]
 

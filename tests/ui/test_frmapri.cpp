@@ -1068,7 +1068,7 @@ TEST_F(MainWindow, TheWindowStaysLiveAndCountsEntriesWhileABigArchiveIsRead) {
 
 TEST_F(MainWindow, TheFileListAndTheTaskPaneShowWhereTheFocusIs) {
     const QString archive = makeArchive(kSix, "focus.uha");
-    ASSERT_TRUE(window_.Form_Load(archive));
+    ASSERT_TRUE(window_.Form_Load(QString()));
     show();
     window_.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
@@ -1081,14 +1081,24 @@ TEST_F(MainWindow, TheFileListAndTheTaskPaneShowWhereTheFocusIs) {
         return target->hasFocus();
     };
     // The file list, given the focus, marks an item as the current one without selecting it.
+    // The item current before, in the folder that held the archive, is not on the screen now.
     QAbstractItemView* list = window_.fileView()->currentView();
+    auto* files = static_cast<QFileSystemModel*>(list->model());
+    window_.fileView()->setFolder(places_.path());
+    ASSERT_TRUE(waitFor([&] { return files->index(archive).isValid(); }));
+    list->selectionModel()->setCurrentIndex(files->index(archive), QItemSelectionModel::NoUpdate);
+    window_.OpenItem(archive);
+    ASSERT_TRUE(archiveLayout());
     ASSERT_TRUE(waitFor([&] { return list->model()->rowCount(list->rootIndex()) > 0; }));
     child<QLineEdit>("TxtCerca")->setFocus();
-    list->setCurrentIndex(QModelIndex());
+    const QImage unfocused = list->viewport()->grab().toImage();
     ASSERT_TRUE(tabTo(list));
     EXPECT_TRUE(list->currentIndex().isValid());
+    EXPECT_EQ(list->currentIndex().parent(), list->rootIndex());
     EXPECT_TRUE(list->selectionModel()->selectedIndexes().isEmpty());
     EXPECT_TRUE(window_.fileView()->selectedPath().isEmpty());
+    // ... and its frame is drawn.
+    EXPECT_NE(list->viewport()->grab().toImage(), unfocused);
     // The task pane, given the focus with nothing under the pointer, draws a focus frame.
     auto* pane = child<TaskPaneBar>("Barra");
     const QImage before = pane->grab().toImage();

@@ -198,9 +198,11 @@ void FileBrowser::onActivated(const QModelIndex& index) {
 }
 
 void FileBrowser::showFocusItem(QAbstractItemView* view) {
-    // A list with the focus shows it on an item: with no current item yet, the first one
-    // becomes current (its focus frame shows) without being selected.
-    if (view->currentIndex().isValid())
+    // A list with the focus shows it on an item: with no current item in its folder, the first
+    // one becomes current (its focus frame shows) without being selected.
+    // A current item left from a folder shown before does not count: it is not on the screen.
+    const QModelIndex current = view->currentIndex();
+    if (current.isValid() && current.parent() == view->rootIndex())
         return;
     const QModelIndex first = model_->index(0, 0, view->rootIndex());
     if (first.isValid())

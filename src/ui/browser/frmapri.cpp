@@ -170,6 +170,7 @@ frmApri::frmApri(QWidget* parent)
     ShComboBox1->setEditable(true);
     ShComboBox1->setInsertPolicy(QComboBox::NoInsert);
     ShComboBox1->setAccessibleName(QStringLiteral("Folder"));
+    ShComboBox1->lineEdit()->setAccessibleName(QStringLiteral("Folder"));
     right->addWidget(ShComboBox1);
 
     FileView1 = new FileBrowser(central);
