@@ -73,6 +73,8 @@ void ucToolbar::placeOverflow() {
 void ucToolbar::showOverflowMenu() {
     QMenu menu(this);
     menu.setObjectName(QStringLiteral("OverflowMenu"));
+    // The tips go with the buttons: some name the keys that do the same.
+    menu.setToolTipsVisible(true);
     for (const int id : OverflowButtons()) {
         const Button* b = find(id);
         const QString tip = ButtonTipText(id);

@@ -364,18 +364,25 @@ TEST_F(ToolbarFixture, ButtonsThatDoNotFitStayReachableThroughTheOverflowArrow) 
     EXPECT_EQ(tb->OverflowButtons(), QList<int>({3, 4, 5, 6}));
     EXPECT_EQ(overflow->accessibleName(), "More buttons");
     // Clicking the arrow opens the menu; choosing "Add" clicks that button.
-    QStringList offered;
+    QStringList offered, tips;
+    bool tipsShown = false;
     QTimer::singleShot(0, [&] {
         auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
         if (!menu)
             return;
-        for (QAction* a : menu->actions())
+        tipsShown = menu->toolTipsVisible();
+        for (QAction* a : menu->actions()) {
             offered << a->text() + (a->isEnabled() ? "" : " (disabled)");
+            tips << a->toolTip();
+        }
         menu->setActiveAction(menu->actions().first());
         QTest::keyClick(menu, Qt::Key_Return);
     });
     QTest::mouseClick(overflow, Qt::LeftButton);
     EXPECT_EQ(offered, QStringList({"Add", "Extract (disabled)", "View", "Check"}));
+    // The buttons' tips come along (they name keys), shown when the pointer rests on an entry.
+    EXPECT_TRUE(tipsShown);
+    EXPECT_EQ(tips[0], tb->ButtonTipText(3));
     EXPECT_TRUE(events.contains("ButtonClick 3")) << events.join('|').toStdString();
     // Wide enough again: no arrow.
     tb->resize(tb->sizeHint().width() + 10, tb->height());
