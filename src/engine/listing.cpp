@@ -493,6 +493,12 @@ void ArchiveLister::Batch() {
         listing_.status = ListStatus::Failed;
         return;
     }
+    if (cancelled_) {
+        // Stopped while the script was written: the engine is not started at all.
+        qCDebug(lcListing) << "listing stopped by the user before the list job";
+        listing_.status = ListStatus::Failed;
+        return;
+    }
     if (!RunAndWait(script, 0, WorkFolder(), {}, &startError_))
         qCDebug(lcListing) << "list job not started:" << startError_;
     if (cancelled_) {

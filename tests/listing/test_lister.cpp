@@ -8,6 +8,7 @@
 
 #include <QDirIterator>
 #include <QProcess>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 using namespace quovara;
@@ -187,6 +188,19 @@ TEST_F(ListerTest, ASecondArchiveShowsOnlyItsOwnEntries) {
     ASSERT_EQ(lister.FileInArchivio("/data/b.uha"), ListStatus::Opened);
     EXPECT_EQ(scratchFiles().size(), 1) << scratchFiles().join(',').toStdString();
     EXPECT_EQ(lister.Info()->fileCountText, "1");
+}
+
+TEST_F(ListerTest, StoppedBeforeTheListJobStartsTheEngineIsNeverRun) {
+    writeExecutable(engine("uharc.exe"), fakeEngine("SIX"));
+    qputenv("QV_LOG_SIX_NONE", sample("list-alz3.log").toLocal8Bit());
+    ArchiveLister lister(prompter_, switch_);
+    // The user's Escape arrives while the files before the run are written.
+    QTimer::singleShot(0, [&] { lister.Cancel(); });
+    EXPECT_EQ(lister.FileInArchivio("/data/a.uha"), ListStatus::Failed);
+    EXPECT_TRUE(lister.cancelled());
+    EXPECT_TRUE(calls().isEmpty()) << calls().join('|').toStdString();
+    EXPECT_TRUE(scratchFiles().isEmpty());
+    EXPECT_TRUE(prompter_.shown.isEmpty());
 }
 
 TEST_F(ListerTest, MissingEngineIsAFailedStartNotAHang) {
