@@ -1041,7 +1041,7 @@ TEST_F(MainWindow, TheWindowStaysLiveAndCountsEntriesWhileABigArchiveIsRead) {
     QFile::remove(engine);
     writeExecutable(engine, "#!/bin/sh\nfor a in \"$@\"; do case \"$a\" in -lg*) cat '" +
                                 logFile.toUtf8() + "' >> \"${a#-lg}\";; esac; done\n");
-    QStringList states;
+    QStringList states, titles;
     QElapsedTimer sinceTick;
     qint64 longestGap = 0;
     QTimer probe;
@@ -1051,6 +1051,8 @@ TEST_F(MainWindow, TheWindowStaysLiveAndCountsEntriesWhileABigArchiveIsRead) {
         const QString s = text("Stato");
         if (states.isEmpty() || states.last() != s)
             states << s;
+        if (titles.isEmpty() || titles.last() != window_.windowTitle())
+            titles << window_.windowTitle();
     });
     sinceTick.start();
     probe.start();
@@ -1062,6 +1064,13 @@ TEST_F(MainWindow, TheWindowStaysLiveAndCountsEntriesWhileABigArchiveIsRead) {
     EXPECT_TRUE(states.filter(QRegularExpression("^Quovara is reading the archive: \\d+ entries$"))
                     .size() >= 1)
         << states.join('|').toStdString();
+    // The task pane was hidden (the archive was opened from a folder): the title counts too.
+    EXPECT_TRUE(titles
+                    .filter(QRegularExpression(QString::fromUtf8(
+                        "^Reading big\\.uha … \\d+ entries — Quovara — demonstration engine$")))
+                    .size() >= 1)
+        << titles.join('|').toStdString();
+    EXPECT_EQ(window_.windowTitle(), QString::fromUtf8("big.uha — Quovara — demonstration engine"));
     std::printf("longest gap between two runs of the event loop while listing: %lld ms\n",
                 static_cast<long long>(longestGap));
 }
@@ -1120,6 +1129,54 @@ TEST_F(MainWindow, TheFileListAndTheTaskPaneShowWhereTheFocusIs) {
     EXPECT_EQ(tipAt(1), "Back (Backspace, Alt+Left)");
     EXPECT_EQ(tipAt(11),
               "About Quovara. Keys: Ctrl+O open an archive, F5 read it again, Ctrl+Q quit");
+}
+
+TEST_F(MainWindow, AtSixHundredFortyByFourHundredTwentyNothingIsCut) {
+    const QString archive = makeArchive(kSix, "small-window.uha");
+    ASSERT_TRUE(window_.Form_Load(archive));
+    window_.resize(640, 420);
+    show();
+    ASSERT_TRUE(waitFor([&] { return window_.width() == 640 && window_.height() == 420; }));
+    ASSERT_TRUE(archiveLayout());
+    auto* pane = child<TaskPaneBar>("Barra");
+    // A label shows its text whole: on one line within its width, or wrapped within its height.
+    auto shownWhole = [](const QLabel* l) {
+        const QRect r = l->contentsRect();
+        return l->wordWrap() ? l->heightForWidth(l->width()) <= l->height()
+                             : l->fontMetrics().horizontalAdvance(l->text()) <= r.width();
+    };
+    // The longest state text, with a six-digit count, is shown whole as well as the idle one.
+    auto* state = child<QLabel>("Stato");
+    const QString idle = state->text();
+    for (const QString& t : {idle, QString("Quovara is reading the archive: 100000 entries")}) {
+        state->setText(t);
+        QApplication::processEvents();
+        // Wrapped, it has the height it needs, inside the pane.
+        EXPECT_TRUE(shownWhole(state)) << t.toStdString();
+        EXPECT_LE(state->mapTo(pane, QPoint(state->width(), 0)).x(), pane->width());
+        EXPECT_LE(state->mapTo(child<QWidget>("pStato"), QPoint(0, state->height())).y(),
+                  child<QWidget>("pStato")->height());
+    }
+    state->setText(idle);
+    // Each caption of the pane is shown whole, inside the pane.
+    for (const char* name :
+         {"NomeAr", "GranNorm", "GranComp", "MetodoC", "RatioP", "LBCerca", "Consiglio"}) {
+        auto* l = child<QLabel>(name);
+        EXPECT_TRUE(shownWhole(l)) << name;
+        EXPECT_LE(l->mapTo(pane, QPoint(l->width(), 0)).x(), pane->width()) << name;
+    }
+    for (const char* name : {"EstFile", "EseFile"}) {
+        auto* b = child<QPushButton>(name);
+        EXPECT_GE(b->width(), b->sizeHint().width()) << name;
+        EXPECT_LE(b->mapTo(pane, QPoint(b->width(), 0)).x(), pane->width()) << name;
+    }
+    // The toolbar's buttons that do not fit are behind its arrow, which is on the screen.
+    auto* toolbar = child<ucToolbar>("ucToolbar1");
+    auto* more = toolbar->findChild<QToolButton*>("Overflow");
+    ASSERT_NE(more, nullptr);
+    EXPECT_TRUE(more->isVisible());
+    EXPECT_FALSE(toolbar->OverflowButtons().isEmpty());
+    EXPECT_LE(more->mapTo(&window_, QPoint(more->width(), 0)).x(), window_.width());
 }
 
 TEST_F(MainWindow, AnArchiveNamedRelativeToTheStartingFolderIsOpened) {

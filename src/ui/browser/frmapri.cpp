@@ -37,6 +37,7 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QShortcut>
+#include <QStyle>
 #include <QTimer>
 #include <QToolButton>
 #include <QTreeView>
@@ -258,8 +259,13 @@ frmApri::frmApri(QWidget* parent)
     bold.setBold(true);
     Stato->setFont(bold);
     Consiglio = label(QString::fromLatin1(apri::SelectAction), "Consiglio", pStato);
+    // The state texts wrap rather than being cut ("Quovara is reading the archive: N entries"
+    // is wider than the pane); the room they may need is kept below them.
+    Stato->setWordWrap(true);
+    Consiglio->setWordWrap(true);
     state->addWidget(Stato);
     state->addWidget(Consiglio);
+    state->addStretch(1);
 
     PopView = new QMenu(this);
     PopView->setObjectName(QStringLiteral("PopView"));
@@ -468,6 +474,22 @@ void frmApri::buildTaskPane() {
         w->resize(Barra->width() - 30, w->sizeHint().height());
         w->setFixedHeight(w->sizeHint().height());
     }
+    // The state group is as tall as its longest texts need at its narrowest (beside the
+    // pane's scroll bar): the count of a big archive being read, and the hint below it.
+    const QMargins m = pStato->layout()->contentsMargins();
+    const int narrowest = Barra->width() - 30 - style()->pixelMetric(QStyle::PM_ScrollBarExtent) -
+                          m.left() - m.right();
+    auto wrapped = [narrowest](const QLabel* l, const QString& text) {
+        return l->fontMetrics()
+            .boundingRect(QRect(0, 0, narrowest, 10000), Qt::TextWordWrap, text)
+            .height();
+    };
+    pStato->setFixedHeight(m.top() +
+                           wrapped(Stato, QString::fromLatin1(apri::ReadingCount).arg(9999999)) +
+                           pStato->layout()->spacing() +
+                           std::max(wrapped(Consiglio, QString::fromLatin1(apri::SelectAction)),
+                                    wrapped(Consiglio, QString::fromLatin1(apri::EscapeStops))) +
+                           m.bottom());
     Barra->SetGroupChild(QStringLiteral("Dettagli"), pDettagli);
     Barra->SetGroupChild(QStringLiteral("Operazioni"), pOperazioni);
     Barra->SetGroupChild(QStringLiteral("Stato"), pStato);
@@ -498,12 +520,17 @@ void frmApri::OpenItem(const QString& path) {
                        QStringLiteral(" \u2014 ") + baseTitle_);
         setStatus(apri::Reading, apri::EscapeStops);
     }
-    // The count of entries made so far, while the folder view is built.
+    // The count of entries made so far, while the folder view is built: in the state group,
+    // and in the title, which shows also while the task pane is hidden.
     QTimer count;
     count.setInterval(200);
-    connect(&count, &QTimer::timeout, this, [this] {
-        if (const qint64 n = lister_.entriesPlaced(); n > 0)
+    connect(&count, &QTimer::timeout, this, [this, path] {
+        if (const qint64 n = lister_.entriesPlaced(); n > 0) {
             Stato->setText(QString::fromLatin1(apri::ReadingCount).arg(n));
+            setWindowTitle(QString::fromUtf8(apri::ReadingTitleCount)
+                               .arg(QFileInfo(path).fileName(), QString::number(n)) +
+                           QStringLiteral(" \u2014 ") + baseTitle_);
+        }
     });
     if (archiveName)
         count.start();

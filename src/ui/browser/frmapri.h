@@ -47,6 +47,7 @@ inline constexpr char Reading[] = "Quovara is reading the archive";
 inline constexpr char EscapeStops[] = "Press Escape to stop";
 inline constexpr char ReadingCount[] = "Quovara is reading the archive: %1 entries";
 inline constexpr char ReadingTitle[] = "Reading %1 \u2026";
+inline constexpr char ReadingTitleCount[] = "Reading %1 \u2026 %2 entries";
 // The version page: the product's web server, a fixed path and a fixed query.
 inline constexpr char VersionPage[] =
     "http://quovara.example.org/version.php?giorno=1&mese=1&anno=2006";
