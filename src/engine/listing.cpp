@@ -274,13 +274,19 @@ constexpr qint64 kChunk = 256 * 1024;
 
 } // namespace
 
+namespace {
+// Takes whatever stands at `folder` out of the way at once: a link is removed (never what it
+// points to), a folder is moved aside and deleted in the background.
+bool ClearAway(const QString& folder) {
+    if (QFileInfo(folder).isSymLink())
+        return QFile::remove(folder);
+    return MoveAsideAndDelete(folder);
+}
+} // namespace
+
 bool EmptyFolderQuickly(const QString& folder) {
-    if (QFileInfo(folder).isSymLink()) {
-        if (!QFile::remove(folder))
-            return false;
-    } else if (!MoveAsideAndDelete(folder)) {
+    if (!ClearAway(folder))
         return false;
-    }
     MirrorWriter fresh(folder);
     return fresh.rootOk();
 }
@@ -539,7 +545,7 @@ void ArchiveLister::discardStaging() {
     // background, like any folder view that is no longer wanted.
     const QString staging = stagingFolder();
     bool gone = false;
-    RunBeside([&] { gone = !QFileInfo::exists(staging) || MoveAsideAndDelete(staging); });
+    RunBeside([&] { gone = ClearAway(staging); });
     if (!gone)
         qCDebug(lcListing) << "could not delete" << staging;
 }
@@ -608,9 +614,8 @@ ListStatus ArchiveLister::FileInArchivio(const QString& selectedPath) {
             if (problem.isEmpty()) {
                 bool replaced = false;
                 RunBeside([&] {
-                    replaced = EmptyFolderQuickly(ScratchFolder()) &&
-                               QDir().rmdir(ScratchFolder()) &&
-                               QDir().rename(staging, ScratchFolder());
+                    replaced =
+                        ClearAway(ScratchFolder()) && QDir().rename(staging, ScratchFolder());
                 });
                 if (!replaced)
                     problem = QStringLiteral("it cannot replace the previous folder view");

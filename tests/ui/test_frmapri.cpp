@@ -157,6 +157,13 @@ protected:
 
     bool archiveLayout() { return !child<TaskPaneBar>("Barra")->isHidden(); }
 
+    // Types `pattern` into the search box and presses Enter; true once the search has ended.
+    bool searchWithEnter(const QString& pattern) {
+        QTest::keyClicks(child<QLineEdit>("TxtCerca"), pattern);
+        QTest::keyClick(child<QLineEdit>("TxtCerca"), Qt::Key_Return);
+        return waitFor([&] { return text("Stato") == "Quovara is ready"; });
+    }
+
     ScopedPlaces places_;
     QString src_;
     QString lockPath_;
@@ -437,10 +444,8 @@ TEST_F(MainWindow, SearchWithADotAndARootResult) {
     const QString archive = makeArchive(kSix, "plain.uha");
     ASSERT_TRUE(window_.Form_Load(archive));
     show();
-    QTest::keyClicks(child<QLineEdit>("TxtCerca"), "*.TXT");
-    QTest::keyClick(child<QLineEdit>("TxtCerca"), Qt::Key_Return);
+    ASSERT_TRUE(searchWithEnter("*.TXT"));
     auto* found = child<QTreeView>("Trovati");
-    ASSERT_TRUE(waitFor([&] { return text("Stato") == "Quovara is ready"; }));
     QStringList rows;
     for (int i = 0; i < found->model()->rowCount(); ++i)
         rows << cell(found, i, 1) + "|" + cell(found, i, 0);
@@ -558,10 +563,8 @@ TEST_F(MainWindow, NamesInEveryScriptAreListedSearchedAndExtractedUnchanged) {
     EXPECT_EQ(mirrored, expected);
     EXPECT_EQ(text("NomeAr"), "Files: 11");
 
-    QTest::keyClicks(child<QLineEdit>("TxtCerca"), QString::fromUtf8("*.txt"));
-    QTest::keyClick(child<QLineEdit>("TxtCerca"), Qt::Key_Return);
+    ASSERT_TRUE(searchWithEnter(QString::fromUtf8("*.txt")));
     auto* found = child<QTreeView>("Trovati");
-    ASSERT_TRUE(waitFor([&] { return text("Stato") == "Quovara is ready"; }));
     QStringList hits;
     for (int i = 0; i < found->model()->rowCount(); ++i)
         if (cell(found, i, 1) == folder)
@@ -655,9 +658,7 @@ TEST_F(MainWindow, OpeningASecondArchiveShowsAndSearchesOnlyItsOwnEntries) {
         files << QDir(ScratchFolder()).relativeFilePath(it.next());
     EXPECT_EQ(files, QStringList({"only/b-file.txt"}));
     EXPECT_EQ(text("NomeAr"), "Files: 1");
-    QTest::keyClicks(child<QLineEdit>("TxtCerca"), "*.txt");
-    QTest::keyClick(child<QLineEdit>("TxtCerca"), Qt::Key_Return);
-    ASSERT_TRUE(waitFor([&] { return text("Stato") == "Quovara is ready"; }));
+    ASSERT_TRUE(searchWithEnter("*.txt"));
     auto* found = child<QTreeView>("Trovati");
     ASSERT_EQ(found->model()->rowCount(), 1);
     EXPECT_EQ(cell(found, 0, 0), "b-file.txt");
@@ -860,10 +861,8 @@ TEST_F(MainWindow, ARootSearchResultRunsLikeAnyOtherItem) {
     const QString archive = makeArchive(kSix, "plain.uha");
     ASSERT_TRUE(window_.Form_Load(archive));
     show();
-    QTest::keyClicks(child<QLineEdit>("TxtCerca"), "root*");
-    QTest::keyClick(child<QLineEdit>("TxtCerca"), Qt::Key_Return);
+    ASSERT_TRUE(searchWithEnter("root*"));
     auto* found = child<QTreeView>("Trovati");
-    ASSERT_TRUE(waitFor([&] { return text("Stato") == "Quovara is ready"; }));
     ASSERT_EQ(found->model()->rowCount(), 1);
     QTest::mouseClick(found->viewport(), Qt::LeftButton, {},
                       found->visualRect(found->model()->index(0, 0)).center());

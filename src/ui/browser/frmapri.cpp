@@ -516,8 +516,8 @@ void frmApri::OpenItem(const QString& path) {
         guard.emplace(this);
         listingNow_ = true;
         stopReading_->setEnabled(true);
-        setWindowTitle(QString::fromUtf8(apri::ReadingTitle).arg(QFileInfo(path).fileName()) +
-                       QStringLiteral(" \u2014 ") + baseTitle_);
+        setWindowTitle(
+            titleWith(QString::fromUtf8(apri::ReadingTitle).arg(QFileInfo(path).fileName())));
         setStatus(apri::Reading, apri::EscapeStops);
     }
     // The count of entries made so far, while the folder view is built: in the state group,
@@ -527,9 +527,8 @@ void frmApri::OpenItem(const QString& path) {
     connect(&count, &QTimer::timeout, this, [this, path] {
         if (const qint64 n = lister_.entriesPlaced(); n > 0) {
             Stato->setText(QString::fromLatin1(apri::ReadingCount).arg(n));
-            setWindowTitle(QString::fromUtf8(apri::ReadingTitleCount)
-                               .arg(QFileInfo(path).fileName(), QString::number(n)) +
-                           QStringLiteral(" \u2014 ") + baseTitle_);
+            setWindowTitle(titleWith(QString::fromUtf8(apri::ReadingTitleCount)
+                                         .arg(QFileInfo(path).fileName(), QString::number(n))));
         }
     });
     if (archiveName)
@@ -576,12 +575,15 @@ void frmApri::showTotals(const ArchiveTotals& t) {
 
 void frmApri::Uha() {
     // The window names the archive it shows.
-    setWindowTitle(QFileInfo(lister_.listing().archivePath).fileName() +
-                   QStringLiteral(" \u2014 ") + baseTitle_);
+    setWindowTitle(titleWith(QFileInfo(lister_.listing().archivePath).fileName()));
     ucToolbar1->SetButtonEnabled(IdSfx, true);
     Barra->show();
     FileView1->setShowHidden(true);
     PopView->actions()[1]->setEnabled(false);
+}
+
+QString frmApri::titleWith(const QString& head) const {
+    return head + QStringLiteral(" \u2014 ") + baseTitle_;
 }
 
 void frmApri::NoUha() {

@@ -137,6 +137,8 @@ private:
     bool insideScratchFolder(const QString& folder) const;
     // The window's title while no archive is shown.
     QString baseTitle_;
+    // `head` followed by the window's own title ("sample.uha — Quovara").
+    QString titleWith(const QString& head) const;
 
     // A listing is under way (Escape or closing the window stops it).
     bool listingNow_ = false;

@@ -39,6 +39,18 @@ protected:
         return archive;
     }
 
+    // An add of twenty files, slowed down, whose window has begun to follow the engine's
+    // output; null when it never did.
+    frmProgress* slowAddUnderWay(const char* archiveName) {
+        bench.makeSource(20, 1000);
+        bench.writeAddScript(bench.places.path() + "/" + archiveName);
+        bench.setDelay(200);
+        frmProgress* w = bench.open(JobKind::Add);
+        const bool following =
+            WaitFor([&] { return w->consoleState() && w->consoleState()->lineCount > 0; });
+        return following ? w : nullptr;
+    }
+
     JobBench bench;
 };
 
@@ -416,12 +428,8 @@ TEST_F(ProgressErrors, ClosingAWindowEndsOnlyItsOwnEngineNotAnotherProgramOfTheS
     other.start(stranger, {"60"});
     ASSERT_TRUE(other.waitForStarted());
 
-    bench.makeSource(20, 1000);
-    const QString archive = bench.places.path() + "/slow.uha";
-    bench.writeAddScript(archive);
-    bench.setDelay(200);
-    frmProgress* w = bench.open(JobKind::Add);
-    ASSERT_TRUE(WaitFor([&] { return w->consoleState() && w->consoleState()->lineCount > 0; }));
+    frmProgress* w = slowAddUnderWay("slow.uha");
+    ASSERT_NE(w, nullptr);
     const qint64 engine = w->jobProcessId();
     ASSERT_GT(engine, other.processId());
     w->close();
@@ -433,12 +441,8 @@ TEST_F(ProgressErrors, ClosingAWindowEndsOnlyItsOwnEngineNotAnotherProgramOfTheS
 }
 
 TEST_F(ProgressErrors, EscapeStopsTheJobAsClosingTheWindowDoes) {
-    bench.makeSource(20, 1000);
-    const QString archive = bench.places.path() + "/escaped.uha";
-    bench.writeAddScript(archive);
-    bench.setDelay(200);
-    frmProgress* w = bench.open(JobKind::Add);
-    ASSERT_TRUE(WaitFor([&] { return w->consoleState() && w->consoleState()->lineCount > 0; }));
+    frmProgress* w = slowAddUnderWay("escaped.uha");
+    ASSERT_NE(w, nullptr);
     const qint64 engine = w->jobProcessId();
     w->activateWindow();
     QWidget* target = QApplication::focusWidget() ? QApplication::focusWidget() : w;
