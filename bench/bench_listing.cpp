@@ -27,7 +27,7 @@ namespace {
 double listingRun(const QString& logPath, const QString& scratch) {
     QElapsedTimer t;
     t.start();
-    const ListingPass pass = ReadListingLog(logPath, EngineCodec::Cp437, scratch);
+    const ListingPass pass = ReadListingLog(logPath, EngineCodec::Cp437(), scratch);
     const double ms = t.nsecsElapsed() / 1e6;
     if (!pass.error.isEmpty() || !pass.treeComplete || !pass.totals) {
         std::fprintf(stderr, "listing failed\n");

@@ -1,85 +1,264 @@
 #include "codepage.h"
 
-#include "enginefiles.h"
-#include "places.h"
+#include "logging.h"
+
+#include <QHash>
+#include <QMutex>
+
+#include <vector>
+
+#ifdef Q_OS_WIN
+#include <windows.h>
+#else
+#include <cerrno>
+#include <iconv.h>
+#endif
 
 namespace quovara {
 
-namespace {
-// Code points of bytes 0x80..0xFF in code page 437.
-constexpr char16_t kHigh[128] = {
-    0x00C7, 0x00FC, 0x00E9, 0x00E2, 0x00E4, 0x00E0, 0x00E5, 0x00E7, 0x00EA, 0x00EB, 0x00E8, 0x00EF,
-    0x00EE, 0x00EC, 0x00C4, 0x00C5, 0x00C9, 0x00E6, 0x00C6, 0x00F4, 0x00F6, 0x00F2, 0x00FB, 0x00F9,
-    0x00FF, 0x00D6, 0x00DC, 0x00A2, 0x00A3, 0x00A5, 0x20A7, 0x0192, 0x00E1, 0x00ED, 0x00F3, 0x00FA,
-    0x00F1, 0x00D1, 0x00AA, 0x00BA, 0x00BF, 0x2310, 0x00AC, 0x00BD, 0x00BC, 0x00A1, 0x00AB, 0x00BB,
-    0x2591, 0x2592, 0x2593, 0x2502, 0x2524, 0x2561, 0x2562, 0x2556, 0x2555, 0x2563, 0x2551, 0x2557,
-    0x255D, 0x255C, 0x255B, 0x2510, 0x2514, 0x2534, 0x252C, 0x251C, 0x2500, 0x253C, 0x255E, 0x255F,
-    0x255A, 0x2554, 0x2569, 0x2566, 0x2560, 0x2550, 0x256C, 0x2567, 0x2568, 0x2564, 0x2565, 0x2559,
-    0x2558, 0x2552, 0x2553, 0x256B, 0x256A, 0x2518, 0x250C, 0x2588, 0x2584, 0x258C, 0x2590, 0x2580,
-    0x03B1, 0x00DF, 0x0393, 0x03C0, 0x03A3, 0x03C3, 0x00B5, 0x03C4, 0x03A6, 0x0398, 0x03A9, 0x03B4,
-    0x221E, 0x03C6, 0x03B5, 0x2229, 0x2261, 0x00B1, 0x2265, 0x2264, 0x2320, 0x2321, 0x00F7, 0x2248,
-    0x00B0, 0x2219, 0x00B7, 0x221A, 0x207F, 0x00B2, 0x25A0, 0x00A0,
+// Decoding: a character for every single byte, and for double-byte code pages a character for
+// every lead byte and second byte. Encoding: the bytes of every character of the Basic
+// Multilingual Plane the code page has (no code page here has characters beyond it).
+struct EngineCodec::Tables {
+    static constexpr char16_t kNone = 0xFFFF;
+    // Single bytes; kNone for a lead byte or an unassigned byte.
+    char16_t single[256];
+    bool lead[256] = {};
+    // Double bytes, index lead * 256 + second; empty for single-byte code pages.
+    std::vector<char16_t> pairs;
+    // Bytes of a character: 0 none, 0x10000 | byte, 0x20000 | lead << 8 | second.
+    std::vector<quint32> bytesOf;
 };
+
+namespace {
+
+constexpr quint32 kSingle = 0x10000;
+constexpr quint32 kDouble = 0x20000;
+
+// The converter's name for a Windows code page on this system.
+QByteArray converterName(int number) {
+    if (number == 874)
+        return "WINDOWS-874";
+    return "CP" + QByteArray::number(number);
+}
+
+#ifdef Q_OS_WIN
+// What the system makes of `size` bytes: one character, or none when they are no character
+// (or only the start of one).
+char16_t decodeOne(int number, const char* bytes, int size, bool* incomplete) {
+    wchar_t out[4];
+    *incomplete = false;
+    if (size == 1 && IsDBCSLeadByteEx(UINT(number), BYTE(bytes[0]))) {
+        *incomplete = true;
+        return EngineCodec::Tables::kNone;
+    }
+    const int n = MultiByteToWideChar(UINT(number), MB_ERR_INVALID_CHARS, bytes, size, out, 4);
+    return n == 1 ? char16_t(out[0]) : EngineCodec::Tables::kNone;
+}
+#else
+char16_t decodeOne(iconv_t cd, const char* bytes, size_t size, bool* incomplete) {
+    char32_t out[4];
+    char* in = const_cast<char*>(bytes);
+    size_t inLeft = size;
+    char* outPtr = reinterpret_cast<char*>(out);
+    size_t outLeft = sizeof out;
+    iconv(cd, nullptr, nullptr, nullptr, nullptr);
+    const size_t r = iconv(cd, &in, &inLeft, &outPtr, &outLeft);
+    *incomplete = r == size_t(-1) && errno == EINVAL;
+    const size_t produced = (sizeof out - outLeft) / sizeof(char32_t);
+    if (r == size_t(-1) || inLeft != 0 || produced != 1 || out[0] > 0xFFFD)
+        return EngineCodec::Tables::kNone;
+    return char16_t(out[0]);
+}
+#endif
+
+std::shared_ptr<const EngineCodec::Tables> makeTables(int number) {
+    auto t = std::make_shared<EngineCodec::Tables>();
+#ifdef Q_OS_WIN
+    CPINFO info;
+    if (!GetCPInfo(UINT(number), &info))
+        return nullptr;
+    auto one = [number](const char* b, int n, bool* incomplete) {
+        return decodeOne(number, b, n, incomplete);
+    };
+#else
+    const iconv_t cd = iconv_open("UTF-32LE", converterName(number).constData());
+    if (cd == iconv_t(-1))
+        return nullptr;
+    auto one = [cd](const char* b, size_t n, bool* incomplete) {
+        return decodeOne(cd, b, n, incomplete);
+    };
+#endif
+    bool doubleByte = false;
+    for (int b = 0; b < 256; ++b) {
+        const char byte = char(b);
+        bool incomplete = false;
+        t->single[b] = one(&byte, 1, &incomplete);
+        t->lead[b] = incomplete && b >= 0x80;
+        doubleByte = doubleByte || t->lead[b];
+    }
+    t->bytesOf.assign(0x10000, 0);
+    if (doubleByte) {
+        t->pairs.assign(0x10000, EngineCodec::Tables::kNone);
+        for (int l = 0x80; l < 256; ++l) {
+            if (!t->lead[l])
+                continue;
+            for (int s = 0x40; s < 256; ++s) {
+                const char pair[2] = {char(l), char(s)};
+                bool incomplete = false;
+                const char16_t c = one(pair, 2, &incomplete);
+                t->pairs[size_t(l * 256 + s)] = c;
+                if (c != EngineCodec::Tables::kNone && t->bytesOf[c] == 0)
+                    t->bytesOf[c] = kDouble | quint32(l << 8 | s);
+            }
+        }
+    }
+    // Single bytes win over pairs for the same character.
+    for (int b = 255; b >= 0; --b) {
+        const char16_t c = t->single[b];
+        if (c != EngineCodec::Tables::kNone)
+            t->bytesOf[c] = kSingle | quint32(b);
+    }
+#ifndef Q_OS_WIN
+    iconv_close(cd);
+#endif
+    return t;
+}
+
+// One set of tables per code page for the whole program.
+std::shared_ptr<const EngineCodec::Tables> tablesFor(int number, bool* valid) {
+    static QMutex mutex;
+    static QHash<int, std::shared_ptr<const EngineCodec::Tables>> made;
+    static QHash<int, bool> unavailable;
+    const QMutexLocker lock(&mutex);
+    *valid = true;
+    if (const auto it = made.constFind(number); it != made.constEnd())
+        return *it;
+    if (!unavailable.contains(number)) {
+        if (auto t = makeTables(number)) {
+            made.insert(number, t);
+            return t;
+        }
+        qCDebug(lcRunner) << "code page" << number << "cannot be converted on this system";
+        unavailable.insert(number, true);
+    }
+    *valid = false;
+    return nullptr;
+}
+
 } // namespace
 
-QString FromCp437(const char* data, qsizetype size) {
+EngineCodec::EngineCodec() : EngineCodec(437, 0) {}
+
+EngineCodec::EngineCodec(int number, int) : number_(number) {
+    if (number == 65001)
+        return;
+    bool valid = true;
+    tables_ = tablesFor(number, &valid);
+    if (!valid) {
+        bool cp437 = true;
+        tables_ = tablesFor(437, &cp437);
+    }
+    valid_ = valid && tables_ != nullptr;
+}
+
+EngineCodec EngineCodec::ForCodePage(int number) {
+    return EngineCodec(number, 0);
+}
+
+QString EngineCodec::decode(const char* data, qsizetype size) const {
+    if (number_ == 65001)
+        return QString::fromUtf8(data, size);
+    if (!tables_)
+        return QString::fromLatin1(data, size);
+    const Tables& t = *tables_;
     QString out(size, Qt::Uninitialized);
     QChar* d = out.data();
+    qsizetype n = 0;
     for (qsizetype i = 0; i < size; ++i) {
         const unsigned char b = static_cast<unsigned char>(data[i]);
-        d[i] = b < 0x80 ? QChar(b) : QChar(kHigh[b - 0x80]);
+        if (t.lead[b] && !t.pairs.empty()) {
+            if (i + 1 < size) {
+                const unsigned char s = static_cast<unsigned char>(data[i + 1]);
+                const char16_t c = t.pairs[size_t(b * 256 + s)];
+                if (c != Tables::kNone) {
+                    d[n++] = QChar(c);
+                    ++i;
+                    continue;
+                }
+            }
+            // A lead byte without its second byte (a line cut in the middle of a letter).
+            d[n++] = QChar(QChar::ReplacementCharacter);
+            continue;
+        }
+        const char16_t c = t.single[b];
+        d[n++] = c == Tables::kNone ? QChar(b < 0x80 ? char16_t(b) : char16_t(0xFFFD)) : QChar(c);
     }
+    out.truncate(n);
     return out;
 }
 
-namespace {
-int cp437Byte(QChar c) {
-    if (c.unicode() < 0x80)
-        return c.unicode();
-    for (int i = 0; i < 128; ++i)
-        if (kHigh[i] == c.unicode())
-            return 0x80 + i;
-    return -1;
-}
-} // namespace
-
-QByteArray ToCp437(const QString& text) {
+QByteArray EngineCodec::encode(const QString& text) const {
+    if (number_ == 65001)
+        return text.toUtf8();
     QByteArray out;
     out.reserve(text.size());
     for (const QChar c : text) {
-        const int b = cp437Byte(c);
-        out.append(b < 0 ? '?' : char(b));
+        const quint32 v = valid_ && tables_ && !c.isSurrogate() ? tables_->bytesOf[c.unicode()]
+                          : c.unicode() < 0x80                  ? (kSingle | c.unicode())
+                                                                : 0;
+        if (v & kDouble) {
+            out.append(char((v >> 8) & 0xFF));
+            out.append(char(v & 0xFF));
+        } else if (v & kSingle) {
+            out.append(char(v & 0xFF));
+        } else {
+            out.append('?');
+        }
     }
     return out;
 }
 
-bool RepresentableInCp437(const QString& text) {
-    for (const QChar c : text) {
-        if (c.unicode() < 0x80)
-            continue;
-        bool found = false;
-        for (char16_t h : kHigh) {
-            if (h == c.unicode()) {
-                found = true;
-                break;
+QString EngineCodec::lacking(const QString& text) const {
+    QString missing;
+    if (number_ == 65001) {
+        // Only a broken surrogate pair has no UTF-8.
+        for (qsizetype i = 0; i < text.size(); ++i) {
+            const QChar c = text[i];
+            if (c.isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate()) {
+                ++i;
+                continue;
             }
+            if (c.isSurrogate() && !missing.contains(c))
+                missing += c;
         }
-        if (!found)
-            return false;
+        return missing;
     }
-    return true;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const QChar c = text[i];
+        if (c.isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate()) {
+            const QString pair = text.mid(i, 2);
+            if (!missing.contains(pair))
+                missing += pair;
+            ++i;
+            continue;
+        }
+        const bool known = c.unicode() < 0x80 ? true
+                           : valid_ && tables_ && !c.isSurrogate()
+                               ? tables_->bytesOf[c.unicode()] != 0
+                               : false;
+        if (!known && !missing.contains(c))
+            missing += c;
+    }
+    return missing;
 }
 
-QString DecodeEngineText(const char* data, qsizetype size, EngineCodec codec) {
-    if (codec == EngineCodec::Utf8)
-        return QString::fromUtf8(data, size);
-    return FromCp437(data, size);
+bool EngineCodec::canEncode(const QString& text) const {
+    return lacking(text).isEmpty();
 }
 
-EngineCodec ActiveEngineCodec() {
-    const QString engine = ResolveEngineFile(ProgramFolder(), QStringLiteral("uharc.exe"));
-    return !engine.isEmpty() && IsWindowsExecutable(engine) ? EngineCodec::Cp437
-                                                            : EngineCodec::Utf8;
+QString FromCp437(const char* data, qsizetype size) {
+    return EngineCodec::Cp437().decode(data, size);
 }
 
 QStringList SplitAnyLineEnds(const QString& text) {

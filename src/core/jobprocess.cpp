@@ -2,7 +2,9 @@
 
 #include "codepage.h"
 #include "enginefiles.h"
+#include "enginelocale.h"
 #include "jobscript.h"
+#include "launcherprefix.h"
 #include "launcherserver.h"
 #include "logging.h"
 #include "places.h"
@@ -96,9 +98,11 @@ QByteArray readScript(const QString& path, bool& ok) {
 }
 
 // The list file as the engine under the launcher needs it: every host path in the launcher's
-// form, in the engine's code page, lines ended by CR LF. The copy goes to `copyPath` (the
+// form, in the engine's OEM code page (the real engine reads list files in that code page, not
+// the ANSI one of its command line), lines ended by CR LF. The copy goes to `copyPath` (the
 // user's file is never changed). Empty on success, otherwise why it cannot be made.
-QString writeLauncherList(const QString& listPath, const QString& copyPath) {
+QString writeLauncherList(const QString& listPath, const QString& copyPath,
+                          const EngineTextCodecs& engine) {
     QFile list(listPath);
     if (!list.open(QIODevice::ReadOnly))
         return QStringLiteral("the list file %1 cannot be read: %2")
@@ -111,16 +115,15 @@ QString writeLauncherList(const QString& listPath, const QString& copyPath) {
         line = line.startsWith(QLatin1Char('/'))
                    ? ToLauncherPath(line)
                    : QString(line).replace(QLatin1Char('/'), QLatin1Char('\\'));
-        if (!RepresentableInCp437(line))
-            return QStringLiteral("the list file %1 names\n%2\nwhich holds letters that the "
-                                  "engine cannot read (it knows only the letters of code page "
-                                  "437)")
-                .arg(listPath, line);
+        const QString why = ValueProblemForEngine(line, QStringLiteral("name"), false, engine);
+        if (!why.isEmpty())
+            return QStringLiteral("the list file %1 names a file the engine cannot take. %2")
+                .arg(listPath, why);
         lines << line;
     }
-    const QString why =
-        WritePrivateFile(copyPath, ToCp437(lines.join(QStringLiteral("\r\n")) +
-                                           (lines.isEmpty() ? QString() : QStringLiteral("\r\n"))));
+    const QString why = WritePrivateFile(
+        copyPath, engine.text.encode(lines.join(QStringLiteral("\r\n")) +
+                                     (lines.isEmpty() ? QString() : QStringLiteral("\r\n"))));
     if (!why.isEmpty())
         return QStringLiteral("the list file's copy %1 cannot be written: %2").arg(copyPath, why);
     return QString();
@@ -175,6 +178,10 @@ bool JobProcess::start(const QString& scriptPath, const QString& workingFolder) 
         if (launcher.isEmpty())
             return refuse(QStringLiteral("%1 is a Windows program and no launcher (wine) was found")
                               .arg(engine));
+        // The engine runs in a wine prefix of its own, made on first use.
+        QString prefixError;
+        if (!EnsureLauncherPrefix(launcher, &prefixError))
+            return refuse(prefixError);
         // The server stays warm across the jobs of the session.
         LauncherServer::EnsureRunning(launcher);
         for (QString& a : args) {
@@ -183,7 +190,8 @@ bool JobProcess::start(const QString& scriptPath, const QString& workingFolder) 
                 static int copies = 0;
                 const QString copy = PathStyle::host().join(
                     WorkFolder(), QStringLiteral("Elenco%1.lst").arg(++copies));
-                const QString why = writeLauncherList(a.mid(1), copy);
+                const QString why =
+                    writeLauncherList(a.mid(1), copy, WindowsEngineCodecs(EngineLocale()));
                 if (!why.isEmpty())
                     return refuse(why);
                 listCopy_ = copy;
@@ -205,6 +213,8 @@ bool JobProcess::start(const QString& scriptPath, const QString& workingFolder) 
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     for (const auto& [name, value] : job.environment)
         env.insert(name, value);
+    if (windowsProgram)
+        ApplyLauncherEnvironment(env);
     process_->setProcessEnvironment(env);
     process_->setStandardOutputFile(QProcess::nullDevice());
     process_->setStandardInputFile(QProcess::nullDevice());

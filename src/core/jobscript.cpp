@@ -2,6 +2,7 @@
 
 #include "codepage.h"
 #include "enginefiles.h"
+#include "enginelocale.h"
 #include "logging.h"
 #include "places.h"
 
@@ -205,7 +206,57 @@ QByteArray JobScriptBytes(Preamble preamble, const CommandPieces& commandPieces,
     return out;
 }
 
-QString CommandPiecesProblem(const CommandPieces& commandPieces, bool windowsEngine) {
+QString ValueProblemForEngine(const QString& value, const QString& field, bool secret,
+                              const EngineTextCodecs& engine) {
+    if (!engine.windows)
+        return QString();
+    const QString what = secret ? QStringLiteral("The password holds")
+                                : QStringLiteral("The %1\n%2\nholds").arg(field, value);
+    bool ascii = true;
+    for (const QChar c : value)
+        ascii = ascii && c.unicode() < 0x80;
+    if (!ascii && !LocaleInstalled(engine.locale))
+        return what + QStringLiteral(" letters beyond ASCII. ") +
+               LocaleMissingMessage(engine.locale) + QStringLiteral(" Nothing was run.");
+    // The engine reads a name through the ANSI code page and keeps it in the OEM one: a
+    // letter either lacks does not come back (the real engine then says it cannot read the
+    // file, "?uro.txt" for "€uro.txt" under code page 437).
+    const QString lackAnsi = engine.names.lacking(value);
+    const QString lackOem = engine.text.lacking(value);
+    if (lackAnsi.isEmpty() && lackOem.isEmpty())
+        return QString();
+    QString missing = lackAnsi;
+    for (const QChar c : lackOem) {
+        if (!missing.contains(c))
+            missing += c;
+    }
+    QString pages;
+    if (!lackAnsi.isEmpty() && !lackOem.isEmpty() && engine.pages.ansi != engine.pages.oem)
+        pages = QStringLiteral("code pages %1 and %2 lack")
+                    .arg(engine.pages.ansi)
+                    .arg(engine.pages.oem);
+    else
+        pages = QStringLiteral("code page %1 lacks")
+                    .arg(lackAnsi.isEmpty() ? engine.pages.oem : engine.pages.ansi);
+    // The letters of a password are never shown.
+    QString letters;
+    if (!secret) {
+        QStringList each;
+        for (qsizetype i = 0; i < missing.size(); ++i) {
+            const qsizetype n = missing[i].isHighSurrogate() && i + 1 < missing.size() ? 2 : 1;
+            each << QLatin1Char('"') + missing.mid(i, n) + QLatin1Char('"');
+            i += n - 1;
+        }
+        letters = QStringLiteral(": ") + each.join(QStringLiteral(", "));
+    }
+    return what + QStringLiteral(" letters that the engine cannot take under the locale %1%2 "
+                                 "(its %3 them). Nothing was run; rename it with other "
+                                 "letters, or start Quovara under a locale whose code pages "
+                                 "have them.")
+                      .arg(engine.locale, letters, pages);
+}
+
+QString CommandPiecesProblem(const CommandPieces& commandPieces, const EngineTextCodecs& engine) {
     for (const Fragment& f : commandPieces.fragments()) {
         for (const ScriptPart& p : f.parts()) {
             const bool secret = p.field == QLatin1String("password");
@@ -220,14 +271,10 @@ QString CommandPiecesProblem(const CommandPieces& commandPieces, bool windowsEng
                                            .replace(QLatin1Char('\n'), QStringLiteral("\\n"))
                                            .replace(QChar(0), QStringLiteral("\\0")));
             }
-            if (windowsEngine && p.isValue && !RepresentableInCp437(p.text)) {
-                const QString what =
-                    secret ? QStringLiteral("The password holds")
-                           : QStringLiteral("The %1\n%2\nholds").arg(fieldName(p), p.text);
-                return what +
-                       QStringLiteral(" letters that the engine cannot read: it is a Windows "
-                                      "console program that knows only the letters of code page "
-                                      "437. Nothing was run; rename it with such letters.");
+            if (engine.windows && p.isValue) {
+                const QString why = ValueProblemForEngine(p.text, fieldName(p), secret, engine);
+                if (!why.isEmpty())
+                    return why;
             }
         }
     }
@@ -286,13 +333,14 @@ bool WriteJobScript(const QString& path, Preamble preamble, const CommandPieces&
         return false;
     };
     const ParsedJob job = SplitPieces(commandPieces);
-    bool windowsEngine = false;
+    EngineTextCodecs engine;
     if (!job.arguments.isEmpty()) {
         const QFileInfo program(job.arguments.first());
         const QString resolved = ResolveEngineFile(program.absolutePath(), program.fileName());
-        windowsEngine = !resolved.isEmpty() && IsWindowsExecutable(resolved);
+        if (!resolved.isEmpty() && IsWindowsExecutable(resolved))
+            engine = WindowsEngineCodecs(EngineLocale());
     }
-    const QString problem = CommandPiecesProblem(commandPieces, windowsEngine);
+    const QString problem = CommandPiecesProblem(commandPieces, engine);
     if (!problem.isEmpty())
         return refuse(problem);
     // The folder must be private to the user: the WorkFolder is checked (and made when

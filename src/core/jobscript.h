@@ -9,6 +9,7 @@
 // and end, and a value stays inside its argument whatever it holds (quotes, blanks, ">").
 #pragma once
 
+#include "enginelocale.h"
 #include "scriptexec.h"
 
 #include <QByteArray>
@@ -99,10 +100,19 @@ QByteArray ToScriptEncoding(const QString& text);
 QByteArray JobScriptBytes(Preamble preamble, const CommandPieces& commandPieces,
                           LastLine last = LastLine::NoLineEnd);
 
+// Why a value (a name, a pattern, a password) cannot reach a Windows engine run under
+// `engine.locale`, in words for the user; empty when it can (always for a native engine). The
+// engine reads its command line in the ANSI code page of its locale: a letter that code page
+// lacks reaches it as "?". The message names the letters (never those of a password), the code
+// page and the locale; under a locale that is not installed every letter beyond ASCII is
+// refused, since wine garbles them all.
+QString ValueProblemForEngine(const QString& value, const QString& field, bool secret,
+                              const EngineTextCodecs& engine);
+
 // Why the pieces cannot make a script, in words for the user; empty when they can. A part that
 // holds a line break or a NUL cannot stand on one script line; for a Windows engine, a value
-// must also be representable in its code page (437).
-QString CommandPiecesProblem(const CommandPieces& commandPieces, bool windowsEngine);
+// must also pass ValueProblemForEngine.
+QString CommandPiecesProblem(const CommandPieces& commandPieces, const EngineTextCodecs& engine);
 
 // Writes the script (replacing an older one) into a private folder, without following a link,
 // and remembers what was written so that only that script, unchanged, can be run. False when

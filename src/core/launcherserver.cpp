@@ -1,5 +1,6 @@
 #include "launcherserver.h"
 
+#include "launcherprefix.h"
 #include "logging.h"
 
 #include <QCoreApplication>
@@ -25,6 +26,16 @@ QProcess*& server() {
     return process;
 }
 
+// Whether a launcher was used in this session, and its server program (empty when none).
+bool& launcherUsed() {
+    static bool used = false;
+    return used;
+}
+QString& usedServer() {
+    static QString program;
+    return program;
+}
+
 } // namespace
 
 QString LauncherServer::ServerFor(const QString& launcher) {
@@ -45,6 +56,8 @@ void LauncherServer::EnsureRunning(const QString& launcher) {
     if (p && p->state() != QProcess::NotRunning)
         return;
     const QString program = ServerFor(launcher);
+    launcherUsed() = true;
+    usedServer() = program;
     if (program.isEmpty()) {
         qCDebug(lcRunner) << "no launcher server found; every job starts its own";
         return;
@@ -58,6 +71,8 @@ void LauncherServer::EnsureRunning(const QString& launcher) {
     }
     p->setProgram(program);
     p->setArguments({QStringLiteral("-f"), QStringLiteral("-p%1").arg(kPersistSeconds)});
+    // The prefix of the engine's own, with the locale the engine runs under.
+    p->setProcessEnvironment(LauncherEnvironment());
     p->setStandardInputFile(QProcess::nullDevice());
     p->setStandardOutputFile(QProcess::nullDevice());
     p->setStandardErrorFile(QProcess::nullDevice());
@@ -77,6 +92,12 @@ void LauncherServer::EnsureRunning(const QString& launcher) {
 }
 
 void LauncherServer::Shutdown() {
+    // Every process started in the prefix ends with the program: the engine, wine's helpers
+    // and the server.
+    if (launcherUsed()) {
+        EndLauncherPrefixProcesses(usedServer());
+        launcherUsed() = false;
+    }
     QProcess*& p = server();
     if (!p)
         return;

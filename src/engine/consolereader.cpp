@@ -85,7 +85,7 @@ void mergeGroups(ConsoleState& to, const ConsoleState& from, unsigned mask) {
 } // namespace
 
 void ReadConsoleOutput(const QByteArray& bytes, ConsoleJob job, ConsoleState& state,
-                       EngineCodec codec) {
+                       const EngineCodec& codec) {
     clearRound(state);
     const QStringList lines = SplitConsoleLines(bytes, codec);
     for (const QString& line : lines) {
@@ -98,7 +98,7 @@ void ReadConsoleOutput(const QByteArray& bytes, ConsoleJob job, ConsoleState& st
     }
 }
 
-ConsoleReader::ConsoleReader(ConsoleJob job, QString path, EngineCodec codec)
+ConsoleReader::ConsoleReader(ConsoleJob job, QString path, const EngineCodec& codec)
     : job_(job), path_(std::move(path)), codec_(codec) {}
 
 QString ConsoleReader::unfinishedLine() const {

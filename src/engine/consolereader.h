@@ -40,13 +40,13 @@ struct ConsoleState {
 // One round the simple way: splits `bytes` (the whole file as it is now) into lines and
 // applies them in order to `state`, stopping at the first engine error.
 void ReadConsoleOutput(const QByteArray& bytes, ConsoleJob job, ConsoleState& state,
-                       EngineCodec codec = EngineCodec::Cp437);
+                       const EngineCodec& codec = EngineCodec::Cp437());
 
 class ConsoleReader {
 public:
     // `codec`: how the engine that writes the output encodes its text.
     explicit ConsoleReader(ConsoleJob job, QString path = QString(),
-                           EngineCodec codec = EngineCodec::Cp437);
+                           const EngineCodec& codec = EngineCodec::Cp437());
 
     // One round on the file: opens it for reading without hindering the engine that writes
     // it, reads what was appended since the previous round, closes it. A missing file gives a

@@ -1,6 +1,7 @@
 #include "listing.h"
 
 #include "core/codepage.h"
+#include "core/enginelocale.h"
 #include "core/jobscript.h"
 #include "core/logging.h"
 #include "core/prompter.h"
@@ -48,7 +49,7 @@ int Tipo(const QString& s) {
     return 0;
 }
 
-QStringList ReadEngineLines(const QString& path, bool* opened, EngineCodec codec) {
+QStringList ReadEngineLines(const QString& path, bool* opened, const EngineCodec& codec) {
     QFile file(path);
     const bool ok = file.open(QIODevice::ReadOnly);
     if (opened)
@@ -378,8 +379,9 @@ bool BuildMirrorTree(const QStringList& lines, const QString& scratchFolder, QSt
     return false;
 }
 
-ListingPass ReadListingLog(const QString& logPath, EngineCodec codec, const QString& treeFolder,
-                           const std::atomic<bool>* stop, std::atomic<qint64>* entries) {
+ListingPass ReadListingLog(const QString& logPath, const EngineCodec& codec,
+                           const QString& treeFolder, const std::atomic<bool>* stop,
+                           std::atomic<qint64>* entries) {
     ListingPass pass;
     QFile file(logPath);
     if (!file.open(QIODevice::ReadOnly))

@@ -59,7 +59,7 @@ int Tipo(const QString& s);
 
 // Reads a log or console file written by the engine (code page 437) into lines.
 QStringList ReadEngineLines(const QString& path, bool* opened = nullptr,
-                            EngineCodec codec = EngineCodec::Cp437);
+                            const EngineCodec& codec = EngineCodec::Cp437());
 
 // The error message in the listing log's lines: the last "ERROR:" line's text (cut before its
 // first "--"), or an engine version request, which ends the scan. Empty when there is none.
@@ -99,8 +99,8 @@ struct ListingPass {
 // `stop` (when given) is looked at between lines: once it is set, the pass ends, incomplete.
 // `entries` (when given) counts the entries placed so far, for a progress display; both may be
 // read from another thread than the one running the pass.
-ListingPass ReadListingLog(const QString& logPath, EngineCodec codec, const QString& treeFolder,
-                           const std::atomic<bool>* stop = nullptr,
+ListingPass ReadListingLog(const QString& logPath, const EngineCodec& codec,
+                           const QString& treeFolder, const std::atomic<bool>* stop = nullptr,
                            std::atomic<qint64>* entries = nullptr);
 
 // Empties `folder` at once without waiting for the deletion: its content is moved aside (a

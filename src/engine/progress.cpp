@@ -145,11 +145,11 @@ QString TrayTipText(double percent, qint64 remainingSeconds) {
            DurationText(remainingSeconds);
 }
 
-QString DecodeConsoleLine(const char* data, qsizetype size, EngineCodec codec) {
+QString DecodeConsoleLine(const char* data, qsizetype size, const EngineCodec& codec) {
     return DecodeEngineText(data, size, codec);
 }
 
-QStringList SplitConsoleLines(const QByteArray& bytes, EngineCodec codec) {
+QStringList SplitConsoleLines(const QByteArray& bytes, const EngineCodec& codec) {
     return SplitEngineLines(DecodeEngineText(bytes, codec));
 }
 

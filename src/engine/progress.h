@@ -105,13 +105,16 @@ QString TrayTipText(double percent, qint64 remainingSeconds);
 
 // The real engine writes its console output in code page 437 (one byte is one character); an
 // engine that runs natively here writes UTF-8.
-QString DecodeConsoleLine(const char* data, qsizetype size, EngineCodec codec = EngineCodec::Cp437);
-inline QString DecodeConsoleLine(const QByteArray& bytes, EngineCodec codec = EngineCodec::Cp437) {
+QString DecodeConsoleLine(const char* data, qsizetype size,
+                          const EngineCodec& codec = EngineCodec::Cp437());
+inline QString DecodeConsoleLine(const QByteArray& bytes,
+                                 const EngineCodec& codec = EngineCodec::Cp437()) {
     return DecodeConsoleLine(bytes.constData(), bytes.size(), codec);
 }
 
 // Splits console output into lines: a line ends at CR or CR LF, never at a lone LF. The last
 // line is included when it is not empty, although nothing ends it yet.
-QStringList SplitConsoleLines(const QByteArray& bytes, EngineCodec codec = EngineCodec::Cp437);
+QStringList SplitConsoleLines(const QByteArray& bytes,
+                              const EngineCodec& codec = EngineCodec::Cp437());
 
 } // namespace quovara

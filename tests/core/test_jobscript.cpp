@@ -112,19 +112,26 @@ TEST(JobScript, ALineBreakInAnyValueIsRefusedAndNothingIsWritten) {
     EXPECT_FALSE(WrittenJobScript(path).has_value());
 }
 
-TEST(JobScript, AWindowsEngineRefusesANameOutsideItsCodePage) {
-    EXPECT_EQ(CommandPiecesProblem(addPieces(QString::fromUtf8("/d/café ñ ü.uha")), true),
+TEST(JobScript, AWindowsEngineRefusesANameOutsideItsCodePages) {
+    EngineTextCodecs english = WindowsEngineCodecs("C.UTF-8");
+    EXPECT_EQ(CommandPiecesProblem(addPieces(QString::fromUtf8("/d/café ñ ü.uha")), english),
               QString());
-    EXPECT_EQ(CommandPiecesProblem(addPieces(QString::fromUtf8("/d/Łódź.uha")), true),
+    EXPECT_EQ(CommandPiecesProblem(addPieces(QString::fromUtf8("/d/Łódź.uha")), english),
               QString::fromUtf8("The archive\n/d/Łódź.uha\nholds letters that the engine cannot "
-                                "read: it is a Windows console program that knows only the "
-                                "letters of code page 437. Nothing was run; rename it with such "
-                                "letters."));
-    EXPECT_TRUE(CommandPiecesProblem(addPieces("/d/a.uha", QString::fromUtf8("пароль")), true)
-                    .startsWith("The password holds letters that the engine cannot read"));
+                                "take under the locale C.UTF-8: \"Ł\", \"ź\" (its code pages "
+                                "1252 and 437 lack them). Nothing was run; rename it with other "
+                                "letters, or start Quovara under a locale whose code pages have "
+                                "them."));
+    EXPECT_TRUE(CommandPiecesProblem(addPieces("/d/a.uha", QString::fromUtf8("пароль")), english)
+                    .startsWith("The password holds letters that the engine cannot take"));
+    // Under a Polish locale the same archive name is taken.
+    EngineTextCodecs polish = WindowsEngineCodecs("pl_PL.UTF-8");
+    polish.locale = "C.UTF-8";
+    EXPECT_EQ(CommandPiecesProblem(addPieces(QString::fromUtf8("/d/Łódź.uha")), polish), QString());
     // A Linux engine takes every name.
-    EXPECT_EQ(CommandPiecesProblem(addPieces(QString::fromUtf8("/d/Łódź 📦.uha")), false),
-              QString());
+    EXPECT_EQ(
+        CommandPiecesProblem(addPieces(QString::fromUtf8("/d/Łódź 📦.uha")), EngineTextCodecs()),
+        QString());
 }
 
 TEST(JobScript, ALinkPlantedAsTheScriptIsNotWrittenThrough) {

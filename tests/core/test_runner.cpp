@@ -76,6 +76,8 @@ protected:
         copyOfSleep(places.programFolder(), "uharc.exe");
     }
     ScopedPlaces places;
+    // The engine's locale: English, code pages 437 and 1252.
+    ScopedEnv locale{"LC_ALL", "C.UTF-8"};
 };
 
 TEST_F(Runner, RunsTheScriptsCommandWithItsVariablesAndRedirection) {
@@ -413,10 +415,13 @@ TEST_F(Runner, AListNamingLettersTheRealEngineCannotReadIsRefused) {
     JobProcess job;
     EXPECT_FALSE(job.start(script(names::AddScript)));
     qunsetenv("QUOVARA_WINE");
-    EXPECT_EQ(job.errorText(), "the list file " + list + " names\nZ:\\home\\" +
-                                   QString::fromUtf8("Łukasz") +
-                                   "\\a.txt\nwhich holds letters that the engine cannot read "
-                                   "(it knows only the letters of code page 437)");
+    EXPECT_EQ(job.errorText(),
+              "the list file " + list + " names a file the engine cannot take. The name\n" +
+                  QString::fromUtf8("Z:\\home\\Łukasz\\a.txt\nholds letters that the engine "
+                                    "cannot take under the locale C.UTF-8: \"Ł\" (its code pages "
+                                    "1252 and 437 lack them). Nothing was run; rename it with "
+                                    "other letters, or start Quovara under a locale whose code "
+                                    "pages have them."));
     EXPECT_FALSE(QFile::exists(places.path() + "/record.txt"));
 }
 

@@ -1,6 +1,8 @@
 // Helpers shared by the core tests: temporary places and small executable scripts.
 #pragma once
 
+#include "core/launcherserver.h"
+
 #include <QByteArray>
 #include <QDir>
 #include <QFile>
@@ -95,22 +97,34 @@ private:
     QByteArray old_;
 };
 
-// Points TMPDIR and QUOVARA_PROGRAM_DIR at fresh temporary folders for one test, and puts the
-// previous values back afterwards.
+// Points TMPDIR, QUOVARA_PROGRAM_DIR and the engine's wine prefix (QUOVARA_WINEPREFIX) at
+// fresh temporary folders for one test, and puts the previous values back afterwards. The
+// prefix counts as made already (it holds its system registry), as after a first use.
 class ScopedPlaces {
 public:
-    ScopedPlaces() : oldTmp_(qgetenv("TMPDIR")), oldProgram_(qgetenv("QUOVARA_PROGRAM_DIR")) {
+    ScopedPlaces()
+        : oldTmp_(qgetenv("TMPDIR")), oldProgram_(qgetenv("QUOVARA_PROGRAM_DIR")),
+          oldPrefix_(qgetenv("QUOVARA_WINEPREFIX")) {
         QDir(temp_.path()).mkdir("tmp");
         QDir(temp_.path()).mkdir("program");
+        QDir(temp_.path()).mkdir("wineprefix");
+        QFile reg(winePrefix() + "/system.reg");
+        reg.open(QIODevice::WriteOnly);
         qputenv("TMPDIR", tempRoot().toLocal8Bit());
         qputenv("QUOVARA_PROGRAM_DIR", programFolder().toLocal8Bit());
+        qputenv("QUOVARA_WINEPREFIX", winePrefix().toLocal8Bit());
     }
     ~ScopedPlaces() {
+        // A launcher server started for this test's prefix ends with it, with every process of
+        // that prefix.
+        LauncherServer::Shutdown();
         restore("TMPDIR", oldTmp_);
         restore("QUOVARA_PROGRAM_DIR", oldProgram_);
+        restore("QUOVARA_WINEPREFIX", oldPrefix_);
     }
     QString tempRoot() const { return temp_.path() + "/tmp"; }
     QString programFolder() const { return temp_.path() + "/program"; }
+    QString winePrefix() const { return temp_.path() + "/wineprefix"; }
     QString path() const { return temp_.path(); }
 
 private:
@@ -123,6 +137,7 @@ private:
     QTemporaryDir temp_;
     QByteArray oldTmp_;
     QByteArray oldProgram_;
+    QByteArray oldPrefix_;
 };
 
 } // namespace quovara::testing

@@ -338,7 +338,7 @@ TEST(EmptyFolderQuickly, TheFolderIsEmptyAtOnceAndTheOldTreeGoesInTheBackground)
 TEST(ReadListingLog, OnePassGivesTheErrorTheTreeAndTheTotals) {
     QTemporaryDir dir;
     const ListingPass pass = ReadListingLog(QUOVARA_LISTING_DATA "/list-alz3.log",
-                                            EngineCodec::Cp437, dir.filePath("tree"));
+                                            EngineCodec::Cp437(), dir.filePath("tree"));
     EXPECT_TRUE(pass.opened);
     EXPECT_TRUE(pass.error.isEmpty());
     EXPECT_TRUE(pass.treeComplete);
@@ -353,7 +353,7 @@ TEST(ReadListingLog, OnePassGivesTheErrorTheTreeAndTheTotals) {
     EXPECT_EQ(pass.totals->ratio, whole->ratio);
 
     const ListingPass failed = ReadListingLog(QUOVARA_LISTING_DATA "/list-missing-archive.log",
-                                              EngineCodec::Cp437, dir.filePath("none"));
+                                              EngineCodec::Cp437(), dir.filePath("none"));
     EXPECT_EQ(failed.error, ScanListingErrors(sampleLines("list-missing-archive.log")));
     EXPECT_FALSE(failed.treeComplete);
 }
@@ -369,7 +369,7 @@ TEST(ReadListingLog, AnEndlessLineIsCutAndDoesNotGrowTheMemory) {
         for (int i = 0; i < 16; ++i)
             f.write(block);
     }
-    const ListingPass pass = ReadListingLog(log, EngineCodec::Cp437, dir.filePath("tree"));
+    const ListingPass pass = ReadListingLog(log, EngineCodec::Cp437(), dir.filePath("tree"));
     EXPECT_EQ(pass.lines, 1);
     EXPECT_EQ(pass.error.size(), 64 * 1024 - 6);
     EXPECT_FALSE(pass.treeComplete);

@@ -3,6 +3,7 @@
 #include "frmprogress.h"
 
 #include "core/codepage.h"
+#include "core/enginelocale.h"
 #include "core/jobprocess.h"
 #include "core/places.h"
 #include "core/scriptexec.h"
@@ -42,11 +43,11 @@ void frmProgress::startJob() {
     // Step 2: what an earlier run left is deleted; the add header is read afresh.
     consolePath_ = WorkFile(names::ConsoleOutput);
     QFile::remove(consolePath_);
-    const EngineCodec codec = ActiveEngineCodec();
-    reader_ = std::make_unique<ConsoleReader>(kind_.lineRules, consolePath_, codec);
+    const EngineTextCodecs codecs = ActiveEngineCodecs();
+    reader_ = std::make_unique<ConsoleReader>(kind_.lineRules, consolePath_, codecs.text);
 #ifdef Q_OS_UNIX
     // A Windows engine runs through the launcher and writes paths in the launcher's form.
-    underLauncher_ = codec == EngineCodec::Cp437;
+    underLauncher_ = codecs.windows;
 #endif
     answeredAt_ = -1;
 
