@@ -335,12 +335,16 @@ bool frmApri::Form_Load(const QString& commandLine) {
         return false;
     }
     SetIdlePriority();
+    // The work folder: the previous run's is deleted and a private one made.
+    if (!PrepareWorkFolder(*prompter_))
+        return false;
+    // The window's furniture.
     Barra->hide();
     RatioBar->SetShowText(true);
     buildToolbar();
     buildTaskPane();
-    // Work folder, engine check and the start-up switch to engine 0.6.
-    if (!PrepareWorkspace(*prompter_))
+    // The engine check and the start-up switch to engine 0.6.
+    if (!PrepareEngine(*prompter_))
         return false;
     const QString engine = ResolveEngineFile(ProgramFolder(), QStringLiteral("uharc.exe"));
     demonstrationEngine_ = !IsWindowsExecutable(engine);
