@@ -23,10 +23,11 @@ struct SearchHit {
     QString archiveFolder;
 };
 
-class ArchiveSearch : public QObject {
+// The search of one pattern: the walk of the folder tree, from `start` until its end or `stop`.
+class FindFile : public QObject {
     Q_OBJECT
 public:
-    explicit ArchiveSearch(QObject* parent = nullptr);
+    explicit FindFile(QObject* parent = nullptr);
 
     // Starts a search of `root` (the ScratchFolder) for `pattern` (already completed). A
     // search under way is stopped first.

@@ -1,4 +1,4 @@
-#include "archivesearch.h"
+#include "findfile.h"
 
 #include "core/logging.h"
 #include "core/vbtext.h"
@@ -29,12 +29,12 @@ QString CompleteSearchPattern(const QString& text) {
     return text + QLatin1Char('*');
 }
 
-ArchiveSearch::ArchiveSearch(QObject* parent) : QObject(parent) {
+FindFile::FindFile(QObject* parent) : QObject(parent) {
     timer_.setInterval(0);
-    connect(&timer_, &QTimer::timeout, this, &ArchiveSearch::step);
+    connect(&timer_, &QTimer::timeout, this, &FindFile::step);
 }
 
-void ArchiveSearch::start(const QString& pattern, const QString& root) {
+void FindFile::start(const QString& pattern, const QString& root) {
     stop();
     pattern_ = pattern;
     root_ = QDir::cleanPath(root);
@@ -45,7 +45,7 @@ void ArchiveSearch::start(const QString& pattern, const QString& root) {
     timer_.start();
 }
 
-void ArchiveSearch::stop() {
+void FindFile::stop() {
     if (!searching_)
         return;
     searching_ = false;
@@ -56,7 +56,7 @@ void ArchiveSearch::stop() {
     emit finished(hits_);
 }
 
-void ArchiveSearch::pushFolder(const QString& folder) {
+void FindFile::pushFolder(const QString& folder) {
     // One pass over the folder sorts its entries into sub-folders and files. A link to a
     // folder is neither searched nor reported: the walk never leaves the mirror tree.
     Frame frame;
@@ -101,7 +101,7 @@ void ArchiveSearch::pushFolder(const QString& folder) {
     stack_.append(std::move(frame));
 }
 
-void ArchiveSearch::collectHits(const Frame& frame) {
+void FindFile::collectHits(const Frame& frame) {
     // The folder as a path inside the archive: what follows the root and its separator.
     QString inside = frame.folder.mid(root_.size() + 1);
     inside.replace(QLatin1Char('/'), QLatin1Char('\\'));
@@ -114,7 +114,7 @@ void ArchiveSearch::collectHits(const Frame& frame) {
     }
 }
 
-void ArchiveSearch::handOver() {
+void FindFile::handOver() {
     if (pending_.isEmpty())
         return;
     sinceHandOver_.start();
@@ -123,7 +123,7 @@ void ArchiveSearch::handOver() {
     emit found(hits);
 }
 
-void ArchiveSearch::step() {
+void FindFile::step() {
     // A few milliseconds of work per turn of the event loop.
     QElapsedTimer spent;
     spent.start();
