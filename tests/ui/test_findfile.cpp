@@ -8,6 +8,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <algorithm>
 #include <gtest/gtest.h>
 
 using namespace quovara;
@@ -46,6 +47,32 @@ TEST(FindFileWalk, SubFoldersComeBeforeAFoldersOwnFilesAndNamesAreInOrder) {
     EXPECT_EQ(runToEnd(search, "*.txt", dir.path()),
               QStringList({"m\\k|j.txt", "m|l.txt", "z|x.TXT", "z|y.txt", "|a.txt", "|b.txt"}));
     EXPECT_EQ(search.hits(), 6);
+}
+
+TEST(FindFileWalk, StarDotStarFindsEveryNameInAFileManagersOrderDeeperFoldersFirst) {
+    QTemporaryDir dir;
+    for (const char* name :
+         {"file10.txt", "file2.txt", "File1.txt", "b.txt", "A.txt", "README", "dir10/x",
+          "dir9/x.txt", "Dir1/x2.txt", "Dir1/X10.txt", "dir9/deep/z.txt"})
+        writeFile(dir.filePath(name), {});
+    FindFile search;
+    EXPECT_EQ(
+        runToEnd(search, "*.*", dir.path()),
+        QStringList({"Dir1|x2.txt", "Dir1|X10.txt", "dir9\\deep|z.txt", "dir9|x.txt", "dir10|x",
+                     "|A.txt", "|b.txt", "|File1.txt", "|file2.txt", "|file10.txt", "|README"}));
+    EXPECT_EQ(search.hits(), 11);
+}
+
+TEST(FileManagerOrder, LettersWithoutCaseAndNumbersByTheirValue) {
+    QStringList names = {"file10", "file2", "File1", "file02", "a",  "B", "c1d10",
+                         "c1d9",   "Ä",     "z",     "file",   "10", "9", "_x"};
+    std::sort(names.begin(), names.end(), FileManagerLess);
+    EXPECT_EQ(names, QStringList({"9", "10", "_x", "a", "B", "c1d9", "c1d10", "file", "File1",
+                                  "file02", "file2", "file10", "z", "Ä"}));
+    // Names equal but for case or leading zeros still have one order.
+    EXPECT_TRUE(FileManagerLess("A.txt", "a.txt"));
+    EXPECT_FALSE(FileManagerLess("a.txt", "A.txt"));
+    EXPECT_FALSE(FileManagerLess("a.txt", "a.txt"));
 }
 
 TEST(FindFileWalk, ALinkToAFolderIsNotFollowedButALinkToAFileIsAHit) {
