@@ -560,7 +560,14 @@ void frmApri::OpenItem(const QString& path) {
         return;
     }
     if (lister_.listing().status == ListStatus::Opened) {
-        lister_.listing().previousFolder = FileView1->folder();
+        // The folder to go back to when the browser climbs out of the mirror tree. An archive
+        // listed again from inside its own tree (after a job changed it) still lies where it
+        // was: the folder remembered when it was first opened stays.
+        ArchiveListing& l = lister_.listing();
+        if (!insideScratchFolder(FileView1->folder()))
+            l.previousFolder = FileView1->folder();
+        else if (l.previousFolder.isEmpty())
+            l.previousFolder = FolderOf(l.archivePath);
         FileView1->setFolder(ScratchFolder());
     }
     if (const auto totals = lister_.Info()) {
