@@ -13,7 +13,7 @@
 #include "big_tree.h"
 #include "core/places.h"
 #include "core/prompter.h"
-#include "ui/browser/archivesearch.h"
+#include "ui/browser/findfile.h"
 #include "ui/browser/frmapri.h"
 
 #include <QAbstractItemView>
@@ -359,8 +359,7 @@ int main(int argc, char** argv) {
             box->selectAll();
             QTest::keyClicks(box, typed);
             QEventLoop wait;
-            QObject::connect(&window->archiveSearch(), &ArchiveSearch::finished, &wait,
-                             &QEventLoop::quit);
+            QObject::connect(&window->findFile(), &FindFile::finished, &wait, &QEventLoop::quit);
             double first = -1;
             QElapsedTimer t;
             GapProbe probe;
@@ -372,7 +371,7 @@ int main(int argc, char** argv) {
             probe.start();
             t.start();
             QTest::keyClick(box, Qt::Key_Return);
-            if (window->archiveSearch().isSearching())
+            if (window->findFile().isSearching())
                 wait.exec();
             ours.push_back(t.nsecsElapsed() / 1e6);
             oursCpu.push_back(Cpu::now().self - before.self);
@@ -404,21 +403,21 @@ int main(int argc, char** argv) {
         box->selectAll();
         QTest::keyClicks(box, QStringLiteral("*.txt"));
         QTest::keyClick(box, Qt::Key_Return);
-        while (window->archiveSearch().isSearching() && results->model()->rowCount() < 1000)
+        while (window->findFile().isSearching() && results->model()->rowCount() < 1000)
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 5);
         const int shown = results->model()->rowCount();
-        const bool running = window->archiveSearch().isSearching();
+        const bool running = window->findFile().isSearching();
         results->setFocus();
         QElapsedTimer t;
         t.start();
         QTest::keyClick(results, Qt::Key_Backspace);
         const double ms = t.nsecsElapsed() / 1e6;
-        target(!window->archiveSearch().isSearching() && results->isHidden() && ms <= 100,
+        target(!window->findFile().isSearching() && results->isHidden() && ms <= 100,
                "Back stopping a search at once");
         std::printf("BACK during a search (%s, %d rows shown): stopped after %.1f ms; "
                     "searching afterwards: %s; results hidden: %s\n",
                     running ? "running" : "already finished", shown, ms,
-                    window->archiveSearch().isSearching() ? "yes" : "no",
+                    window->findFile().isSearching() ? "yes" : "no",
                     results->isHidden() ? "yes" : "no");
     }
 

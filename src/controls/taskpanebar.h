@@ -162,6 +162,10 @@ signals:
     void ItemOut(const QString& sGroup, const QString& sItemKey);
 
 protected:
+    // Places the scroll bar and sets its range (0 to `maximum`) and page step; false when the
+    // bar does not hold them afterwards. A subclass may stand in for the bar (tests do).
+    virtual bool SetScrollBarProperties(const QRect& geometry, int maximum, int pageStep);
+
     void paintEvent(QPaintEvent* e) override;
     void resizeEvent(QResizeEvent* e) override;
     void mouseMoveEvent(QMouseEvent* e) override;

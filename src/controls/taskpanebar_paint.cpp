@@ -174,9 +174,10 @@ void TaskPaneBar::relayout() {
     m_contentHeight = layoutAll(width());
     if (m_contentHeight > height()) {
         m_contentHeight = layoutAll(width() - sbw);
-        m_ScrollBar->setGeometry(width() - sbw, 0, sbw, height());
-        m_ScrollBar->setRange(0, std::max(0, m_contentHeight - height()));
-        m_ScrollBar->setPageStep(height());
+        // A failure is reported and the pane goes on with the bar as it is.
+        if (!SetScrollBarProperties(QRect(width() - sbw, 0, sbw, height()),
+                                    std::max(0, m_contentHeight - height()), height()))
+            qCDebug(lcTaskPane).noquote() << QStringLiteral("Couldn't Set ScrollBar Properties");
         m_ScrollBar->show();
     } else {
         m_ScrollBar->setValue(0);
@@ -200,6 +201,14 @@ void TaskPaneBar::relayout() {
         shift(m_details);
     }
     m_inLayout = false;
+}
+
+bool TaskPaneBar::SetScrollBarProperties(const QRect& geometry, int maximum, int pageStep) {
+    m_ScrollBar->setGeometry(geometry);
+    m_ScrollBar->setRange(0, maximum);
+    m_ScrollBar->setPageStep(pageStep);
+    return m_ScrollBar->geometry() == geometry && m_ScrollBar->minimum() == 0 &&
+           m_ScrollBar->maximum() == maximum && m_ScrollBar->pageStep() == pageStep;
 }
 
 void TaskPaneBar::SetStyleOverride(const QString& schemeName) {

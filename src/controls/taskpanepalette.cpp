@@ -54,7 +54,8 @@ TaskPanePalette PaletteForStyle(const QString& styleName, const QPalette& sys) {
     if (styleName == QLatin1String("Metallic")) {
         t.paneTop = QColor(196, 200, 212);
         t.paneBottom = QColor(177, 179, 200);
-        t.headerFrom = QColor(255, 255, 255);
+        // The silver headers are one flat colour.
+        t.headerFrom = QColor(214, 215, 224);
         t.headerTo = QColor(214, 215, 224);
         t.headerText = QColor(63, 61, 61);
         t.headerHotText = QColor(126, 124, 124);

@@ -9,7 +9,8 @@ namespace quovara {
 
 struct TaskPanePalette {
     QColor paneTop, paneBottom;  // pane background (vertical gradient)
-    QColor headerFrom, headerTo; // ordinary and details headers (horizontal gradient)
+    QColor headerFrom, headerTo; // ordinary and details headers (horizontal gradient, or
+                                 // one flat colour when both are the same)
     QColor headerText, headerHotText;
     QColor specialFrom, specialTo; // special group header
     QColor specialText, specialHotText;

@@ -1,11 +1,13 @@
 #include "desktop.h"
 
 #include "logging.h"
+#include "mimeapps.h"
 #include "prompter.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QMimeDatabase>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QUrl>
@@ -13,6 +15,38 @@
 namespace quovara {
 
 namespace {
+
+AssociationLookup& lookup() {
+    static AssociationLookup current;
+    return current;
+}
+
+DesktopLauncher& launcher() {
+    static DesktopLauncher current;
+    return current;
+}
+
+bool launch(const QString& target) {
+    if (launcher())
+        return launcher()(target);
+    const QString opener = QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
+    if (opener.isEmpty()) {
+        qCDebug(lcDesktop) << "no xdg-open on the PATH";
+        return false;
+    }
+    return QProcess::startDetached(opener, {target});
+}
+
+// True when some application opens files of the kind of `path`.
+bool hasApplication(const QString& path) {
+    const QStringList types = MimeTypesOfFile(path);
+    const QString app = lookup() ? lookup()(types) : AssociatedApplication(types);
+    if (app.isEmpty()) {
+        qCDebug(lcDesktop) << "no application opens" << types.value(0) << "files:" << path;
+        return false;
+    }
+    return true;
+}
 
 int defaultOpen(const QString& target, const QString&, const QString&) {
     const QUrl url = QUrl::fromUserInput(target);
@@ -22,10 +56,12 @@ int defaultOpen(const QString& target, const QString&, const QString&) {
             return 3;
         if (!info.exists())
             return 2;
+        // A file that no application opens would be handed over for nothing: the desktop's
+        // opener says so only where the user cannot see it.
+        if (!hasApplication(info.filePath()))
+            return 31;
     }
-    const QString opener = QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
-    if (opener.isEmpty() ||
-        !QProcess::startDetached(opener, {url.isLocalFile() ? url.toLocalFile() : target}))
+    if (!launch(url.isLocalFile() ? url.toLocalFile() : target))
         return 31;
     return 42;
 }
@@ -36,6 +72,25 @@ DesktopOpener& opener() {
 }
 
 } // namespace
+
+QStringList MimeTypesOfFile(const QString& path) {
+    const QMimeDatabase db;
+    const QMimeType type = db.mimeTypeForFile(path);
+    QStringList types{type.name()};
+    for (const QStringList& more : {type.aliases(), type.allAncestors()})
+        for (const QString& t : more)
+            if (!types.contains(t))
+                types << t;
+    return types;
+}
+
+void SetAssociationLookup(AssociationLookup l) {
+    lookup() = std::move(l);
+}
+
+void SetDesktopLauncher(DesktopLauncher l) {
+    launcher() = std::move(l);
+}
 
 void SetDesktopOpener(DesktopOpener o) {
     opener() = std::move(o);

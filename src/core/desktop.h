@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <functional>
 
 namespace quovara {
@@ -15,9 +16,26 @@ using DesktopOpener =
     std::function<int(const QString& target, const QString& parameters, const QString& folder)>;
 
 // Replaces the opener (the windows install the desktop's; tests install a recorder). An empty
-// function restores the default, which checks the file and its folder and hands the target to
-// the desktop's opener command.
+// function restores the default, which checks the file and its folder, then that an application
+// opens its kind of file, and hands the target to the desktop's opener command.
 void SetDesktopOpener(DesktopOpener opener);
+
+// The default opener's look-up of an application for a kind of file: given the file's MIME type
+// followed by its other names and the types it belongs to ("text/x-csrc", "text/plain", ...),
+// the id of an application's desktop file, or empty when none opens any of them. An empty
+// function restores the default, the desktop's association files (AssociatedApplication).
+using AssociationLookup = std::function<QString(const QStringList& mimeTypes)>;
+void SetAssociationLookup(AssociationLookup lookup);
+
+// The default opener's hand-over of a target to the desktop (by default its "xdg-open"
+// command, started on its own); false when it could not be started. An empty function restores
+// the default.
+using DesktopLauncher = std::function<bool(const QString& target)>;
+void SetDesktopLauncher(DesktopLauncher launcher);
+
+// The MIME types that the look-up is asked about for a local file: its own type (by name and
+// content), that type's other names, then the types it belongs to.
+QStringList MimeTypesOfFile(const QString& path);
 int DesktopOpen(const QString& target, const QString& parameters = QString(),
                 const QString& folder = QString());
 

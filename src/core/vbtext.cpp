@@ -103,6 +103,8 @@ bool Like(const QString& text, const QString& pattern) {
 }
 
 bool WildcardMatch(const QString& name, const QString& pattern) {
+    if (pattern == QLatin1String("*.*"))
+        return true;
     return globMatch(name, pattern, false, false,
                      [](QChar a, QChar b) { return a.toCaseFolded() == b.toCaseFolded(); });
 }

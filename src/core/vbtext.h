@@ -12,6 +12,7 @@ namespace quovara {
 bool Like(const QString& text, const QString& pattern);
 
 // File-name wildcard match for the search: '*' and '?' only, case-insensitive, whole string.
+// As on the engine's own platform, "*.*" matches every name, also one without a dot.
 bool WildcardMatch(const QString& name, const QString& pattern);
 
 // Lenient number reading: blanks, tabs and line feeds are skipped wherever they stand; an

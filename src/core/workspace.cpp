@@ -15,7 +15,7 @@ void StartupEngineSwap(const QString& programFolder) {
     RenameEngineFile(programFolder, QStringLiteral("Uharc0.6.fns"), QStringLiteral("UHARC.EXE"));
 }
 
-bool PrepareWorkspace(Prompter& prompter) {
+bool PrepareWorkFolder(Prompter& prompter) {
     CleanWorkFolder();
     // The WorkFolder is made private to the user; one that fails the check (a link, another
     // user's folder, a folder others can write) is never written into.
@@ -24,6 +24,10 @@ bool PrepareWorkspace(Prompter& prompter) {
         prompter.critical(problem);
         return false;
     }
+    return true;
+}
+
+bool PrepareEngine(Prompter& prompter) {
     const QString program = ProgramFolder();
     if (!FileExists(PathStyle::host().join(program, QStringLiteral("Uharc.exe")))) {
         prompter.critical(QString::fromLatin1(kEngineMissingText));
@@ -31,6 +35,10 @@ bool PrepareWorkspace(Prompter& prompter) {
     }
     StartupEngineSwap(program);
     return true;
+}
+
+bool PrepareWorkspace(Prompter& prompter) {
+    return PrepareWorkFolder(prompter) && PrepareEngine(prompter);
 }
 
 } // namespace quovara

@@ -515,6 +515,35 @@ TEST_F(ScrollFixture, MovingTheScrollBarRepaintsShifted) {
     EXPECT_NE(Grab(pane.get()), before);
 }
 
+// A pane whose scroll bar refuses its properties.
+class RefusingScrollBarPane : public TaskPaneBar {
+protected:
+    bool SetScrollBarProperties(const QRect&, int, int) override { return false; }
+};
+
+TEST(TaskPaneScrollBar, AFailureToSetTheBarIsReportedAndThePaneGoesOn) {
+    LogCapture log(kCategory);
+    RefusingScrollBarPane pane;
+    pane.resize(220, 120);
+    for (int g = 1; g <= 4; ++g)
+        pane.AddGroup(QStringLiteral("g%1").arg(g), QStringLiteral("Group %1").arg(g));
+    ShowAndWait(&pane);
+    EXPECT_TRUE(pane.ScrollBar()->isVisible());
+    EXPECT_TRUE(log.contains(QStringLiteral("Couldn't Set ScrollBar Properties")));
+    EXPECT_EQ(pane.GroupHeaderRect(1).top(), 12);
+}
+
+TEST_F(ScrollFixture, SettingTheBarNormallyReportsNothing) {
+    LogCapture log(kCategory);
+    pane->resize(220, 150);
+    pane->repaint();
+    ASSERT_TRUE(bar->isVisible());
+    EXPECT_GT(bar->maximum(), 0);
+    EXPECT_FALSE(log.contains(QStringLiteral("Couldn't Set ScrollBar Properties")));
+    EXPECT_EQ(bar->pageStep(), 150);
+    EXPECT_EQ(bar->geometry().height(), 150);
+}
+
 TEST_F(PaneFixture, KeyboardMovesTheHotElementAndActivatesIt) {
     QWidget window;
     auto* first = new QWidget(&window);

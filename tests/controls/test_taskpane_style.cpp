@@ -61,6 +61,23 @@ TEST_F(StyleFixture, MetallicPaintsItsSilverPalette) {
     EXPECT_TRUE(Near(headerEnd(img, -1), QColor(180, 182, 199), 4));
 }
 
+TEST_F(StyleFixture, MetallicOrdinaryAndDetailsHeadersAreOneFlatSilver) {
+    pane->AddDetailsGroup(QStringLiteral("Details"), QStringLiteral("a.uha"), QStringLiteral("x"));
+    switchTo(QStringLiteral("Metallic"));
+    const QImage img = Grab(pane.get());
+    const QColor silver(214, 215, 224);
+    for (const int group : {1, -2}) {
+        const QRect r = pane->GroupHeaderRect(group);
+        ASSERT_FALSE(r.isEmpty()) << group;
+        EXPECT_TRUE(Near(headerStart(img, group), silver, 2))
+            << group << " " << headerStart(img, group).name().toStdString();
+        EXPECT_TRUE(Near(headerEnd(img, group), silver, 2)) << group;
+        // Above the caption, from the rounded corner to the round button, nothing but silver.
+        EXPECT_DOUBLE_EQ(RowShare(img, r.top() + 3, r.left() + 6, r.right() - 30, silver, 2), 1.0)
+            << group;
+    }
+}
+
 TEST_F(StyleFixture, HomeSteadPaintsItsOlivePalette) {
     switchTo(QStringLiteral("HomeStead"));
     EXPECT_EQ(pane->StyleName(), QStringLiteral("HomeStead"));

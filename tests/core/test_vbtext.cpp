@@ -45,6 +45,12 @@ TEST(Like, WholeStringOnly) {
     EXPECT_FALSE(Like("", "?"));
 }
 
+TEST(WildcardMatch, StarDotStarMatchesEveryNameAlsoOneWithoutADot) {
+    for (const char* name : {"README", "Makefile", "a.txt", ".hidden", "x.", "a.b.c", "."})
+        EXPECT_TRUE(WildcardMatch(name, "*.*")) << name;
+    EXPECT_FALSE(WildcardMatch("README", "*.txt"));
+}
+
 TEST(WildcardMatch, CaseInsensitiveStarAndQuestion) {
     EXPECT_TRUE(WildcardMatch("Readme.TXT", "*.txt"));
     EXPECT_TRUE(WildcardMatch("readme.txt", "READ??.*"));

@@ -3,6 +3,8 @@
 #include "fileicons.h"
 #include "focusframe.h"
 
+#include "ui/common/handcursor.h"
+
 #include <QDir>
 #include <QEvent>
 #include <QFileInfo>
@@ -46,8 +48,7 @@ FileBrowser::FileBrowser(QWidget* parent) : QWidget(parent) {
         connect(v->selectionModel(), &QItemSelectionModel::selectionChanged, this,
                 &FileBrowser::selectionChanged);
         // The pointer becomes a hand over an item that can be opened.
-        connect(v, &QAbstractItemView::entered, this,
-                [v] { v->viewport()->setCursor(Qt::PointingHandCursor); });
+        connect(v, &QAbstractItemView::entered, this, [v] { SetHandCursor(v->viewport(), true); });
     }
     list_->setAccessibleName(QStringLiteral("Files"));
     tree_->setAccessibleName(QStringLiteral("Files"));
@@ -217,9 +218,9 @@ bool FileBrowser::eventFilter(QObject* watched, QEvent* event) {
         auto* me = static_cast<QMouseEvent*>(event);
         const bool overItem = currentView()->indexAt(me->position().toPoint()).isValid();
         if (!overItem)
-            viewport->unsetCursor();
+            SetHandCursor(viewport, false);
     } else if (event->type() == QEvent::Leave) {
-        static_cast<QWidget*>(watched)->unsetCursor();
+        SetHandCursor(static_cast<QWidget*>(watched), false);
     }
     return QWidget::eventFilter(watched, event);
 }

@@ -18,6 +18,7 @@
 #include "core/vbtext.h"
 #include "core/workspace.h"
 #include "engine/grammar.h"
+#include "ui/common/handcursor.h"
 
 #include <QActionGroup>
 #include <QApplication>
@@ -114,7 +115,7 @@ QPushButton* linkButton(const QString& caption, const char* name, QWidget* paren
     auto* b = new QPushButton(caption, parent);
     b->setObjectName(QLatin1String(name));
     b->setFlat(true);
-    b->setCursor(Qt::PointingHandCursor);
+    SetHandCursor(b, true);
     b->setStyleSheet(QStringLiteral("QPushButton { text-align: left; color: #1c3f94; border: none;"
                                     " padding: 2px; }"
                                     "QPushButton:hover, QPushButton:focus { color: #3d6ee0;"
@@ -236,7 +237,7 @@ frmApri::frmApri(QWidget* parent)
     ImgCerca->setIcon(QIcon(QStringLiteral(":/icons/search.svg")));
     ImgCerca->setIconSize(QSize(20, 20));
     ImgCerca->setAutoRaise(true);
-    ImgCerca->setCursor(Qt::PointingHandCursor);
+    SetHandCursor(ImgCerca, true);
     ImgCerca->setAccessibleName(QStringLiteral("Search"));
     ImgCerca->setToolTip(QStringLiteral("Search (Ctrl+F)"));
     EstFile = linkButton(QStringLiteral("Extract selected item"), "EstFile", pOperazioni);
@@ -297,13 +298,13 @@ frmApri::frmApri(QWidget* parent)
     connect(TxtCerca, &QLineEdit::returnPressed, this, &frmApri::StartSearch);
     connect(EstFile, &QPushButton::clicked, this, [this] {
         if (selectedItem_.isEmpty())
-            prompter_->exclamation(QString::fromLatin1(apri::NoItemSelected));
+            MsgNessuno();
         else
             showExtractDialog(true);
     });
     connect(EseFile, &QPushButton::clicked, this, [this] {
         if (selectedItem_.isEmpty())
-            prompter_->exclamation(QString::fromLatin1(apri::NoItemSelected));
+            MsgNessuno();
         else
             ExtractAndRun();
     });
@@ -314,8 +315,8 @@ frmApri::frmApri(QWidget* parent)
                 const SearchHit& hit = results_->hit(current.row());
                 selectedItem_ = hit.archiveFolder + QLatin1Char('\\') + hit.name;
             });
-    connect(&search_, &ArchiveSearch::found, results_, &SearchResults::append);
-    connect(&search_, &ArchiveSearch::finished, this,
+    connect(&search_, &FindFile::found, results_, &SearchResults::append);
+    connect(&search_, &FindFile::finished, this,
             [this] { setStatus(apri::Ready, apri::SelectAction); });
     buildShortcuts();
     // Escape stops the reading of an archive (only while one is read).
@@ -335,12 +336,16 @@ bool frmApri::Form_Load(const QString& commandLine) {
         return false;
     }
     SetIdlePriority();
+    // The work folder: the previous run's is deleted and a private one made.
+    if (!PrepareWorkFolder(*prompter_))
+        return false;
+    // The window's furniture.
     Barra->hide();
     RatioBar->SetShowText(true);
     buildToolbar();
     buildTaskPane();
-    // Work folder, engine check and the start-up switch to engine 0.6.
-    if (!PrepareWorkspace(*prompter_))
+    // The engine check and the start-up switch to engine 0.6.
+    if (!PrepareEngine(*prompter_))
         return false;
     const QString engine = ResolveEngineFile(ProgramFolder(), QStringLiteral("uharc.exe"));
     demonstrationEngine_ = !IsWindowsExecutable(engine);
@@ -555,7 +560,14 @@ void frmApri::OpenItem(const QString& path) {
         return;
     }
     if (lister_.listing().status == ListStatus::Opened) {
-        lister_.listing().previousFolder = FileView1->folder();
+        // The folder to go back to when the browser climbs out of the mirror tree. An archive
+        // listed again from inside its own tree (after a job changed it) still lies where it
+        // was: the folder remembered when it was first opened stays.
+        ArchiveListing& l = lister_.listing();
+        if (!insideScratchFolder(FileView1->folder()))
+            l.previousFolder = FileView1->folder();
+        else if (l.previousFolder.isEmpty())
+            l.previousFolder = FolderOf(l.archivePath);
         FileView1->setFolder(ScratchFolder());
     }
     if (const auto totals = lister_.Info()) {
@@ -669,6 +681,10 @@ QString frmApri::selectedStoredName() const {
     return selectedItem_.startsWith(QLatin1Char('\\')) ? selectedItem_.mid(1) : selectedItem_;
 }
 
+void frmApri::MsgNessuno() {
+    prompter_->exclamation(QString::fromLatin1(apri::NoItemSelected));
+}
+
 void frmApri::setStatus(const char* stato, const char* consiglio) {
     Stato->setText(QString::fromLatin1(stato));
     Consiglio->setText(QString::fromLatin1(consiglio));
@@ -752,13 +768,13 @@ void frmApri::ButtonClick(int index) {
         if (FileView1->hasSelection())
             showAddDialog();
         else
-            prompter_->exclamation(QString::fromLatin1(apri::NoItemSelected));
+            MsgNessuno();
         break;
     case IdExtract:
         if (!Barra->isHidden()) {
             showExtractDialog(false);
         } else if (!FileView1->hasSelection()) {
-            prompter_->exclamation(QString::fromLatin1(apri::NoItemSelected));
+            MsgNessuno();
         } else if (!Like(FileView1->selectedPath(), QStringLiteral("*.uha"))) {
             prompter_->exclamation(QString::fromLatin1(apri::NoArchiveSelected));
         } else {

@@ -3,8 +3,8 @@
 // toolbar and the task pane dispatch every other command.
 #pragma once
 
-#include "archivesearch.h"
 #include "commandline.h"
+#include "findfile.h"
 #include "searchresults.h"
 
 #include "engine/listing.h"
@@ -72,13 +72,15 @@ public:
     void ButtonClick(int index);
     void StartSearch();
     void ExtractAndRun();
+    // "No item selected" (exclamation icon): a command that needs a selected item has none.
+    void MsgNessuno();
     void PopViewChoose(int index);
 
     void Uha();
     void NoUha();
 
     ArchiveLister& lister() { return lister_; }
-    const ArchiveSearch& archiveSearch() const { return search_; }
+    const FindFile& findFile() const { return search_; }
     EngineSwitchState& engineSwitch() { return switch_; }
     const QString& selectedItem() const { return selectedItem_; }
     // The selected item as the engine stores it: a search result at the archive's root has a
@@ -161,7 +163,7 @@ private:
     Prompter* prompter_;
     EngineSwitchState switch_;
     ArchiveLister lister_;
-    ArchiveSearch search_;
+    FindFile search_;
     QString selectedItem_;
     bool commandLineJob_ = false;
     QString lockPath_;

@@ -4,7 +4,7 @@
 // of layouts, not one per file.
 #pragma once
 
-#include "archivesearch.h"
+#include "findfile.h"
 
 #include <QAbstractTableModel>
 #include <QHash>

@@ -1,6 +1,7 @@
 #include "frminfo.h"
 
 #include "core/desktop.h"
+#include "ui/common/handcursor.h"
 
 #include <QEvent>
 #include <QGridLayout>
@@ -111,7 +112,7 @@ frmInfo::frmInfo(QWidget* parent) : QDialog(parent) {
         auto* link = new LinkLabel(QString::fromLatin1(captions[i]), owners[i]);
         link->setObjectName(QStringLiteral("Contattare(%1)").arg(i));
         link->setMouseTracking(true);
-        link->setCursor(Qt::PointingHandCursor);
+        SetHandCursor(link, true);
         link->setFocusPolicy(Qt::StrongFocus);
         link->setAutoFillBackground(false);
         link->setAccessibleName(QLatin1String(roles[i]) + link->text());

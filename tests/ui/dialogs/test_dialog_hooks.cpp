@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QLabel>
 #include <QProcess>
 #include <QPushButton>
@@ -177,6 +178,33 @@ TEST_F(DialogHooks, AnAddToTheShownArchiveAnsweredYesReplacesItAndListsItAgain) 
     // Only the file of this add is left.
     EXPECT_EQ(control<QLabel>(&window_, "NomeAr")->text(), "Files: 1");
     EXPECT_EQ(window_.lister().listing().archivePath, archive);
+}
+
+TEST_F(DialogHooks, AfterAnAddListsTheShownArchiveAgainGoingUpStillReturnsToItsFolder) {
+    const QString archive = makeArchive("climb.uha");
+    ASSERT_TRUE(window_.Form_Load(QString()));
+    window_.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window_));
+    selectInBrowser(archive);
+    window_.OpenItem(archive);
+    ASSERT_TRUE(window_.archiveLayout());
+    writeFile(places_.path() + "/extra.txt", "one more");
+    selectInBrowser(ScratchFolder() + "/root.txt");
+    whenShown<frmAggiungi>([&](frmAggiungi* d) {
+        typeInto(control<QLineEdit>(d, "Text1"), archive);
+        click(control<QPushButton>(d, "Command3"));
+    });
+    prompter_.questionAnswers = {true};
+    window_.ButtonClick(3);
+    ASSERT_EQ(control<QLabel>(&window_, "NomeAr")->text(), "Files: 1");
+    ASSERT_TRUE(window_.archiveLayout());
+    ASSERT_EQ(window_.fileView()->folder(), ScratchFolder());
+    // One folder up in the folder drop-down is the work folder, above the archive's root.
+    auto* folders = control<QComboBox>(&window_, "ShComboBox1");
+    folders->setFocus();
+    QTest::keyClick(folders, Qt::Key_Up);
+    EXPECT_EQ(window_.fileView()->folder(), places_.path());
+    EXPECT_FALSE(window_.archiveLayout());
 }
 
 TEST_F(DialogHooks, AnAddToTheShownArchiveAnsweredNoLeavesItAsItWas) {

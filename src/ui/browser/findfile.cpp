@@ -1,4 +1,4 @@
-#include "archivesearch.h"
+#include "findfile.h"
 
 #include "core/logging.h"
 #include "core/vbtext.h"
@@ -29,12 +29,65 @@ QString CompleteSearchPattern(const QString& text) {
     return text + QLatin1Char('*');
 }
 
-ArchiveSearch::ArchiveSearch(QObject* parent) : QObject(parent) {
-    timer_.setInterval(0);
-    connect(&timer_, &QTimer::timeout, this, &ArchiveSearch::step);
+namespace {
+
+bool isDigit(QChar c) {
+    return c >= QLatin1Char('0') && c <= QLatin1Char('9');
 }
 
-void ArchiveSearch::start(const QString& pattern, const QString& root) {
+// Compares a and b by letters without case and by the numbers their digit runs stand for.
+int compareNaturally(const QString& a, const QString& b) {
+    qsizetype i = 0;
+    qsizetype j = 0;
+    while (i < a.size() && j < b.size()) {
+        if (isDigit(a[i]) && isDigit(b[j])) {
+            // Two numbers: leading zeros count for nothing, then the longer is the greater.
+            const qsizetype startA = i;
+            const qsizetype startB = j;
+            while (i < a.size() && isDigit(a[i]))
+                ++i;
+            while (j < b.size() && isDigit(b[j]))
+                ++j;
+            QStringView na = QStringView(a).sliced(startA, i - startA);
+            QStringView nb = QStringView(b).sliced(startB, j - startB);
+            while (na.size() > 1 && na.front() == QLatin1Char('0'))
+                na = na.sliced(1);
+            while (nb.size() > 1 && nb.front() == QLatin1Char('0'))
+                nb = nb.sliced(1);
+            if (na.size() != nb.size())
+                return na.size() < nb.size() ? -1 : 1;
+            if (const int c = na.compare(nb); c != 0)
+                return c;
+            continue;
+        }
+        const char16_t ca = a[i].toCaseFolded().unicode();
+        const char16_t cb = b[j].toCaseFolded().unicode();
+        if (ca != cb)
+            return ca < cb ? -1 : 1;
+        ++i;
+        ++j;
+    }
+    if (i < a.size())
+        return 1;
+    if (j < b.size())
+        return -1;
+    return 0;
+}
+
+} // namespace
+
+bool FileManagerLess(const QString& a, const QString& b) {
+    if (const int c = compareNaturally(a, b); c != 0)
+        return c < 0;
+    return a < b;
+}
+
+FindFile::FindFile(QObject* parent) : QObject(parent) {
+    timer_.setInterval(0);
+    connect(&timer_, &QTimer::timeout, this, &FindFile::step);
+}
+
+void FindFile::start(const QString& pattern, const QString& root) {
     stop();
     pattern_ = pattern;
     root_ = QDir::cleanPath(root);
@@ -45,7 +98,7 @@ void ArchiveSearch::start(const QString& pattern, const QString& root) {
     timer_.start();
 }
 
-void ArchiveSearch::stop() {
+void FindFile::stop() {
     if (!searching_)
         return;
     searching_ = false;
@@ -56,7 +109,7 @@ void ArchiveSearch::stop() {
     emit finished(hits_);
 }
 
-void ArchiveSearch::pushFolder(const QString& folder) {
+void FindFile::pushFolder(const QString& folder) {
     // One pass over the folder sorts its entries into sub-folders and files. A link to a
     // folder is neither searched nor reported: the walk never leaves the mirror tree.
     Frame frame;
@@ -96,12 +149,12 @@ void ArchiveSearch::pushFolder(const QString& folder) {
             frame.subfolders << info.fileName();
     }
 #endif
-    std::sort(frame.subfolders.begin(), frame.subfolders.end());
-    std::sort(frame.files.begin(), frame.files.end());
+    std::sort(frame.subfolders.begin(), frame.subfolders.end(), FileManagerLess);
+    std::sort(frame.files.begin(), frame.files.end(), FileManagerLess);
     stack_.append(std::move(frame));
 }
 
-void ArchiveSearch::collectHits(const Frame& frame) {
+void FindFile::collectHits(const Frame& frame) {
     // The folder as a path inside the archive: what follows the root and its separator.
     QString inside = frame.folder.mid(root_.size() + 1);
     inside.replace(QLatin1Char('/'), QLatin1Char('\\'));
@@ -114,7 +167,7 @@ void ArchiveSearch::collectHits(const Frame& frame) {
     }
 }
 
-void ArchiveSearch::handOver() {
+void FindFile::handOver() {
     if (pending_.isEmpty())
         return;
     sinceHandOver_.start();
@@ -123,7 +176,7 @@ void ArchiveSearch::handOver() {
     emit found(hits);
 }
 
-void ArchiveSearch::step() {
+void FindFile::step() {
     // A few milliseconds of work per turn of the event loop.
     QElapsedTimer spent;
     spent.start();

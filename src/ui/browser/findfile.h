@@ -1,8 +1,8 @@
 // Searching the open archive by file name: a walk of the mirror tree in the ScratchFolder,
 // deeper folders first (a folder's sub-folders are searched before its own files), names in
-// each folder in order. The walk runs in steps of a few milliseconds from the event loop and
-// hands over what each step found at once, so the window stays live, results show as they
-// are found, and the search can be stopped at any time.
+// each folder in a file manager's order (FileManagerLess). The walk runs in steps of a few
+// milliseconds from the event loop and hands over what each step found at once, so the window
+// stays live, results show as they are found, and the search can be stopped at any time.
 #pragma once
 
 #include <QElapsedTimer>
@@ -16,6 +16,10 @@ namespace quovara {
 // appended ("read" -> "read*", ".txt" -> ".txt*", "*.txt" stays).
 QString CompleteSearchPattern(const QString& text);
 
+// The order of names in a file manager: letters without regard to case, a run of digits by
+// its number ("file2" before "file10"); names equal that way in their plain character order.
+bool FileManagerLess(const QString& a, const QString& b);
+
 // One result: the file's name and its folder as a path inside the archive ("\" separators;
 // empty for the archive's root).
 struct SearchHit {
@@ -23,10 +27,11 @@ struct SearchHit {
     QString archiveFolder;
 };
 
-class ArchiveSearch : public QObject {
+// The search of one pattern: the walk of the folder tree, from `start` until its end or `stop`.
+class FindFile : public QObject {
     Q_OBJECT
 public:
-    explicit ArchiveSearch(QObject* parent = nullptr);
+    explicit FindFile(QObject* parent = nullptr);
 
     // Starts a search of `root` (the ScratchFolder) for `pattern` (already completed). A
     // search under way is stopped first.

@@ -1,0 +1,140 @@
+// The desktop hand-off: which application opens a kind of file, read from the desktop's
+// association files, and the default opener's answer for a file that no application opens.
+#include "core/desktop.h"
+#include "core/mimeapps.h"
+#include "recording_prompter.h"
+#include "test_support.h"
+
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+using namespace quovara;
+using namespace quovara::testing;
+
+namespace {
+
+// Desktop folders of one test: a configuration home, a data home and one system data folder.
+class DesktopFolders : public ::testing::Test {
+protected:
+    QString config() const { return dir_.path() + "/config"; }
+    QString dataHome() const { return dir_.path() + "/home-data"; }
+    QString system() const { return dir_.path() + "/system"; }
+
+    void desktopFile(const QString& dataDir, const QString& id, const QByteArray& extra = {}) {
+        writeFile(dataDir + "/applications/" + id,
+                  "[Desktop Entry]\nType=Application\nName=Viewer\nExec=viewer %f\n" + extra);
+    }
+
+    QTemporaryDir dir_;
+    ScopedEnv configHome_{"XDG_CONFIG_HOME", config().toLocal8Bit()};
+    ScopedEnv configDirs_{"XDG_CONFIG_DIRS", (dir_.path() + "/etc").toLocal8Bit()};
+    ScopedEnv dataHome_{"XDG_DATA_HOME", dataHome().toLocal8Bit()};
+    ScopedEnv dataDirs_{"XDG_DATA_DIRS", system().toLocal8Bit()};
+    ScopedEnv desktop_{"XDG_CURRENT_DESKTOP", "Test"};
+};
+
+// The default opener with its look-up and its launcher replaced by records.
+class DefaultOpener : public ::testing::Test {
+protected:
+    void SetUp() override {
+        SetDesktopOpener({});
+        SetAssociationLookup([this](const QStringList& types) {
+            asked << types;
+            return application;
+        });
+        SetDesktopLauncher([this](const QString& target) {
+            launched << target;
+            return launches;
+        });
+    }
+    void TearDown() override {
+        SetAssociationLookup({});
+        SetDesktopLauncher({});
+    }
+
+    QTemporaryDir dir;
+    QString application;
+    bool launches = true;
+    QList<QStringList> asked;
+    QStringList launched;
+};
+
+} // namespace
+
+TEST_F(DesktopFolders, TheCacheOfAnApplicationsFolderNamesTheApplication) {
+    desktopFile(system(), "viewer.desktop");
+    writeFile(system() + "/applications/mimeinfo.cache",
+              "[MIME Cache]\ntext/plain=viewer.desktop;\n");
+    EXPECT_EQ(AssociatedApplication({"text/plain"}), "viewer.desktop");
+    EXPECT_EQ(AssociatedApplication({"image/png"}), "");
+    // The first type that has an application answers.
+    EXPECT_EQ(AssociatedApplication({"text/x-csrc", "text/plain"}), "viewer.desktop");
+}
+
+TEST_F(DesktopFolders, AnApplicationWhoseDesktopFileIsMissingOrHiddenDoesNotCount) {
+    writeFile(system() + "/applications/mimeinfo.cache",
+              "[MIME Cache]\ntext/plain=gone.desktop;hidden.desktop;\n");
+    desktopFile(system(), "hidden.desktop");
+    // The user's own copy hides the system's.
+    desktopFile(dataHome(), "hidden.desktop", "Hidden=true\n");
+    EXPECT_EQ(AssociatedApplication({"text/plain"}), "");
+}
+
+TEST_F(DesktopFolders, ADefaultOrAddedAssociationComesFirstAndARemovedOneCountsNoMore) {
+    desktopFile(system(), "viewer.desktop");
+    desktopFile(system(), "editor.desktop");
+    writeFile(system() + "/applications/mimeinfo.cache",
+              "[MIME Cache]\ntext/plain=viewer.desktop;\nimage/png=viewer.desktop;\n");
+    writeFile(config() + "/mimeapps.list", "[Default Applications]\ntext/plain=editor.desktop\n"
+                                           "[Removed Associations]\nimage/png=viewer.desktop;\n");
+    EXPECT_EQ(AssociatedApplication({"text/plain"}), "editor.desktop");
+    EXPECT_EQ(AssociatedApplication({"image/png"}), "");
+    // The list of this desktop comes before the common one.
+    writeFile(config() + "/test-mimeapps.list",
+              "[Added Associations]\nimage/png=editor.desktop;\n");
+    EXPECT_EQ(AssociatedApplication({"image/png"}), "editor.desktop");
+}
+
+TEST_F(DesktopFolders, WithoutACacheTheDesktopFilesSayWhatTheyOpen) {
+    desktopFile(system(), "kde/viewer.desktop", "MimeType=image/png;image/gif;\n");
+    EXPECT_EQ(AssociatedApplication({"image/gif"}), "kde-viewer.desktop");
+    EXPECT_EQ(AssociatedApplication({"text/plain"}), "");
+}
+
+TEST_F(DefaultOpener, AFileThatNoApplicationOpensGivesThirtyOneAndIsNotHandedOver) {
+    const QString file = dir.filePath("notes.c");
+    writeFile(file, "int main(void) { return 0; }\n");
+    EXPECT_EQ(DesktopOpen(file), 31);
+    EXPECT_TRUE(launched.isEmpty());
+    ASSERT_EQ(asked.size(), 1);
+    EXPECT_EQ(asked[0].value(0), "text/x-csrc");
+    EXPECT_TRUE(asked[0].contains("text/plain"));
+}
+
+TEST_F(DefaultOpener, AFileThatAnApplicationOpensIsHandedOver) {
+    const QString file = dir.filePath("notes.txt");
+    writeFile(file, "text");
+    application = "viewer.desktop";
+    EXPECT_EQ(DesktopOpen(file), 42);
+    EXPECT_EQ(launched, QStringList({file}));
+    // A hand-over that cannot start is reported like a missing association.
+    launches = false;
+    EXPECT_EQ(DesktopOpen(file), 31);
+}
+
+TEST_F(DefaultOpener, AnAddressIsHandedOverWithoutALookUp) {
+    EXPECT_EQ(DesktopOpen("http://quovara.example.org/version.php"), 42);
+    EXPECT_TRUE(asked.isEmpty());
+    EXPECT_EQ(launched, QStringList({"http://quovara.example.org/version.php"}));
+}
+
+TEST_F(DefaultOpener, ReportingAFileThatNoApplicationOpensShowsTheAssociationText) {
+    const QString file = dir.filePath("data.xyz-unknown");
+    writeFile(file, QByteArray("\x01\x02\x03", 3));
+    RecordingPrompter prompter;
+    EXPECT_EQ(ShellOpenReport(prompter, file, "", "", 0), 31);
+    EXPECT_EQ(prompter.shown,
+              QStringList({"critical: Il sistema in uso non presenta alcuna associazione per "
+                           "questo tipo di file\r\r"}));
+    EXPECT_TRUE(launched.isEmpty());
+}
