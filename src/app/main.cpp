@@ -1,4 +1,7 @@
 // Quovara: start-up and command line. The main window does the rest.
+#include "app/consolecommands.h"
+#include "app/display.h"
+#include "app/options.h"
 #include "core/engineinstall.h"
 #include "core/launcherserver.h"
 #include "core/processcontrol.h"
@@ -10,19 +13,58 @@
 #include <QTextStream>
 
 #include <cstdio>
-#include <cstring>
+#include <vector>
+
+namespace {
+
+// An option given on the command line: it does its work on the console and ends, without a
+// display (only a core application object exists).
+int RunOption(int argc, char** argv, const quovara::OptionUse& use) {
+    QCoreApplication app(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("quovara"));
+    QTextStream out(stdout);
+    QTextStream err(stderr);
+    switch (use.option->id) {
+    case quovara::OptionId::Help:
+        return quovara::ShowHelp(out);
+    case quovara::OptionId::Version:
+        return quovara::ShowVersion(out);
+    case quovara::OptionId::InstallEngine:
+        return quovara::InstallEngineCommand(use.values, out, err);
+    }
+    return 2;
+}
+
+} // namespace
 
 int main(int argc, char** argv) {
-    // "--install-engine FILE...": a console command that never opens a window (it works
-    // without a display).
-    if (argc > 1 && std::strcmp(argv[1], quovara::InstallEngineSwitch) == 0) {
-        QCoreApplication app(argc, argv);
-        QCoreApplication::setApplicationName(QStringLiteral("quovara"));
-        QTextStream out(stdout);
-        QTextStream err(stderr);
-        return quovara::InstallEngineCommand(app.arguments().mid(2), out, err);
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    const quovara::ParsedArguments parsed = quovara::ParseArguments(arguments);
+    if (!parsed.error.isEmpty()) {
+        std::fputs(quovara::UsageErrorText(parsed.error).toLocal8Bit().constData(), stderr);
+        return 2;
     }
-    QApplication app(argc, argv);
+    if (!parsed.options.empty())
+        return RunOption(argc, argv, parsed.options.front());
+
+    // Everything else opens a window. Qt sees only the arguments before "--" and takes its
+    // own options ("-platform NAME") out of them; those after "--" are never read as options.
+    const QStringList shownToQt = parsed.operands.mid(0, parsed.operandsBeforeEnd);
+    const QString noDisplay =
+        quovara::MissingDisplayMessage(shownToQt, QProcessEnvironment::systemEnvironment());
+    if (!noDisplay.isEmpty()) {
+        std::fputs((noDisplay + QLatin1Char('\n')).toLocal8Bit().constData(), stderr);
+        return 1;
+    }
+    std::vector<char*> qtArgv{argv[0]};
+    for (qsizetype i = 0; i < parsed.operandsBeforeEnd; ++i)
+        qtArgv.push_back(argv[parsed.operandIndex.at(i) + 1]);
+    qtArgv.push_back(nullptr);
+    int qtArgc = int(qtArgv.size()) - 1;
+
+    QApplication app(qtArgc, qtArgv.data());
     QApplication::setApplicationName(QStringLiteral("quovara"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/quovara.svg")));
     // A Qt resource static library needs its resources pulled in explicitly.
@@ -31,7 +73,9 @@ int main(int argc, char** argv) {
     // An engine must never outlive the program, also when it is ended by a signal.
     quovara::EndJobsOnTerminationSignals();
     quovara::frmApri window;
-    if (!window.Form_Load(quovara::CommandLineText(app.arguments().mid(1)))) {
+    const QStringList request =
+        app.arguments().mid(1) + parsed.operands.mid(parsed.operandsBeforeEnd);
+    if (!window.Form_Load(quovara::CommandLineText(request))) {
         quovara::LauncherServer::Shutdown();
         return 0;
     }

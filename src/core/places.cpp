@@ -147,19 +147,38 @@ QString WorkFile(const char* name) {
     return PathStyle::host().join(WorkFolder(), QString::fromLatin1(name));
 }
 
-QString ProgramFolder() {
+namespace {
+
+// The program folder and whether it is the per-user data folder (the one place that is made
+// when missing).
+QString FindProgramFolder(bool* perUserFolder) {
+    *perUserFolder = false;
     const QString fromEnv = qEnvironmentVariable("QUOVARA_PROGRAM_DIR");
     if (!fromEnv.isEmpty())
         return QDir::toNativeSeparators(QDir::cleanPath(fromEnv));
     const QString exeDir = QCoreApplication::applicationDirPath();
     if (!exeDir.isEmpty() && !ResolveEngineFile(exeDir, QStringLiteral("uharc.exe")).isEmpty())
         return QDir::toNativeSeparators(exeDir);
+    *perUserFolder = true;
     QString data = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     if (data.isEmpty())
         data = QDir::homePath() + QStringLiteral("/.local/share/quovara");
-    if (!QDir().mkpath(data))
-        qCDebug(lcFiles) << "could not create the program folder" << data;
     return QDir::toNativeSeparators(data);
+}
+
+} // namespace
+
+QString ProgramFolder() {
+    bool perUserFolder = false;
+    const QString folder = FindProgramFolder(&perUserFolder);
+    if (perUserFolder && !QDir().mkpath(folder))
+        qCDebug(lcFiles) << "could not create the program folder" << folder;
+    return folder;
+}
+
+QString ProgramFolderPath() {
+    bool perUserFolder = false;
+    return FindProgramFolder(&perUserFolder);
 }
 
 namespace {

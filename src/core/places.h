@@ -65,6 +65,10 @@ QString WorkFile(const char* name);
 // when it holds an engine file; else the per-user data folder (created on demand).
 QString ProgramFolder();
 
+// The folder ProgramFolder() answers, without making the per-user data folder when it is
+// missing: for reports that must leave no trace (`quovara --version`).
+QString ProgramFolderPath();
+
 // Gets `folder` (a real folder, not a link) out of the way at once: it is renamed to
 // "<folder>.old-<pid>-<n>" beside itself and deleted on a background thread, so that the caller
 // never waits for a large tree. When the rename fails it is deleted here. False when it could

@@ -33,6 +33,18 @@ TEST(Places, FoldersAreBuiltFromTheTemporaryFolderAskedAfresh) {
     }
 }
 
+TEST(Places, TheProgramFolderPathIsFoundWithoutMakingThePerUserFolder) {
+    QTemporaryDir data;
+    ScopedEnv program("QUOVARA_PROGRAM_DIR", QByteArray());
+    ScopedEnv dataHome("XDG_DATA_HOME", data.path().toLocal8Bit());
+    const QString perUser = data.path() + "/" + QCoreApplication::applicationName();
+    EXPECT_EQ(ProgramFolderPath(), perUser);
+    EXPECT_FALSE(QFileInfo::exists(perUser));
+    // The folder the jobs use is made when missing.
+    EXPECT_EQ(ProgramFolder(), perUser);
+    EXPECT_TRUE(QFileInfo(perUser).isDir());
+}
+
 TEST(FileExists, EmptyAndMissingFilesCountAsAbsent) {
     QTemporaryDir dir;
     writeFile(dir.filePath("empty.txt"), "");

@@ -1,0 +1,209 @@
+#include "options.h"
+
+#include "core/engineinstall.h"
+
+#ifndef QUOVARA_VERSION
+#error "QUOVARA_VERSION must name the package's version"
+#endif
+
+namespace quovara {
+
+namespace {
+
+const CommandOption kOptions[] = {
+    {OptionId::Help, "--help", "-h", OptionTakes::Nothing, "", "print this help and end"},
+    {OptionId::Version, "--version", "", OptionTakes::Nothing, "",
+     "print the version of Quovara and of the engine found in the program folder, and end"},
+    {OptionId::InstallEngine, InstallEngineSwitch, "", OptionTakes::Rest, "FILE...",
+     "copy the engine files (uharc.exe, Uharc0.4.fns, Uharc0.6.fns, SFX.exe) into the "
+     "program folder, check that the engine runs, and end; no window opens"},
+};
+
+// The column where descriptions start in the help, and the width they are wrapped to.
+constexpr int kDescriptionColumn = 29;
+constexpr int kWidth = 79;
+
+const CommandOption* findLong(std::span<const CommandOption> options, const QString& name) {
+    for (const CommandOption& o : options)
+        if (name == QLatin1String(o.name))
+            return &o;
+    return nullptr;
+}
+
+const CommandOption* findShort(std::span<const CommandOption> options, const QString& name) {
+    for (const CommandOption& o : options)
+        if (*o.shortName && name == QLatin1String(o.shortName))
+            return &o;
+    return nullptr;
+}
+
+// `text` wrapped at blanks into lines of at most `width - indent` characters, each indented.
+QString wrapped(const QString& text, int indent, int width) {
+    const QString pad(indent, QLatin1Char(' '));
+    QString out;
+    QString line;
+    for (const QString& word : text.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+        if (!line.isEmpty() && indent + line.size() + 1 + word.size() > width) {
+            out += pad + line + QLatin1Char('\n');
+            line.clear();
+        }
+        line += (line.isEmpty() ? QString() : QStringLiteral(" ")) + word;
+    }
+    if (!line.isEmpty())
+        out += pad + line + QLatin1Char('\n');
+    return out;
+}
+
+// One entry of the options list: the names, then the description from its column (on the
+// next line when the names reach it).
+QString entry(const QString& names, const QString& description) {
+    const QString head = QStringLiteral("  ") + names;
+    const QString body = wrapped(description, kDescriptionColumn, kWidth);
+    if (head.size() + 1 > kDescriptionColumn)
+        return head + QLatin1Char('\n') + body;
+    return head.leftJustified(kDescriptionColumn) + body.mid(kDescriptionColumn);
+}
+
+} // namespace
+
+std::span<const CommandOption> ProgramOptions() {
+    return kOptions;
+}
+
+QStringList OptionNames(std::span<const CommandOption> options) {
+    QStringList names;
+    for (const CommandOption& o : options) {
+        if (*o.shortName)
+            names << QLatin1String(o.shortName);
+        names << QLatin1String(o.name);
+    }
+    return names;
+}
+
+ParsedArguments ParseArguments(const QStringList& arguments,
+                               std::span<const CommandOption> options) {
+    ParsedArguments parsed;
+    bool ended = false;
+    for (int i = 0; i < arguments.size(); ++i) {
+        const QString& a = arguments.at(i);
+        if (ended) {
+            parsed.operands << a;
+            parsed.operandIndex << i;
+            continue;
+        }
+        if (a == QLatin1String(EndOfOptions)) {
+            ended = true;
+            continue;
+        }
+        const CommandOption* option = nullptr;
+        QString value;
+        bool hasValue = false;
+        if (a.startsWith(QLatin1String("--"))) {
+            const qsizetype equals = a.indexOf(QLatin1Char('='));
+            const QString name = equals < 0 ? a : a.left(equals);
+            option = findLong(options, name);
+            if (!option) {
+                parsed.error = QStringLiteral("unrecognized option '%1'").arg(a);
+                return parsed;
+            }
+            if (equals >= 0) {
+                if (option->takes != OptionTakes::Value) {
+                    parsed.error =
+                        QStringLiteral("option '%1' doesn't allow an argument").arg(name);
+                    return parsed;
+                }
+                value = a.mid(equals + 1);
+                hasValue = true;
+            }
+        } else {
+            option = findShort(options, a);
+        }
+        if (!option) {
+            parsed.operands << a;
+            parsed.operandIndex << i;
+            ++parsed.operandsBeforeEnd;
+            continue;
+        }
+        OptionUse use{option, {}};
+        switch (option->takes) {
+        case OptionTakes::Nothing:
+            break;
+        case OptionTakes::Value:
+            if (!hasValue) {
+                if (i + 1 >= arguments.size()) {
+                    parsed.error = QStringLiteral("option '%1' requires an argument").arg(a);
+                    return parsed;
+                }
+                value = arguments.at(++i);
+            }
+            use.values << value;
+            break;
+        case OptionTakes::Rest:
+            use.values = arguments.mid(i + 1);
+            i = int(arguments.size());
+            break;
+        }
+        parsed.options.push_back(use);
+    }
+    return parsed;
+}
+
+QString UsageErrorText(const QString& error) {
+    return QStringLiteral("quovara: ") + error +
+           QStringLiteral("\nTry 'quovara --help' for more information.\n");
+}
+
+QString HelpText(std::span<const CommandOption> options) {
+    QString text = QStringLiteral(
+        "Usage: quovara [ARCHIVE.uha]\n"
+        "  or:  quovara \"WORD  PATH\"\n"
+        "  or:  quovara \"WORD \" PATH\n"
+        "  or:  quovara OPTION...\n"
+        "\n"
+        "Quovara browses, extracts, tests and creates UHARC archives (.uha); every\n"
+        "operation is a run of the UHARC engine uharc.exe, kept in the program folder.\n"
+        "\n"
+        "Without arguments the main window opens on the home folder. With the path of\n"
+        "an archive (a name ending in .uha), the archive is opened in it.\n"
+        "\n"
+        "A request word opens one window only, for PATH; Quovara ends when it closes:\n");
+    text += entry(QStringLiteral("extract  PATH"),
+                  QStringLiteral("the Extract window for the archive PATH"));
+    text += entry(QStringLiteral("add  PATH"),
+                  QStringLiteral("the Add window for the file or folder PATH"));
+    text += entry(QStringLiteral("sfx  PATH"),
+                  QStringLiteral("the Make SFX window for the archive PATH"));
+    text += QStringLiteral(
+        "The arguments are joined with single blanks, and the word is followed by two\n"
+        "separator characters before the path: two blanks inside one argument\n"
+        "(\"extract  /data/a.uha\"), or a blank at the end of the word and the path as\n"
+        "the next argument (\"extract \" /data/a.uha).\n"
+        "\n"
+        "Options:\n");
+    for (const CommandOption& o : options) {
+        QString names = *o.shortName ? QLatin1String(o.shortName) + QStringLiteral(", ")
+                                     : QStringLiteral("    ");
+        names += QLatin1String(o.name);
+        if (o.takes != OptionTakes::Nothing)
+            names += QLatin1Char(' ') + QLatin1String(o.valueName);
+        text += entry(names, QLatin1String(o.description));
+    }
+    text += entry(QLatin1String(EndOfOptions),
+                  QStringLiteral("end of the options: every argument after it is a request "
+                                 "word or a path, even one that starts with \"-\" (a path can "
+                                 "also be written ./-name.uha)"));
+    text += QStringLiteral(
+        "\n"
+        "Qt's own options, such as -platform NAME, are taken too. Without one, or\n"
+        "QT_QPA_PLATFORM, a window needs DISPLAY or WAYLAND_DISPLAY.\n"
+        "\n"
+        "Exit status: 0 when done; 1 without a graphical display; 2 for an unknown or\n"
+        "misused option. --install-engine ends with 0 to 3, as quovara(1) says.\n");
+    return text;
+}
+
+QString ProgramVersionLine() {
+    return QStringLiteral("Quovara ") + QStringLiteral(QUOVARA_VERSION);
+}
+
+} // namespace quovara
