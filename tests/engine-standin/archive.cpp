@@ -1,5 +1,7 @@
 #include "archive.h"
 
+#include "codepage.h"
+
 #include <algorithm>
 #include <cstring>
 #include <fstream>
@@ -106,7 +108,8 @@ ReadResult readArchive(const std::filesystem::path& path, const std::string& own
             res.status = ReadStatus::Corrupt;
             return res;
         }
-        e.name.assign(reinterpret_cast<const char*>(p), nameLen);
+        // Names are kept in the OEM code page when the stand-in plays one.
+        e.name = fromOem(std::string(reinterpret_cast<const char*>(p), nameLen));
         if (!r.num(e.size) || !r.num(e.mtime) || !r.num(e.attr) || !r.num(e.crc) || !r.num(m) ||
             !r.num(packedLen) || packedLen > r.left() || !r.bytes(packedLen, p)) {
             res.status = ReadStatus::Corrupt;
@@ -141,8 +144,9 @@ bool ArchiveWriter::open(const std::filesystem::path& path, const Archive& heade
 
 bool ArchiveWriter::add(const Entry& e) {
     std::string h;
-    put<std::uint16_t>(h, static_cast<std::uint16_t>(e.name.size()));
-    h += e.name;
+    const std::string name = toOem(e.name);
+    put<std::uint16_t>(h, static_cast<std::uint16_t>(name.size()));
+    h += name;
     put<std::uint64_t>(h, e.size);
     put<std::int64_t>(h, e.mtime);
     put<std::uint8_t>(h, e.attr);

@@ -9,6 +9,7 @@
 // that the engine version fallback can be exercised.
 #include "archive.h"
 #include "codec.h"
+#include "codepage.h"
 #include "console_key.h"
 #include "layout.h"
 #include "utf8.h"
@@ -254,7 +255,7 @@ void parseSwitch(const std::string& a, Options& o) {
         else
             o.dictionaryKB = kb;
     } else if (l.rfind("-pw", 0) == 0)
-        o.password = a.substr(3);
+        o.password = toAnsi(a.substr(3));
     else if (l.rfind("-lg", 0) == 0) {
         o.hasLog = true;
         o.logFile = a.substr(3);
@@ -279,6 +280,8 @@ std::vector<std::string> readListFile(const std::string& path, Options& o) {
         // A list file saved as UTF-8 by an editor may start with a byte order mark.
         if (first && line.rfind("\xEF\xBB\xBF", 0) == 0)
             line.erase(0, 3);
+        // Playing code pages, list files are read in the OEM one, as the real engine does.
+        line = fromOem(line);
         first = false;
         if (!trim(line).empty())
             names.push_back(line);
@@ -347,13 +350,17 @@ public:
     void openLog(const std::string& path) {
         log_ = std::fopen(replaced(path, '\\', '/').c_str(), "ab");
     }
-    void console(const std::string& s) {
+    // Text goes out in the OEM code page when the stand-in plays code pages.
+    void console(const std::string& text) {
+        const std::string s = toOem(text);
         std::fwrite(s.data(), 1, s.size(), stdout);
         std::fflush(stdout);
     }
-    void log(const std::string& s) {
-        if (log_)
-            std::fwrite(s.data(), 1, s.size(), log_);
+    void log(const std::string& text) {
+        if (!log_)
+            return;
+        const std::string s = toOem(text);
+        std::fwrite(s.data(), 1, s.size(), log_);
     }
     // A whole line, to the console and the log.
     void line(const std::string& s) {
@@ -895,6 +902,13 @@ void confirmOverwrite(Output& out, const Options& o, const fs::path& archivePath
             fs::remove(tempPath, ec);
         });
         sleepPerFile(delay);
+        // A file whose name the code page cannot hold is looked for under its "?" form.
+        const std::string seen = asEngineName(s.shown);
+        if (seen != s.shown) {
+            writer.finish();
+            fs::remove(tempPath, ec);
+            out.fail("Can't read file \"" + seen + "\"", showProgress);
+        }
         std::ifstream in(s.path, std::ios::binary);
         Bytes data((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
         if (!in.good() && !in.eof()) {
@@ -960,8 +974,9 @@ int main(int argc, char** argv) {
     Options o;
     const std::string envValue = environmentOptions(o);
     std::string commandText = argc > 1 ? argv[1] : "";
+    // Names reach the engine through its ANSI code page, when it plays one.
     for (int i = 2; i < argc; ++i)
-        parseArgument(argv[i], o, false);
+        parseArgument(asEngineName(argv[i]), o, false);
     const std::string cmd = lower(commandText);
     if (cmd.size() == 1 && std::string("amexlt").find(cmd[0]) != std::string::npos)
         o.command = cmd[0];
