@@ -12,6 +12,7 @@ packages=(
     desktop-file-utils shared-mime-info libglib2.0-dev
     appstream dpkg-dev file gzip
     dbus-x11 at-spi2-core python3-pyatspi
+    locales
 )
 
 missing=()
@@ -20,11 +21,29 @@ for p in "${packages[@]}"; do
         missing+=("$p")
     fi
 done
-[ ${#missing[@]} -eq 0 ] && exit 0
-
-echo "Installing: ${missing[*]}"
 sudo=""
 if [ "$(id -u)" -ne 0 ]; then sudo="sudo"; fi
 export DEBIAN_FRONTEND=noninteractive
-$sudo apt-get update -qq
-$sudo apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+if [ ${#missing[@]} -gt 0 ]; then
+    echo "Installing: ${missing[*]}"
+    $sudo apt-get update -qq
+    $sudo apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+fi
+
+# The locales whose code pages the tests play (English, Polish, Russian, Japanese): the engine
+# takes its code pages from the locale, and names beyond ASCII need the locale generated.
+locales=(en_US.UTF-8 pl_PL.UTF-8 ru_RU.UTF-8 ja_JP.UTF-8)
+absent=()
+have="$(locale -a 2>/dev/null | tr 'A-Z' 'a-z' | sed 's/utf-8/utf8/')"
+for l in "${locales[@]}"; do
+    want="$(tr 'A-Z' 'a-z' <<<"$l" | sed 's/utf-8/utf8/')"
+    grep -qx "$want" <<<"$have" || absent+=("$l")
+done
+if [ ${#absent[@]} -gt 0 ]; then
+    echo "Generating locales: ${absent[*]}"
+    for l in "${absent[@]}"; do
+        $sudo sed -i "s/^# *$l UTF-8/$l UTF-8/" /etc/locale.gen
+        grep -q "^$l UTF-8" /etc/locale.gen || echo "$l UTF-8" | $sudo tee -a /etc/locale.gen >/dev/null
+    done
+    $sudo locale-gen >/dev/null
+fi

@@ -1,4 +1,5 @@
 // Quovara: start-up and command line. The main window does the rest.
+#include "app/archivelocale.h"
 #include "app/consolecommands.h"
 #include "app/display.h"
 #include "app/options.h"
@@ -7,6 +8,7 @@
 #include "core/processcontrol.h"
 #include "ui/browser/commandline.h"
 #include "ui/browser/frmapri.h"
+#include "ui/common/preparingnotice.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -25,6 +27,8 @@ int RunOption(int argc, char** argv, const quovara::OptionUse& use) {
     QTextStream out(stdout);
     QTextStream err(stderr);
     switch (use.option->id) {
+    case quovara::OptionId::ArchiveLocale:
+        return 0; // applied before any other option
     case quovara::OptionId::Help:
         return quovara::ShowHelp(out);
     case quovara::OptionId::Version:
@@ -46,8 +50,20 @@ int main(int argc, char** argv) {
         std::fputs(quovara::UsageErrorText(parsed.error).toLocal8Bit().constData(), stderr);
         return 2;
     }
-    if (!parsed.options.empty())
-        return RunOption(argc, argv, parsed.options.front());
+    // The archive locale changes how the engine is run for the whole session (and for
+    // --install-engine's check); every other option does its work and ends.
+    const QString archiveLocale = quovara::ArchiveLocaleOfArguments(parsed);
+    if (!archiveLocale.isEmpty()) {
+        const QString problem = quovara::UseArchiveLocale(archiveLocale);
+        if (!problem.isEmpty()) {
+            std::fputs((problem + QLatin1Char('\n')).toLocal8Bit().constData(), stderr);
+            return problem.startsWith(QLatin1String("quovara:")) ? 2 : 1;
+        }
+    }
+    for (const quovara::OptionUse& use : parsed.options) {
+        if (use.option->id != quovara::OptionId::ArchiveLocale)
+            return RunOption(argc, argv, use);
+    }
 
     // Everything else opens a window. Qt sees only the arguments before "--" and takes its
     // own options ("-platform NAME") out of them; those after "--" are never read as options.
@@ -73,6 +89,8 @@ int main(int argc, char** argv) {
     // An engine must never outlive the program, also when it is ended by a signal.
     quovara::EndJobsOnTerminationSignals();
     quovara::frmApri window;
+    // The first use of the engine prepares its wine prefix: the user is told, not left waiting.
+    quovara::InstallPreparingNotice(&window);
     const QStringList request =
         app.arguments().mid(1) + parsed.operands.mid(parsed.operandsBeforeEnd);
     if (!window.Form_Load(quovara::CommandLineText(request))) {

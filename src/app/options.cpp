@@ -17,6 +17,10 @@ const CommandOption kOptions[] = {
     {OptionId::InstallEngine, InstallEngineSwitch, "", OptionTakes::Rest, "FILE...",
      "copy the engine files (uharc.exe, Uharc0.4.fns, Uharc0.6.fns, SFX.exe) into the "
      "program folder, check that the engine runs, and end; no window opens"},
+    {OptionId::ArchiveLocale, "--archive-locale", "", OptionTakes::Value, "LOCALE",
+     "run the engine under LOCALE (for example ru_RU.UTF-8, or ru) to show, search and "
+     "extract the names of archives made on a system of that language; the same as the "
+     "variable QUOVARA_ARCHIVE_LOCALE"},
 };
 
 // The column where descriptions start in the help, and the width they are wrapped to.

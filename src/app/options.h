@@ -14,7 +14,7 @@
 
 namespace quovara {
 
-enum class OptionId { Help, Version, InstallEngine };
+enum class OptionId { Help, Version, InstallEngine, ArchiveLocale };
 
 // What an option takes after its name.
 enum class OptionTakes {

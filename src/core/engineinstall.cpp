@@ -1,5 +1,8 @@
 #include "engineinstall.h"
 
+#include "enginelocale.h"
+#include "launcherprefix.h"
+
 #include "enginefiles.h"
 #include "jobprocess.h"
 #include "logging.h"
@@ -283,6 +286,13 @@ EngineCheck CheckEngine(const QString& folder, int timeoutMs) {
         }
         program = check.launcher;
         arguments << ToLauncherPath(check.engine);
+        // The check runs in the engine's own prefix, as every job does (a one-shot console
+        // command: its own environment carries the prefix's variables to the child).
+        const QProcessEnvironment launcherEnv = LauncherEnvironment();
+        for (const QString& name : {QStringLiteral("DISPLAY"), QStringLiteral("WAYLAND_DISPLAY")})
+            qunsetenv(name.toLocal8Bit().constData());
+        for (const QString& name : launcherEnv.keys())
+            qputenv(name.toLocal8Bit().constData(), launcherEnv.value(name).toLocal8Bit());
     }
     const TerminalRun run = RunOnTerminal(program, arguments, folder, timeoutMs, "UHARC");
     check.output = QString::fromLocal8Bit(run.output);
@@ -345,11 +355,34 @@ int InstallEngineCommand(const QStringList& files, QTextStream& out, QTextStream
     }
     out.flush();
 
+    // A Windows engine runs in a wine prefix of Quovara's own, made here at once so that the
+    // first archive opened does not wait for it.
+    const QString engine = ResolveEngineFile(folder, QStringLiteral("uharc.exe"));
+    const QString launcher = LauncherPath();
+    if (!engine.isEmpty() && IsWindowsExecutable(engine) && !launcher.isEmpty() &&
+        !LauncherPrefixReady()) {
+        out << PreparingEngineText() << " (" << LauncherPrefixFolder() << ")\n";
+        out.flush();
+        // A launcher that cannot make it is told about; the check below says what to do.
+        QString why;
+        if (!EnsureLauncherPrefix(launcher, &why, std::max(1, checkTimeoutMs() / 1000)))
+            err << why << "\n";
+    }
+
     const EngineCheck check = CheckEngine(folder, checkTimeoutMs());
     switch (check.result) {
     case EngineCheck::Runs:
         out << "The engine runs" << (check.launcher.isEmpty() ? "" : " through ") << check.launcher
             << ": " << check.banner << "\n";
+        if (!check.launcher.isEmpty()) {
+            const EngineTextCodecs codecs = WindowsEngineCodecs(EngineLocale());
+            out << "It runs in the wine prefix " << LauncherPrefixFolder() << " under the locale "
+                << codecs.locale << ": code page " << codecs.pages.oem
+                << " for its text and the names it stores, " << codecs.pages.ansi
+                << " for the names it reads.\n";
+            if (!LocaleInstalled(codecs.locale))
+                out << LocaleMissingMessage(codecs.locale) << "\n";
+        }
         if (QDir(ProgramFolder()) != QDir(folder))
             out << "Note: Quovara now uses the engine in " << ProgramFolder()
                 << ", which holds a uharc.exe of its own.\n";

@@ -136,7 +136,7 @@ QMutex& archiveLocaleMutex() {
     return m;
 }
 QString& archiveLocaleValue() {
-    static QString value = qEnvironmentVariable("QUOVARA_ARCHIVE_LOCALE");
+    static QString value;
     return value;
 }
 

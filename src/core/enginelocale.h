@@ -27,9 +27,10 @@ EngineCodePages CodePagesForLocale(const QString& locale);
 // else LC_CTYPE, else LANG; "C" when none is set.
 QString LocaleOfEnvironment(const QProcessEnvironment& environment);
 
-// The locale chosen for the names of the archives of this session ("--archive-locale" or
-// QUOVARA_ARCHIVE_LOCALE): the engine runs under it instead of the user's own, so that an
-// archive made on a system of another language shows its names right. Empty: the user's own.
+// The locale chosen for the names of the archives of this session (set at start from
+// "--archive-locale" or QUOVARA_ARCHIVE_LOCALE): the engine runs under it instead of the user's
+// own, so that an archive made on a system of another language shows its names right. Empty: the
+// user's own.
 void SetArchiveLocale(const QString& locale);
 QString ArchiveLocale();
 

@@ -26,8 +26,11 @@ const CommandOption kWithValue[] = {
 
 } // namespace
 
-TEST(Options, TheProgramHasHelpVersionAndInstallEngine) {
-    EXPECT_EQ(OptionNames(), QStringList({"-h", "--help", "--version", "--install-engine"}));
+TEST(Options, TheProgramHasHelpVersionInstallEngineAndArchiveLocale) {
+    EXPECT_EQ(OptionNames(),
+              QStringList({"-h", "--help", "--version", "--install-engine", "--archive-locale"}));
+    ASSERT_NE(option(OptionId::ArchiveLocale), nullptr);
+    EXPECT_EQ(option(OptionId::ArchiveLocale)->takes, OptionTakes::Value);
     ASSERT_NE(option(OptionId::InstallEngine), nullptr);
     EXPECT_EQ(option(OptionId::InstallEngine)->takes, OptionTakes::Rest);
     EXPECT_EQ(option(OptionId::Help)->takes, OptionTakes::Nothing);

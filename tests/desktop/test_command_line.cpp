@@ -221,6 +221,33 @@ TEST_F(CommandLine, AnUnknownOptionIsReportedWithAPointerToHelp) {
     }
 }
 
+TEST_F(CommandLine, AnArchiveLocaleThatIsNotInstalledIsNamedWithTheWayToAddIt) {
+    for (const QStringList& arguments : {QStringList{"--archive-locale", "xx_YY", "/data/a.uha"},
+                                         QStringList{"--archive-locale=xx", "--version"}}) {
+        SCOPED_TRACE(arguments.join(' ').toStdString());
+        const Result r = run(arguments);
+        EXPECT_EQ(r.exitCode, 1);
+        EXPECT_EQ(r.out, QString());
+        EXPECT_EQ(r.err,
+                  QString("The locale %1 is not installed on this system, so the engine cannot "
+                          "read or write names in its letters. Add it with\n"
+                          "sudo sed -i 's/^# *%1 /%1 /' /etc/locale.gen && sudo locale-gen\n"
+                          "(or \"sudo dpkg-reconfigure locales\") and start Quovara again.\n")
+                      .arg(arguments.join(" ").contains("xx_YY") ? "xx_YY.UTF-8" : "xx_XX.UTF-8"));
+        expectNoTrace();
+    }
+    QProcessEnvironment env = environment();
+    env.insert("QUOVARA_ARCHIVE_LOCALE", "xx_YY");
+    EXPECT_EQ(run({"/data/a.uha"}, env).exitCode, 1);
+    // A text that names no locale is a misuse.
+    const Result r = run({"--archive-locale", "../x"});
+    EXPECT_EQ(r.exitCode, 2);
+    EXPECT_EQ(r.err, "quovara: '../x' names no locale (for example ru_RU.UTF-8, or ru)\n"
+                     "Try 'quovara --help' for more information.\n");
+    // An installed one (the test set-up generates en_US.UTF-8) lets the rest go on.
+    EXPECT_EQ(run({"--archive-locale", "en_US.UTF-8", "--version"}).exitCode, 0);
+}
+
 TEST_F(CommandLine, AnOptionThatTakesNoValueRefusesOne) {
     const Result r = run({"--version=1"});
     EXPECT_EQ(r.exitCode, 2);

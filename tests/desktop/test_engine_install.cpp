@@ -48,6 +48,10 @@ protected:
     QString fakeLauncher(const QByteArray& output, int exitCode = 0) {
         const QString path = dir_.path() + "/fake-wine";
         writeExecutable(path, "#!/bin/sh\n"
+                              // Making the prefix, as wine's "wineboot -i" does.
+                              "if [ \"$1\" = wineboot ]; then mkdir -p \"$WINEPREFIX\" && "
+                              ": > \"$WINEPREFIX/system.reg\" && echo \"$* $WINEARCH\" >> "
+                              "\"$FAKE_LAUNCHER_LOG.boot\"; exit 0; fi\n"
                               "printf '%s\\n' \"$@\" > \"$FAKE_LAUNCHER_LOG\"\n"
                               "[ -t 0 ] && echo 'input is a terminal' >> \"$FAKE_LAUNCHER_LOG\"\n"
                               "printf '" +
@@ -66,6 +70,8 @@ protected:
         env.insert("HOME", dir_.path());
         env.insert("FAKE_LAUNCHER_LOG", launcherLog());
         env.insert("QUOVARA_ENGINE_CHECK_TIMEOUT", checkTimeout_);
+        env.remove("LC_CTYPE");
+        env.insert("LC_ALL", locale_);
         // wine cannot be found on the PATH of these runs.
         env.insert("PATH", dir_.path() + "/empty-path:/usr/bin:/bin");
         if (!launcher.isEmpty())
@@ -95,6 +101,7 @@ protected:
 
     QTemporaryDir dir_;
     QString checkTimeout_ = QStringLiteral("10"); // seconds
+    QString locale_ = QStringLiteral("ru_RU.UTF-8");
 };
 
 } // namespace
@@ -120,6 +127,20 @@ TEST_F(EngineInstall, CopiesTheFilesUnderTheirNamesAndRunsTheEngineOnATerminal) 
     // The launcher was given the engine as the Windows program sees it, with a terminal.
     const QString windowsPath = "Z:" + QString(programFolder() + "/uharc.exe").replace('/', '\\');
     EXPECT_EQ(QString::fromUtf8(readAll(launcherLog())), windowsPath + "\ninput is a terminal\n");
+    // The engine's own prefix was made first, 32-bit, and the code pages in use are told.
+    const QString prefix = dataHome() + "/quovara/wine";
+    EXPECT_EQ(QString::fromUtf8(readAll(launcherLog() + ".boot")), "wineboot -i win32\n");
+    EXPECT_TRUE(r.out.contains(QString::fromUtf8("Preparing the engine for its first use… (") +
+                               prefix + ")\n"))
+        << r.out.toStdString();
+    EXPECT_TRUE(r.out.contains("It runs in the wine prefix " + prefix +
+                               " under the locale ru_RU.UTF-8: code page 866 for its text and "
+                               "the names it stores, 1251 for the names it reads.\n"))
+        << r.out.toStdString();
+    // Installed again, the prefix is there already.
+    const Result again = run({download("UHARC.EXE")}, launcher);
+    EXPECT_FALSE(again.out.contains("Preparing")) << again.out.toStdString();
+    EXPECT_EQ(QString::fromUtf8(readAll(launcherLog() + ".boot")), "wineboot -i win32\n");
 }
 
 TEST_F(EngineInstall, ReplacesAnEngineFileSpelledAnotherWay) {

@@ -1,0 +1,30 @@
+#include "archivelocale.h"
+
+#include "core/enginelocale.h"
+
+namespace quovara {
+
+QString ArchiveLocaleOfArguments(const ParsedArguments& parsed) {
+    QString chosen;
+    for (const OptionUse& use : parsed.options) {
+        if (use.option->id == OptionId::ArchiveLocale && !use.values.isEmpty())
+            chosen = use.values.last();
+    }
+    if (chosen.isEmpty())
+        chosen = qEnvironmentVariable("QUOVARA_ARCHIVE_LOCALE");
+    return chosen;
+}
+
+QString UseArchiveLocale(const QString& text) {
+    const QString locale = NormalizedLocale(text);
+    if (locale.isEmpty())
+        return QStringLiteral("quovara: '%1' names no locale (for example ru_RU.UTF-8, or ru)\n"
+                              "Try 'quovara --help' for more information.")
+            .arg(text);
+    if (!LocaleInstalled(locale))
+        return LocaleMissingMessage(locale);
+    SetArchiveLocale(locale);
+    return QString();
+}
+
+} // namespace quovara
