@@ -8,6 +8,7 @@
 #include "core/runner.h"
 #include "core/vbtext.h"
 #include "engine/grammar.h"
+#include "engine/mirrorwriter.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -80,163 +81,6 @@ QString ScanListingErrors(const QStringList& lines) {
     return message;
 }
 
-namespace {
-
-// Creates folders and placeholder files strictly below one root. Components that could climb
-// out ("", ".", ".."), drive prefixes and links are never followed.
-class MirrorWriter {
-public:
-    explicit MirrorWriter(const QString& root) : root_(QDir::cleanPath(root)) {
-        root_ok_ = ensureDir(QFile::encodeName(root_));
-    }
-
-    bool rootOk() const { return root_ok_; }
-    // The first failure to create something, in words; empty while all went well.
-    const QString& failure() const { return failure_; }
-
-    MirrorWriter(const MirrorWriter&) = delete;
-    MirrorWriter& operator=(const MirrorWriter&) = delete;
-    ~MirrorWriter() { forgetLastFolder(); }
-
-    // Makes the folder path (components separated by "\" or "/") and returns its host path.
-    // Entries of one folder follow each other in a listing: the last folder is remembered.
-    QByteArray makeFolder(const QString& folder) {
-        if (lastKnown_ && folder == lastFolder_)
-            return lastPath_;
-        QByteArray current = QFile::encodeName(root_);
-        qsizetype start = 0;
-        for (qsizetype i = 0; i <= folder.size(); ++i) {
-            if (i == folder.size() || folder[i] == QLatin1Char('\\') ||
-                folder[i] == QLatin1Char('/')) {
-                const QString component = folder.mid(start, i - start);
-                start = i + 1;
-                if (!usable(component))
-                    continue;
-                const QByteArray next = current + '/' + QFile::encodeName(component);
-                if (!ensureDir(next))
-                    return QByteArray(); // could not make it safely: the entry is skipped
-                current = next;
-            }
-        }
-        forgetLastFolder();
-        lastKnown_ = true;
-        lastFolder_ = folder;
-        lastPath_ = current;
-        return current;
-    }
-
-    // Writes an empty placeholder (a copy of the empty Prova.xt) named `file` into `folder`.
-    void placeholder(const QByteArray& folder, const QString& file) {
-        // The name may still hold separators ("\c.txt"): only its last usable part counts.
-        QString name;
-        if (!file.contains(QLatin1Char('\\')) && !file.contains(QLatin1Char('/'))) {
-            if (usable(file))
-                name = file;
-        } else {
-            const QStringList parts =
-                QString(file).replace(QLatin1Char('/'), QLatin1Char('\\')).split(QLatin1Char('\\'));
-            for (const QString& part : parts) {
-                if (usable(part))
-                    name = part;
-            }
-        }
-        if (name.isEmpty() || folder.isEmpty())
-            return;
-#ifdef Q_OS_UNIX
-        // Made relative to the open folder: one look-up of the name, not of the whole path,
-        // and nothing between the root and the folder can be swapped under us.
-        const QByteArray encoded = QFile::encodeName(name);
-        const int fd = ::openat(folderHandle(folder), encoded.constData(),
-                                O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW | O_CLOEXEC, 0644);
-        if (fd < 0) {
-            const int error = errno;
-            qCDebug(lcListing) << "could not create placeholder" << folder + '/' + encoded;
-            fail(error);
-            return;
-        }
-        ::close(fd);
-#else
-        const QByteArray path = folder + '/' + QFile::encodeName(name);
-        QFile f(QFile::decodeName(path));
-        if (!f.open(QIODevice::WriteOnly | QIODevice::Truncate))
-            qCDebug(lcListing) << "could not create placeholder" << path;
-#endif
-    }
-
-private:
-    static bool usable(const QString& component) {
-        return !component.isEmpty() && component != QLatin1String(".") &&
-               component != QLatin1String("..") && !component.contains(QChar(0));
-    }
-
-    // Makes a real folder (not a link) at `path`; folders already checked are remembered so
-    // that each is created or checked once.
-    bool ensureDir(const QByteArray& path) {
-        if (known_.contains(path))
-            return true;
-#ifdef Q_OS_UNIX
-        if (::mkdir(path.constData(), 0755) != 0) {
-            const int error = errno;
-            struct stat st;
-            if (::lstat(path.constData(), &st) != 0 || !S_ISDIR(st.st_mode)) {
-                qCDebug(lcListing) << "not a folder, or a link; left alone:" << path;
-                // A name that stands already (a file and a folder of one name) is the
-                // archive's own oddity; anything else means the tree cannot be made.
-                if (error != EEXIST)
-                    fail(error);
-                return false;
-            }
-        }
-#else
-        const QString p = QFile::decodeName(path);
-        if (!QFileInfo(p).isDir() && !QDir().mkdir(p)) {
-            qCDebug(lcListing) << "could not create folder" << p;
-            return false;
-        }
-#endif
-        known_.insert(path);
-        return true;
-    }
-
-    void fail(int error) {
-        if (failure_.isEmpty())
-            failure_ = QStringLiteral("it cannot create the folder view: %1")
-                           .arg(QString::fromLocal8Bit(std::strerror(error)).toLower());
-    }
-
-#ifdef Q_OS_UNIX
-    // An open handle on `folder`, the last folder made (forgetLastFolder closes it when
-    // another one is made), opened without following a link.
-    int folderHandle(const QByteArray& folder) {
-        if (folderFd_ < 0)
-            folderFd_ = ::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
-        return folderFd_;
-    }
-#endif
-
-    void forgetLastFolder() {
-        lastKnown_ = false;
-#ifdef Q_OS_UNIX
-        if (folderFd_ >= 0)
-            ::close(folderFd_);
-        folderFd_ = -1;
-#endif
-    }
-
-    QString root_;
-    QString failure_;
-    bool root_ok_ = false;
-    QSet<QByteArray> known_;
-    bool lastKnown_ = false;
-    QString lastFolder_;
-    QByteArray lastPath_;
-#ifdef Q_OS_UNIX
-    int folderFd_ = -1;
-#endif
-};
-
-} // namespace
-
 QString EntryName(const QString& line) {
     return TrimBlanks(line).replace(QLatin1Char('/'), QLatin1Char('\\'));
 }
@@ -258,17 +102,6 @@ QString ListingFailedMessage(const QString& archive, const QString& problem) {
 }
 
 namespace {
-
-// Where a placeholder for the entry `name` goes: its folder (drive and drive root dropped) and
-// file name.
-void placeEntry(MirrorWriter& writer, const QString& name) {
-    QString folder = sGivePath(name);
-    if (Tipo(folder) == 1)
-        folder = folder.mid(2);
-    else if (folder.size() == 2 && folder[1] == QLatin1Char(':'))
-        folder.clear(); // an entry at a drive's root ("C:\a.txt") lands at the root
-    writer.placeholder(writer.makeFolder(folder), sGiveFile(name));
-}
 
 constexpr qsizetype kLongestLine = 64 * 1024;
 constexpr qint64 kChunk = 256 * 1024;
@@ -328,7 +161,7 @@ public:
             return;
         }
         if (pass_.treeProblem.isEmpty()) {
-            placeEntry(writer_, name);
+            writer_.placeEntry(name);
             if (!writer_.failure().isEmpty())
                 pass_.treeProblem = writer_.failure();
             if (entries_)
@@ -344,6 +177,7 @@ public:
             return;
         }
         pass_.treeComplete = pass_.treeProblem.isEmpty();
+        pass_.aliases = writer_.aliases();
         QStringList tail(9);
         tail << separator_ << totalsLines_;
         pass_.totals = ReadTotals(tail);
@@ -621,6 +455,8 @@ ListStatus ArchiveLister::FileInArchivio(const QString& selectedPath) {
                 });
                 if (!replaced)
                     problem = QStringLiteral("it cannot replace the previous folder view");
+                else
+                    shownAliases_ = pass_.aliases;
             }
             if (!problem.isEmpty()) {
                 // No partial tree: the one shown before stays as it was.
@@ -629,6 +465,9 @@ ListStatus ArchiveLister::FileInArchivio(const QString& selectedPath) {
                 listing_.status = ListStatus::Failed;
                 listing_.password.clear();
                 UndoEngineSwitch(switch_, ProgramFolder());
+            } else if (!shownAliases_.isEmpty()) {
+                // Shown, but not every name as stored: the user is told.
+                prompter_->information(AliasesMessage(selectedPath, shownAliases_.count()));
             }
             return listing_.status;
         }

@@ -4,6 +4,7 @@
 // be browsed as ordinary folders and files.
 #pragma once
 
+#include "mirroraliases.h"
 #include "versionswitch.h"
 
 #include "core/codepage.h"
@@ -95,6 +96,8 @@ struct ListingPass {
     QString treeProblem;
     std::optional<ArchiveTotals> totals;
     qint64 lines = 0;
+    // Entries shown under another name than stored (the file system could not hold theirs).
+    MirrorAliases aliases;
 };
 // `stop` (when given) is looked at between lines: once it is set, the pass ends, incomplete.
 // `entries` (when given) counts the entries placed so far, for a progress display; both may be
@@ -156,6 +159,9 @@ public:
     // What the last listing's one pass over its log found.
     const ListingPass& lastPass() const { return pass_; }
 
+    // The names of the tree shown now that differ from their stored names.
+    const MirrorAliases& shownAliases() const { return shownAliases_; }
+
     // Why the last list job could not be started (empty when it started).
     QString startError() const { return startError_; }
 
@@ -168,6 +174,7 @@ private:
     ArchiveListing listing_;
     QString startError_;
     ListingPass pass_;
+    MirrorAliases shownAliases_;
     bool cancelled_ = false;
     std::atomic<bool> stop_{false};
     std::atomic<qint64> entries_{0};

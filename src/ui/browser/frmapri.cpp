@@ -313,7 +313,8 @@ frmApri::frmApri(QWidget* parent)
                 if (!current.isValid())
                     return;
                 const SearchHit& hit = results_->hit(current.row());
-                selectedItem_ = hit.archiveFolder + QLatin1Char('\\') + hit.name;
+                selectedItem_ = lister_.shownAliases().storedOf(hit.archiveFolder +
+                                                                QLatin1Char('\\') + hit.name);
             });
     connect(&search_, &FindFile::found, results_, &SearchResults::append);
     connect(&search_, &FindFile::finished, this,
@@ -655,6 +656,9 @@ QString frmApri::archiveItemOf(const QString& path) const {
                        (sep + names::WorkFolderName + sep + names::ScratchFolderName + sep).size();
     QString item = path.mid(prefix);
     item.replace(PathStyle::host().sep, QLatin1Char('\\'));
+    // A name shown otherwise than stored (the file system could not hold it) goes to the
+    // engine as stored.
+    item = lister_.shownAliases().storedOf(item);
     if (QFileInfo(path).isDir())
         item += QStringLiteral("\\*.*");
     return item;
