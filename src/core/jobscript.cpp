@@ -186,11 +186,7 @@ QByteArray ToScriptEncoding(const QString& text) {
 }
 
 QByteArray ToAnsi(const QString& text) {
-    QByteArray out;
-    out.reserve(text.size());
-    for (QChar c : text)
-        out.append(c.unicode() < 256 ? char(c.unicode()) : '?');
-    return out;
+    return WindowsEngineCodecs(EngineLocale()).names.encode(text);
 }
 
 QByteArray JobScriptBytes(Preamble preamble, const CommandPieces& commandPieces, LastLine last) {

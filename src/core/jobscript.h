@@ -132,7 +132,9 @@ struct WrittenScript {
 };
 std::optional<WrittenScript> WrittenJobScript(const QString& path);
 
-// The 8-bit code page of the SFX settings record: Latin-1, '?' for what it lacks.
+// The SFX settings record's text in the ANSI code page of the engine's locale (1252 under
+// an English locale, 1251 under a Russian one ...), so that "€", curly quotes and dashes
+// survive; '?' for what the code page lacks.
 QByteArray ToAnsi(const QString& text);
 
 } // namespace quovara

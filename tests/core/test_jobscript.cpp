@@ -1,4 +1,5 @@
 #include "core/jobscript.h"
+#include "test_support.h"
 
 #include <QDir>
 #include <QFile>
@@ -9,6 +10,7 @@
 #include <unistd.h>
 
 using namespace quovara;
+using quovara::testing::ScopedEnv;
 
 TEST(JobScript, ListPreambleStartsWithClsAndHasNoLineEndAfterCommand) {
     const QByteArray bytes =
@@ -32,9 +34,17 @@ TEST(JobScript, PasswordWithQuoteIsWrittenUnescaped) {
     EXPECT_TRUE(bytes.endsWith("-pw\"a\"b\" "));
 }
 
-TEST(JobScript, EightBitCodePage) {
-    EXPECT_EQ(ToAnsi(QString::fromUtf8("caf\u00e9")), QByteArray("caf\xe9"));
-    EXPECT_EQ(ToAnsi(QString::fromUtf8("\u20ac")), QByteArray("?"));
+TEST(JobScript, TheSfxTextIsInTheAnsiCodePageOfTheEnginesLocale) {
+    {
+        ScopedEnv locale("LC_ALL", "en_US.UTF-8");
+        EXPECT_EQ(ToAnsi(QString::fromUtf8("caf\u00e9 \u20ac5 \u201cquoted\u201d \u2013 ok")),
+                  QByteArray("caf\xe9 \x80"
+                             "5 \x93quoted\x94 \x96 ok"));
+        EXPECT_EQ(ToAnsi(QString::fromUtf8("\u041f")), QByteArray("?"));
+    }
+    ScopedEnv locale("LC_ALL", "ru_RU.UTF-8");
+    EXPECT_EQ(ToAnsi(QString::fromUtf8("\u041f\u0440\u0438 \u20ac")),
+              QByteArray("\xcf\xf0\xe8 \x88"));
 }
 
 TEST(JobScript, WriteReplacesAnOlderScript) {
