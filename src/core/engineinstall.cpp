@@ -302,7 +302,10 @@ EngineCheck CheckEngine(const QString& folder, int timeoutMs) {
         check.result = check.launcher.isEmpty() ? EngineCheck::NoBanner : EngineCheck::NoLauncher;
         return check;
     }
-    for (const QString& line : check.output.split(QRegularExpression(QStringLiteral("[\r\n]+")))) {
+    // The console's title ("ESC ] 0 ; UHARC BEL") is no banner: escape sequences are dropped.
+    QString plain = check.output;
+    plain.remove(QRegularExpression(QStringLiteral("\x1b\\][^\x07]*\x07|\x1b\\[[0-9;?]*[A-Za-z]")));
+    for (const QString& line : plain.split(QRegularExpression(QStringLiteral("[\r\n]+")))) {
         if (line.contains(QLatin1String("UHARC"))) {
             check.banner = line.trimmed();
             check.result = EngineCheck::Runs;

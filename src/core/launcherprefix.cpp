@@ -77,8 +77,17 @@ QProcessEnvironment LauncherEnvironment() {
     return environment;
 }
 
+namespace {
+// Written once wineboot has made the prefix: wine's own registry files appear only when its
+// server writes them out, which can be long after wineboot has ended.
+QString preparedMark() {
+    return LauncherPrefixFolder() + QStringLiteral("/.quovara-prepared");
+}
+} // namespace
+
 bool LauncherPrefixReady() {
-    return QFileInfo(LauncherPrefixFolder() + QStringLiteral("/system.reg")).isFile();
+    return QFileInfo(preparedMark()).isFile() ||
+           QFileInfo(LauncherPrefixFolder() + QStringLiteral("/system.reg")).isFile();
 }
 
 void SetPrefixPreparingNotice(PrefixPreparingNotice n) {
@@ -142,9 +151,13 @@ bool EnsureLauncherPrefix(const QString& launcher, QString* error, int timeoutSe
         return fail(QStringLiteral("it took more than %1 seconds").arg(timeoutSeconds));
     }
     qCDebug(lcRunner) << "wine prefix made in" << took.elapsed() << "ms, exit" << boot.exitCode();
-    if (!LauncherPrefixReady())
+    if (boot.exitStatus() != QProcess::NormalExit || boot.exitCode() != 0 ||
+        !QFileInfo(prefix).isDir())
         return fail(
             QStringLiteral("wine ended with code %1 without making it").arg(boot.exitCode()));
+    QFile mark(preparedMark());
+    if (!mark.open(QIODevice::WriteOnly))
+        qCDebug(lcRunner) << "could not mark the prefix as made:" << mark.errorString();
     return true;
 }
 

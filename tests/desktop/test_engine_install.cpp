@@ -48,9 +48,10 @@ protected:
     QString fakeLauncher(const QByteArray& output, int exitCode = 0) {
         const QString path = dir_.path() + "/fake-wine";
         writeExecutable(path, "#!/bin/sh\n"
-                              // Making the prefix, as wine's "wineboot -i" does.
+                              // Making the prefix, as wine's "wineboot -i" does (its
+                              // registry files come later, when its server writes them).
                               "if [ \"$1\" = wineboot ]; then mkdir -p \"$WINEPREFIX\" && "
-                              ": > \"$WINEPREFIX/system.reg\" && echo \"$* $WINEARCH\" >> "
+                              "echo \"$* $WINEARCH\" >> "
                               "\"$FAKE_LAUNCHER_LOG.boot\"; exit 0; fi\n"
                               "printf '%s\\n' \"$@\" > \"$FAKE_LAUNCHER_LOG\"\n"
                               "[ -t 0 ] && echo 'input is a terminal' >> \"$FAKE_LAUNCHER_LOG\"\n"
@@ -211,6 +212,16 @@ TEST_F(EngineInstall, AnEngineThatPrintsNoBannerFails) {
     EXPECT_EQ(r.exitCode, 2);
     EXPECT_TRUE(r.err.contains("did not print its banner")) << r.err.toStdString();
     EXPECT_TRUE(r.err.contains("something else entirely")) << r.err.toStdString();
+}
+
+TEST_F(EngineInstall, TheConsoleTitleIsNotTakenForTheBanner) {
+    // What the real engine prints on its console under wine: the window title first.
+    const Result r =
+        run({download("UHARC.EXE")}, fakeLauncher("\\033]0;UHARC\\007\\r\\nUHARC 0.6b ----- high "
+                                                  "compression multimedia archiver\\r\\n"));
+    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
+    EXPECT_TRUE(r.out.contains(": UHARC 0.6b ----- high compression multimedia archiver\n"))
+        << r.out.toStdString();
 }
 
 TEST_F(EngineInstall, AnEngineThatNeverAnswersIsEndedAtTheTimeLimit) {
