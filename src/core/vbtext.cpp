@@ -105,8 +105,9 @@ bool Like(const QString& text, const QString& pattern) {
 bool WildcardMatch(const QString& name, const QString& pattern) {
     if (pattern == QLatin1String("*.*"))
         return true;
-    return globMatch(name, pattern, false, false,
-                     [](QChar a, QChar b) { return a.toCaseFolded() == b.toCaseFolded(); });
+    return globMatch(name, pattern, false, false, [](QChar a, QChar b) {
+        return a == b || a.toCaseFolded() == b.toCaseFolded();
+    });
 }
 
 double Val(const QString& text) {

@@ -40,6 +40,12 @@ int compareNaturally(const QString& a, const QString& b) {
     qsizetype i = 0;
     qsizetype j = 0;
     while (i < a.size() && j < b.size()) {
+        // The same letter (not a digit, which counts within its number): nothing to fold.
+        if (a[i] == b[j] && !isDigit(a[i])) {
+            ++i;
+            ++j;
+            continue;
+        }
         if (isDigit(a[i]) && isDigit(b[j])) {
             // Two numbers: leading zeros count for nothing, then the longer is the greater.
             const qsizetype startA = i;
