@@ -95,6 +95,12 @@ protected:
     }
     void TearDown() override { SetDesktopOpener({}); }
 
+    // Takes the stand-in engines out of the program folder, for a test that puts its own.
+    void emptyProgramFolder() {
+        for (const QString& f : QDir(places_.programFolder()).entryList(QDir::Files))
+            QFile::remove(places_.programFolder() + "/" + f);
+    }
+
     QString makeArchive(const QString& engine, const QString& name, QStringList switches = {}) {
         const QString archive = places_.path() + "/" + name;
         QProcess p;

@@ -26,8 +26,7 @@ protected:
     void SetUp() override {
         MainWindow::SetUp();
         // The engines are "Windows programs" that the stand-in launcher runs.
-        for (const QString& f : QDir(places_.programFolder()).entryList(QDir::Files))
-            QFile::remove(places_.programFolder() + "/" + f);
+        emptyProgramFolder();
         writeFile(places_.programFolder() + "/uharc.exe", "MZ\nstandin=" + kFour.toUtf8() + "\n");
         writeFile(places_.programFolder() + "/Uharc0.6.fns", "MZ\nstandin=" + kSix.toUtf8() + "\n");
         QFile::link(kWine, places_.path() + "/wineserver");

@@ -26,8 +26,7 @@ class ShortenedNames : public MainWindow {
 protected:
     void SetUp() override {
         MainWindow::SetUp();
-        for (const QString& f : QDir(places_.programFolder()).entryList(QDir::Files))
-            QFile::remove(places_.programFolder() + "/" + f);
+        emptyProgramFolder();
         writeExecutable(places_.programFolder() + "/uharc.exe", kCannedEngine);
         archive_ = places_.path() + "/clash.uha";
         writeFile(archive_, "an archive");
