@@ -38,6 +38,15 @@ QString LauncherPath() {
     return QStandardPaths::findExecutable(QStringLiteral("wine"));
 }
 
+QStringList MaskedArguments(const QStringList& arguments) {
+    QStringList shown;
+    shown.reserve(arguments.size());
+    for (const QString& a : arguments)
+        shown << (a.startsWith(QLatin1String("-pw"), Qt::CaseInsensitive) ? QStringLiteral("-pw***")
+                                                                          : a);
+    return shown;
+}
+
 JobProcess::JobProcess(QObject* parent) : QObject(parent) {}
 
 JobProcess::~JobProcess() {
@@ -282,7 +291,7 @@ bool JobProcess::start(const QString& scriptPath, const QString& workingFolder) 
         closeTerminal();
         emit finished(code);
     });
-    qCDebug(lcRunner) << "starting" << program_ << arguments_ << "in" << folder;
+    qCDebug(lcRunner) << "starting" << program_ << MaskedArguments(arguments_) << "in" << folder;
     process_->start();
     const bool started = process_->waitForStarted(10000);
 #ifdef Q_OS_UNIX

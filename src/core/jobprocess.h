@@ -65,6 +65,9 @@ private:
     QStringList arguments_;
 };
 
+// The arguments as logs may show them: a password ("-pw…", in any case) is written "-pw***".
+QStringList MaskedArguments(const QStringList& arguments);
+
 // Finds the launcher for Windows programs: QUOVARA_WINE when set, else "wine" on the PATH.
 QString LauncherPath();
 

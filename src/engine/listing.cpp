@@ -160,7 +160,9 @@ public:
             separatorSeen_ = true;
             return;
         }
-        if (pass_.treeProblem.isEmpty()) {
+        // A log that holds an engine error lists nothing: its lines are no entries, and the
+        // count of entries read stays honest (nothing is read while a password is asked for).
+        if (pass_.treeProblem.isEmpty() && pass_.error.isEmpty()) {
             writer_.placeEntry(name);
             if (!writer_.failure().isEmpty())
                 pass_.treeProblem = writer_.failure();

@@ -17,6 +17,8 @@ public:
     void plain(const QString& text) override { shown << "plain: " + text; }
     QString askPassword(const QString& prompt) override {
         shown << "prompt: " + prompt;
+        if (onPrompt)
+            onPrompt();
         return answers.isEmpty() ? QString() : answers.takeFirst();
     }
 
@@ -33,6 +35,8 @@ public:
     QList<bool> questionAnswers;
     // Runs while a question is "open" (before it is answered).
     std::function<void()> onQuestion;
+    // Runs while the password prompt is "open".
+    std::function<void()> onPrompt;
 };
 
 } // namespace quovara::testing

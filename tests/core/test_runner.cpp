@@ -7,6 +7,7 @@
 #include "test_support.h"
 
 #include <QElapsedTimer>
+#include <QLoggingCategory>
 #include <QProcess>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -484,4 +485,40 @@ TEST_F(Runner, WithoutAServerProgramEveryJobStillRuns) {
     EXPECT_EQ(readAll(places.path() + "/qv_jobs").count("job"), 2);
     EXPECT_EQ(readAll(places.path() + "/qv_cold"), QByteArray("cold\ncold\n"));
     EXPECT_EQ(LauncherServer::ProcessId(), 0);
+}
+
+namespace {
+QStringList* g_logged = nullptr;
+void keepMessage(QtMsgType, const QMessageLogContext&, const QString& message) {
+    if (g_logged)
+        *g_logged << message;
+}
+} // namespace
+
+TEST_F(Runner, NoPasswordReachesTheDebugOutput) {
+    EXPECT_EQ(MaskedArguments({"e", "-pwsecret", "-PWOther", "-o+", "a.uha"}),
+              QStringList({"e", "-pw***", "-pw***", "-o+", "a.uha"}));
+    writeExecutable(engine(), kRecordingEngine);
+    qputenv("QV_RECORD", (places.path() + "/record.txt").toLocal8Bit());
+    const QString password = QString::fromUtf8("s3cr\"et \\ \\n$(x) hasło");
+    ASSERT_TRUE(
+        WriteJobScript(script(names::ExtractScript), Preamble::Job,
+                       {quotedEngine() + "e ",
+                        "-pw\"" + Fragment::Value(password, "password") + "\" ", "\"/a/b.uha\""}));
+    QStringList logged;
+    g_logged = &logged;
+    QLoggingCategory::setFilterRules(QStringLiteral("quovara.*.debug=true"));
+    const QtMessageHandler old = qInstallMessageHandler(keepMessage);
+    EXPECT_TRUE(RunAndWait(script(names::ExtractScript), 0, places.path()));
+    qInstallMessageHandler(old);
+    QLoggingCategory::setFilterRules(QString());
+    g_logged = nullptr;
+    ASSERT_FALSE(logged.isEmpty());
+    bool masked = false;
+    for (const QString& m : logged) {
+        EXPECT_FALSE(m.contains("s3cr")) << m.toStdString();
+        EXPECT_FALSE(m.contains(QString::fromUtf8("hasło"))) << m.toStdString();
+        masked = masked || m.contains("-pw***");
+    }
+    EXPECT_TRUE(masked) << logged.join('\n').toStdString();
 }

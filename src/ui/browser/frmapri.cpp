@@ -490,12 +490,13 @@ void frmApri::buildTaskPane() {
             .boundingRect(QRect(0, 0, narrowest, 10000), Qt::TextWordWrap, text)
             .height();
     };
-    pStato->setFixedHeight(m.top() +
-                           wrapped(Stato, QString::fromLatin1(apri::ReadingCount).arg(9999999)) +
-                           pStato->layout()->spacing() +
-                           std::max(wrapped(Consiglio, QString::fromLatin1(apri::SelectAction)),
-                                    wrapped(Consiglio, QString::fromLatin1(apri::EscapeStops))) +
-                           m.bottom());
+    pStato->setFixedHeight(
+        m.top() +
+        wrapped(Stato, QString::fromLatin1(apri::ReadingCount).arg(apri::EntriesText(9999999))) +
+        pStato->layout()->spacing() +
+        std::max(wrapped(Consiglio, QString::fromLatin1(apri::SelectAction)),
+                 wrapped(Consiglio, QString::fromLatin1(apri::EscapeStops))) +
+        m.bottom());
     Barra->SetGroupChild(QStringLiteral("Dettagli"), pDettagli);
     Barra->SetGroupChild(QStringLiteral("Operazioni"), pOperazioni);
     Barra->SetGroupChild(QStringLiteral("Stato"), pStato);
@@ -532,9 +533,9 @@ void frmApri::OpenItem(const QString& path) {
     count.setInterval(200);
     connect(&count, &QTimer::timeout, this, [this, path] {
         if (const qint64 n = lister_.entriesPlaced(); n > 0) {
-            Stato->setText(QString::fromLatin1(apri::ReadingCount).arg(n));
+            Stato->setText(QString::fromLatin1(apri::ReadingCount).arg(apri::EntriesText(n)));
             setWindowTitle(titleWith(QString::fromUtf8(apri::ReadingTitleCount)
-                                         .arg(QFileInfo(path).fileName(), QString::number(n))));
+                                         .arg(QFileInfo(path).fileName(), apri::EntriesText(n))));
         }
     });
     if (archiveName)

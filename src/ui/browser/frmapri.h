@@ -45,9 +45,13 @@ inline constexpr char PleaseWait[] = "Please wait ...";
 // While an archive is listed: the state texts and the window title (%1: the archive's name).
 inline constexpr char Reading[] = "Quovara is reading the archive";
 inline constexpr char EscapeStops[] = "Press Escape to stop";
-inline constexpr char ReadingCount[] = "Quovara is reading the archive: %1 entries";
+inline constexpr char ReadingCount[] = "Quovara is reading the archive: %1";
 inline constexpr char ReadingTitle[] = "Reading %1 \u2026";
-inline constexpr char ReadingTitleCount[] = "Reading %1 \u2026 %2 entries";
+inline constexpr char ReadingTitleCount[] = "Reading %1 \u2026 %2";
+// "1 entry", "2 entries".
+inline QString EntriesText(qint64 n) {
+    return n == 1 ? QStringLiteral("1 entry") : QStringLiteral("%1 entries").arg(n);
+}
 // The version page: the product's web server, a fixed path and a fixed query.
 inline constexpr char VersionPage[] =
     "http://quovara.example.org/version.php?giorno=1&mese=1&anno=2006";
