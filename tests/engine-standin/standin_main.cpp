@@ -625,6 +625,12 @@ std::string displayTarget(const std::string& target) {
     const std::string verb = extract ? "Extracting" : "Testing";
     Archive a = openArchive(out, o);
     auto sel = selectEntries(a, o);
+    if (!o.names.empty() && sel.empty()) {
+        // Named entries of which none is there: the engine's own words, no "ERROR:" line.
+        out.line("No matching files found !");
+        out.line("Process aborted.");
+        out.finish(255);
+    }
     std::uint64_t total = 0;
     for (const Entry* e : sel)
         total += e->size;

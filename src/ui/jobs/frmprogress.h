@@ -55,6 +55,8 @@ inline constexpr char ArchiveExistsQuestion[] =
     "Yes: the archive is replaced by a new one that holds only the files of this job; "
     "everything the archive holds now is lost (the engine cannot add to an existing archive).\n"
     "No: the job stops and the archive stays as it is.";
+// After the user's No to the engine's question whether to replace the archive.
+inline constexpr char ArchiveKept[] = "The archive was left as it was.";
 inline constexpr char OtherQuestion[] = "The engine asks:\n\n%1\n\n"
                                         "Yes answers \"y\", No answers \"n\".";
 // How the engine's questions end: the last, unfinished line of its output.
@@ -140,6 +142,9 @@ private:
     void answerEngineQuestion(const QString& question);
     // Why the ended job cannot count as done, or empty when it ended normally.
     QString abnormalEnd() const;
+    // The line before the engine's closing "Process aborted.": its own words for an end that
+    // has no "ERROR:" line, such as "No matching files found !". Empty when it did not say so.
+    QString lastEngineWords() const;
     // A text of the engine as the user reads it: under the launcher, its paths in host form.
     QString shown(const QString& engineText) const;
 
@@ -158,6 +163,9 @@ private:
     bool asking_ = false;
     bool underLauncher_ = false;
     qint64 answeredAt_ = -1;
+    // The user answered No to the engine's "already exists. Overwrite" question: the engine
+    // then ends with "Can't create archive file", and the archive is as it was.
+    bool keptArchive_ = false;
 
     std::unique_ptr<JobProcess> job_;
     std::unique_ptr<ConsoleReader> reader_;

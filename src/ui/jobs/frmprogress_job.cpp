@@ -50,6 +50,7 @@ void frmProgress::startJob() {
     underLauncher_ = codecs.windows;
 #endif
     answeredAt_ = -1;
+    keptArchive_ = false;
 
     // Step 4: the script starts hidden at the lowest priority (the runner's rule), in the
     // folder that holds the archive.
@@ -141,6 +142,17 @@ void frmProgress::showRound(const ConsoleState& state) {
 
 void frmProgress::handleError(const ConsoleState& state) {
     const QString& m = state.errorMessage;
+    if (kind_.lineRules == ConsoleJob::Add && keptArchive_ &&
+        m.trimmed() == QLatin1String("Can't create archive file")) {
+        // The engine's error is what the user asked for: no error box.
+        stopFollowing();
+        main_.prompter().information(QString::fromLatin1(progress::ArchiveKept));
+        if (unloaded_)
+            return;
+        main_.setVisible(true);
+        Form_Unload();
+        return;
+    }
     if (kind_.lineRules == ConsoleJob::Add) {
         errorEnding(m, true);
         return;
@@ -178,6 +190,8 @@ void frmProgress::answerEngineQuestion(const QString& line) {
         return;
     if (!job_->answer(yes ? 'y' : 'n'))
         qCDebug(lcJobWindow) << "the answer could not be typed into the engine's console";
+    else
+        keptArchive_ = archiveExists && !yes;
 }
 
 QString frmProgress::abnormalEnd() const {
@@ -187,11 +201,47 @@ QString frmProgress::abnormalEnd() const {
         return name ? QStringLiteral("signal %1, %2").arg(signal).arg(QString::fromLocal8Bit(name))
                     : QStringLiteral("signal %1").arg(signal);
     }
-    if (job_->exitCode() != 0)
-        return QStringLiteral("exit code %1").arg(job_->exitCode());
+    if (job_->exitCode() != 0) {
+        const QString words = lastEngineWords();
+        return words.isEmpty()
+                   ? QStringLiteral("exit code %1").arg(job_->exitCode())
+                   : QStringLiteral("exit code %1; it said: %2").arg(job_->exitCode()).arg(words);
+    }
     if (reader_->outputLost())
         return QStringLiteral("its output %1 was removed or cut short while it ran")
             .arg(consolePath_);
+    return QString();
+}
+
+QString frmProgress::lastEngineWords() const {
+    QFile out(consolePath_);
+    if (!out.open(QIODevice::ReadOnly))
+        return QString();
+    // Only the end of the output matters.
+    constexpr qint64 kTail = 8192;
+    if (out.size() > kTail && !out.seek(out.size() - kTail))
+        return QString();
+    // The engine ends a run that fails without an "ERROR:" line with its own words and then
+    // "Process aborted."; whole lines only (ended by a line feed), a progress line rewritten
+    // in place counts in its last state.
+    QStringList lines = ActiveEngineCodecs().text.decode(out.readAll()).split(QLatin1Char('\n'));
+    lines.removeLast(); // what follows the last line feed is unfinished (or empty)
+    bool aborted = false;
+    for (qsizetype i = lines.size() - 1; i >= 0; --i) {
+        QString line = lines[i];
+        if (line.endsWith(QLatin1Char('\r')))
+            line.chop(1);
+        line = line.mid(line.lastIndexOf(QLatin1Char('\r')) + 1).trimmed();
+        if (line.isEmpty())
+            continue;
+        if (!aborted) {
+            if (line != QLatin1String("Process aborted."))
+                return QString();
+            aborted = true;
+            continue;
+        }
+        return shown(line);
+    }
     return QString();
 }
 

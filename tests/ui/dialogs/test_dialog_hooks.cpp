@@ -221,7 +221,7 @@ TEST_F(DialogHooks, AnAddToTheShownArchiveAnsweredNoLeavesItAsItWas) {
     prompter_.questionAnswers = {false};
     window_.ButtonClick(3);
     ASSERT_EQ(prompter_.shown.size(), 2);
-    EXPECT_EQ(prompter_.shown[1], "critical:  Can't create archive file");
+    EXPECT_EQ(prompter_.shown[1], "information: The archive was left as it was.");
     EXPECT_EQ(readAll(archive), before);
     EXPECT_EQ(control<QLabel>(&window_, "NomeAr")->text(), "Files: 2");
 }

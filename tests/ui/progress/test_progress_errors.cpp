@@ -4,6 +4,7 @@
 #include "progress_fixture.h"
 
 #include "core/places.h"
+#include "engine/grammar.h"
 
 #include <QApplication>
 #include <QDir>
@@ -89,7 +90,8 @@ TEST_F(ProgressErrors, AnAddErrorMakesTheMainWindowVisible) {
     ASSERT_TRUE(bench.waitUnloaded(w));
     ASSERT_EQ(bench.prompter.shown.size(), 2);
     EXPECT_TRUE(bench.prompter.shown[0].startsWith("question: The engine asks:"));
-    EXPECT_EQ(bench.prompter.shown[1], "critical:  Can't create archive file");
+    // The engine's error is what the user asked for: no error box.
+    EXPECT_EQ(bench.prompter.shown[1], "information: The archive was left as it was.");
     EXPECT_EQ(readAll(archive), before);
     EXPECT_TRUE(bench.main->isVisible());
     EXPECT_FALSE(bench.main->engineSwitch().engineSwitched);
@@ -450,4 +452,22 @@ TEST_F(ProgressErrors, EscapeStopsTheJobAsClosingTheWindowDoes) {
     ASSERT_TRUE(bench.waitUnloaded(w, 5000));
     EXPECT_TRUE(WaitFor([&] { return !ProcessAlive(engine); }, 5000));
     EXPECT_TRUE(bench.prompter.shown.isEmpty()) << bench.prompter.shown.join('|').toStdString();
+}
+
+TEST_F(ProgressErrors, AnEngineThatEndsWithoutAnErrorLineIsQuotedInItsOwnWords) {
+    bench.makeSource(2, 100);
+    const QString archive = bench.makeArchive(kSix, "nomatch.uha");
+    ExtractOptions o;
+    o.archive = archive;
+    o.destination = bench.places.path() + "/dest";
+    o.overwrite = true;
+    o.choice = FileChoice::FileTypes;
+    o.fileTypes = "*.nothing";
+    WriteExtractJobScript(WorkFile(names::ExtractScript), o, ProgramFolder(), TempRoot(),
+                          PathStyle::host());
+    frmProgress* w = bench.open(JobKind::Extract);
+    ASSERT_TRUE(bench.waitUnloaded(w));
+    EXPECT_EQ(
+        bench.prompter.shown,
+        QStringList({abnormal(archive, "exit code 255; it said: No matching files found !")}));
 }
