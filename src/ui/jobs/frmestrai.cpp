@@ -2,29 +2,34 @@
 
 #include "core/places.h"
 #include "core/prompter.h"
+#include "ui/common/foldertree.h"
+#include "ui/common/foldertreemodel.h"
 
 #include <QApplication>
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QDir>
 #include <QFileInfo>
-#include <QFileSystemModel>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QLoggingCategory>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QTreeView>
 #include <QVBoxLayout>
 
 Q_LOGGING_CATEGORY(lcExtractDialog, "quovara.dialog.extract", QtInfoMsg)
 
 namespace quovara {
+
+namespace {
+// How long the dialog waits, before it opens, for the folders above the archive's folder to be
+// read: long enough for any local disk, short enough for the dialog to open within 0.3 s.
+constexpr int SettleMs = 200;
+} // namespace
 
 frmEstrai::frmEstrai(const QString& archivePath, Prompter& prompter, JobHandOver handOver,
                      QWidget* parent)
@@ -44,33 +49,17 @@ void frmEstrai::buildControls() {
     TxTDir->setAccessibleName(text(estrai::ExtractTo));
     Label2->setBuddy(TxTDir);
 
-    // The folder tree: every folder of the file system, from the root, folders only.
-    folders_ = new QFileSystemModel(this);
+    // The folder tree: every folder of the file system, from the root, folders only. It holds
+    // still while folders are read, so a click lands on the folder the user saw there.
+    FolderView1 = named(new FolderTree(this), "FolderView1");
+    folders_ = FolderView1->folders();
     folders_->setObjectName(QStringLiteral("FolderModel"));
-    folders_->setFilter(QDir::AllDirs | QDir::NoDotAndDotDot | QDir::Drives);
-    // Writable so that a new folder can be renamed in place; the tree opens no editor itself.
-    folders_->setReadOnly(false);
-    folders_->setRootPath(QString());
-    FolderView1 = named(new QTreeView(this), "FolderView1");
     FolderView1->setAccessibleName(QStringLiteral("Folders"));
-    FolderView1->setModel(folders_);
-    FolderView1->setHeaderHidden(true);
-    for (int column = 1; column < folders_->columnCount(); ++column)
-        FolderView1->hideColumn(column);
-    FolderView1->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    FolderView1->setSelectionMode(QAbstractItemView::SingleSelection);
     FolderView1->setMinimumSize(260, 300);
     connect(FolderView1->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& current) { FolderView1_FolderClick(current); });
-    // The selected folder is brought into view once the folders above it have been read.
-    connect(folders_, &QFileSystemModel::directoryLoaded, this, [this](const QString& loaded) {
-        const QString current = folders_->filePath(FolderView1->currentIndex());
-        if (!current.isEmpty() && (current == loaded || current.startsWith(loaded + '/') ||
-                                   (loaded == QLatin1String("/") && current.startsWith(loaded))))
-            FolderView1->scrollTo(FolderView1->currentIndex(), QAbstractItemView::PositionAtCenter);
-    });
     // A new folder renamed in place: the box follows the selected folder's new name.
-    connect(folders_, &QFileSystemModel::fileRenamed, this,
+    connect(folders_, &FolderTreeModel::folderRenamed, this,
             [this](const QString& path, const QString& oldName, const QString& newName) {
                 if (SamePath(QDir(path).filePath(oldName), TxTDir->text()))
                     TxTDir->setText(QDir::toNativeSeparators(QDir(path).filePath(newName)));
@@ -154,13 +143,14 @@ void frmEstrai::Form_Load() {
     setWindowTitle(text(estrai::CaptionPrefix) + ArchivePath);
     TxTPwd->setEnabled(false);
     // The tree starts at the folder that holds the archive (the home folder when that cannot
-    // be shown).
+    // be shown). The dialog opens once the folders above it are read, or after a short
+    // wait on a slow disk: then they join the tree without moving the selection.
     const QFileInfo archive(ArchivePath);
-    if (ArchivePath.isEmpty() || !archive.absoluteDir().exists() ||
-        !folders_->index(archive.absolutePath()).isValid())
-        selectFolder(QDir::homePath());
-    else
-        selectFolder(archive.absolutePath());
+    const QString start = ArchivePath.isEmpty() || !archive.absoluteDir().exists()
+                              ? QDir::homePath()
+                              : archive.absolutePath();
+    if (!FolderView1->selectPath(start, SettleMs))
+        FolderView1->selectPath(QDir::homePath(), SettleMs);
     TxTDir->setText(selectedFolder());
 }
 
@@ -170,20 +160,13 @@ void frmEstrai::presetItem(const QString& item) {
 }
 
 void frmEstrai::selectFolder(const QString& folder) {
-    const QModelIndex index = folders_->index(QDir::fromNativeSeparators(folder));
-    if (!index.isValid()) {
+    if (!FolderView1->selectPath(folder))
         qCDebug(lcExtractDialog) << "folder not shown in the tree:" << folder;
-        return;
-    }
-    FolderView1->setCurrentIndex(index);
-    FolderView1->scrollTo(index);
 }
 
 QString frmEstrai::selectedFolder() const {
-    const QModelIndex current = FolderView1->currentIndex();
-    if (!current.isValid())
-        return QString();
-    return QDir::toNativeSeparators(folders_->filePath(current));
+    const QString path = FolderView1->currentPath();
+    return path.isEmpty() ? QString() : QDir::toNativeSeparators(path);
 }
 
 void frmEstrai::FolderView1_FolderClick(const QModelIndex& index) {

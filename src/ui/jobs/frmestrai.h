@@ -8,17 +8,17 @@
 #include <QDialog>
 
 class QCheckBox;
-class QFileSystemModel;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
 class QModelIndex;
 class QPushButton;
 class QRadioButton;
-class QTreeView;
 
 namespace quovara {
 
+class FolderTree;
+class FolderTreeModel;
 class Prompter;
 
 // Texts of the Extract dialog.
@@ -90,8 +90,8 @@ private:
 
     QLabel* Label2 = nullptr;
     QLineEdit* TxTDir = nullptr;
-    QTreeView* FolderView1 = nullptr;
-    QFileSystemModel* folders_ = nullptr;
+    FolderTree* FolderView1 = nullptr;
+    FolderTreeModel* folders_ = nullptr;
     QPushButton* Command1 = nullptr;
     QRadioButton* Option1 = nullptr;
     QGroupBox* Frame1 = nullptr;

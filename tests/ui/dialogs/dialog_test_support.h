@@ -7,11 +7,11 @@
 
 #include "core/places.h"
 
+#include "ui/common/foldertreemodel.h"
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QDir>
 #include <QFileInfo>
-#include <QFileSystemModel>
 #include <QLineEdit>
 #include <QStyle>
 #include <QStyleOptionButton>
@@ -94,14 +94,14 @@ inline QStringList tabChain(QWidget* first, int count) {
 // the click waits until the row has been read and laid out.
 inline void clickFolder(QTreeView* tree, const QString& path) {
     ASSERT_NE(tree, nullptr);
-    auto* model = qobject_cast<QFileSystemModel*>(tree->model());
+    auto* model = qobject_cast<FolderTreeModel*>(tree->model());
     ASSERT_NE(model, nullptr);
-    const QModelIndex parent = model->index(QFileInfo(path).absolutePath());
+    const QModelIndex parent = model->reveal(QFileInfo(path).absolutePath());
     ASSERT_TRUE(parent.isValid());
     tree->expand(parent);
     QModelIndex index;
     ASSERT_TRUE(QTest::qWaitFor([&] {
-        index = model->index(path);
+        index = model->find(path);
         if (!index.isValid())
             return false;
         tree->scrollTo(index);

@@ -6,7 +6,6 @@
 
 #include <QApplication>
 #include <QCheckBox>
-#include <QFileSystemModel>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
@@ -41,7 +40,7 @@ protected:
     void ok() { click(c<QPushButton>("Command2")); }
 
     QTreeView* tree() { return c<QTreeView>("FolderView1"); }
-    QFileSystemModel* model() { return qobject_cast<QFileSystemModel*>(tree()->model()); }
+    FolderTreeModel* model() { return qobject_cast<FolderTreeModel*>(tree()->model()); }
 
     void clickFolder(const QString& path) { quovara::testing::clickFolder(tree(), path); }
 
@@ -91,7 +90,7 @@ TEST_F(ExtractDialog, CaptionsAndInitialStateOfEveryControl) {
          {"TxTDir", "FolderView1", "TxTPwd", "TxtFileType", "TxtFileList", "TxtExclude"})
         EXPECT_FALSE(c<QWidget>(name)->accessibleName().isEmpty()) << name;
     // The tree shows folders only: the archive's folder lists "out" and not the archive.
-    const QModelIndex folder = model()->index(base_);
+    const QModelIndex folder = model()->find(base_);
     tree()->expand(folder);
     ASSERT_TRUE(QTest::qWaitFor([&] { return model()->rowCount(folder) > 0; }));
     QTest::qWait(100);
