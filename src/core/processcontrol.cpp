@@ -9,7 +9,9 @@
 #include <QList>
 #include <QSet>
 #include <QSocketNotifier>
+
 #include <algorithm>
+#include <map>
 
 #ifdef Q_OS_UNIX
 #include <dirent.h>
@@ -99,6 +101,32 @@ void onTerminationSignal(int signal) {
 } // namespace
 #endif
 
+namespace {
+std::map<int, std::function<void()>>& TerminationWork() {
+    static std::map<int, std::function<void()>> work;
+    return work;
+}
+} // namespace
+
+int AddTerminationWork(std::function<void()> work) {
+    static int next = 0;
+    TerminationWork().emplace(++next, std::move(work));
+    return next;
+}
+
+void RemoveTerminationWork(int id) {
+    TerminationWork().erase(id);
+}
+
+void RunTerminationWork() {
+    while (!TerminationWork().empty()) {
+        auto last = std::prev(TerminationWork().end());
+        const std::function<void()> work = std::move(last->second);
+        TerminationWork().erase(last);
+        work();
+    }
+}
+
 void EndJobsOnTerminationSignals() {
 #ifdef Q_OS_UNIX
     if (signalPipe[0] >= 0)
@@ -116,6 +144,7 @@ void EndJobsOnTerminationSignals() {
         const int signal = static_cast<unsigned char>(byte);
         qCDebug(lcRunner) << "ended by signal" << signal << "; ending the jobs first";
         EndAllJobs();
+        RunTerminationWork();
         LauncherServer::Shutdown();
         ::_exit(128 + signal);
     });

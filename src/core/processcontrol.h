@@ -1,6 +1,8 @@
 // Ending the engine by its name, and the program's own priority.
 #pragma once
 
+#include <functional>
+
 #include <QString>
 
 namespace quovara {
@@ -24,6 +26,13 @@ bool IsJobGroup(qint64 sessionId);
 // Ends every job this program has started and not yet forgotten, each with its whole session
 // (used when the program itself is ended). The number of sessions signalled.
 int EndAllJobs();
+
+// Work that must be done when a termination signal ends the program, once its jobs have been
+// ended (a stopped extraction removes the file it left half-written). The id removes it.
+int AddTerminationWork(std::function<void()> work);
+void RemoveTerminationWork(int id);
+// Runs the work added, each once, newest first (the signal handler calls it).
+void RunTerminationWork();
 
 // From now on SIGTERM, SIGINT and SIGHUP end every job of this program (its engines and the
 // launcher's children) before the program ends with them, so that no engine is left running.

@@ -128,13 +128,19 @@ std::string addTotalLine(double seconds, std::uint64_t size, std::uint64_t packe
 }
 
 // Name up to column 68, "Total:" at 70, per cent at 76-79.
-std::string jobProgressLine(const std::string& verb, const std::string& name, int percent) {
-    std::size_t room = 68 - verb.size() - 1;
-    return padRight(verbAndName(verb, name, room), 69) + "Total:" + format("%3d%%", percent);
+std::string jobProgressLine(const std::string& verb, const std::string& name, int percent,
+                            int filePercent) {
+    // The engine keeps 50 columns for the name and, while a big file is written, shows how
+    // far into it it is after the name.
+    std::string shown = verbAndName(verb, name, 50);
+    if (filePercent >= 0)
+        shown += format(" (%d%%)", filePercent);
+    return padRight(shown, 69) + "Total:" + format("%3d%%", percent);
 }
 
 std::string jobFileLine(const std::string& verb, const std::string& name) {
-    return padRight(verbAndName(verb, name, kWidth - verb.size() - 1), kWidth);
+    // The line a file ends with has room for 64 columns of its name.
+    return padRight(verbAndName(verb, name, 64), kWidth);
 }
 
 std::string jobTotalLine(double seconds) {

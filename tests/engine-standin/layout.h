@@ -34,7 +34,8 @@ std::string addFileLine(const std::string& name, std::uint64_t size, std::uint64
 std::string addTotalLine(double seconds, std::uint64_t size, std::uint64_t packed);
 
 // Extract and test jobs; `verb` is "Extracting", "Testing" or "Skipping".
-std::string jobProgressLine(const std::string& verb, const std::string& name, int percent);
+std::string jobProgressLine(const std::string& verb, const std::string& name, int percent,
+                            int filePercent = -1);
 std::string jobFileLine(const std::string& verb, const std::string& name);
 std::string jobTotalLine(double seconds);
 

@@ -334,6 +334,15 @@ std::string environmentOptions(Options& o) {
     return value;
 }
 
+// QUOVARA_STANDIN_WRITE_MS: a file is written 64 KiB at a time with this many milliseconds
+// between pieces and a progress line for each, as the engine shows a big file.
+constexpr std::size_t kSlowChunk = 64 * 1024;
+int chunkDelayMs() {
+    const char* v = std::getenv("QUOVARA_STANDIN_WRITE_MS");
+    const int ms = v ? std::atoi(v) : 0;
+    return ms > 0 ? ms : 0;
+}
+
 int perFileDelayMs() {
     const char* v = std::getenv("QUOVARA_STANDIN_DELAY_MS");
     if (!v)
@@ -675,9 +684,24 @@ std::string displayTarget(const std::string& target) {
             failed = e;
         if (extract && data.size() == e->size) {
             fs::create_directories(dest.parent_path(), ec);
+            // Into the file under its own name, as the engine writes: a stop halfway leaves
+            // a truncated copy with the current time, and a replaced file keeps its inode.
             std::ofstream f(dest, std::ios::binary | std::ios::trunc);
-            f.write(reinterpret_cast<const char*>(data.data()),
-                    static_cast<std::streamsize>(data.size()));
+            const int chunkDelay = chunkDelayMs();
+            const std::size_t chunk = chunkDelay > 0 ? kSlowChunk : data.size();
+            for (std::size_t at = 0; at < data.size() || at == 0; at += chunk) {
+                const std::size_t n = std::min(chunk, data.size() - at);
+                f.write(reinterpret_cast<const char*>(data.data() + at),
+                        static_cast<std::streamsize>(n));
+                if (chunkDelay <= 0 || at + n >= data.size())
+                    break;
+                f.flush();
+                const std::uint64_t written = done - e->size + at + n;
+                if (o.display >= 2)
+                    out.progress(jobProgressLine(verb, shown, percentDone(written, total),
+                                                 static_cast<int>((at + n) * 100 / data.size())));
+                sleepPerFile(chunkDelay);
+            }
             f.close();
             if (!f)
                 out.fail("Can't create file \"" + shown + "\"", o.display >= 2);

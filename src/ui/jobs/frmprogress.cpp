@@ -135,8 +135,12 @@ frmProgress::frmProgress(const ProgressKind& kind, frmApri& main, const QString&
 }
 
 frmProgress::~frmProgress() {
-    if (!unloaded_)
+    if (!unloaded_) {
         Form_Unload();
+        // The program is ending: no window can say what the stop left, the log does.
+        if (!stopReport_.isEmpty())
+            qCInfo(lcJobWindow).noquote() << stopReport_;
+    }
 }
 
 void frmProgress::buildControls() {
@@ -244,6 +248,8 @@ void frmProgress::closeEvent(QCloseEvent* event) {
         qCDebug(lcJobWindow) << "closed by the user";
         Form_Unload();
         main_.setVisible(true);
+        if (!stopReport_.isEmpty())
+            main_.prompter().information(stopReport_);
     }
 }
 

@@ -9,6 +9,7 @@
 #include "engine/consolereader.h"
 #include "trayicon.h"
 
+#include <QDateTime>
 #include <QPointer>
 #include <QString>
 #include <QWidget>
@@ -137,6 +138,9 @@ private:
     void refreshTip();
     void onTrayClick(TrayClick click);
     void Form_Unload();
+    // An extraction stopped while it ran: once the engine has gone, the file it was writing is
+    // removed when incomplete; returns the text that tells the user what is left.
+    QString cleanUpStoppedExtract();
     void stopFollowing();
     // Asks the user the engine's question and types the answer into its console.
     void answerEngineQuestion(const QString& question);
@@ -166,6 +170,12 @@ private:
     // The user answered No to the engine's "already exists. Overwrite" question: the engine
     // then ends with "Can't create archive file", and the archive is as it was.
     bool keptArchive_ = false;
+    // When the job's engine was started, and what the stop of an extraction left (shown once
+    // the window is gone).
+    QDateTime started_;
+    QString stopReport_;
+    // The clean-up registered for the program's end by a signal while the job runs.
+    int terminationWork_ = 0;
 
     std::unique_ptr<JobProcess> job_;
     std::unique_ptr<ConsoleReader> reader_;

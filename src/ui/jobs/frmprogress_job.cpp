@@ -6,6 +6,7 @@
 #include "core/enginelocale.h"
 #include "core/jobprocess.h"
 #include "core/places.h"
+#include "core/processcontrol.h"
 #include "core/scriptexec.h"
 #include "engine/versionswitch.h"
 #include "ui/browser/frmapri.h"
@@ -61,6 +62,17 @@ void frmProgress::startJob() {
     job_ = std::make_unique<JobProcess>();
     connect(job_.get(), &JobProcess::finished, this, &frmProgress::pollRound, Qt::QueuedConnection);
     ++runs_;
+    started_ = QDateTime::currentDateTime();
+    // Ended by a signal, the program still removes what a stopped extraction left half-written.
+    if (kind_.kind == JobKind::Extract && terminationWork_ == 0)
+        terminationWork_ = AddTerminationWork([this] {
+            terminationWork_ = 0;
+            if (unloaded_)
+                return;
+            Form_Unload();
+            if (!stopReport_.isEmpty())
+                qCInfo(lcJobWindow).noquote() << stopReport_;
+        });
     qCDebug(lcJobWindow) << "starting" << scriptPath_ << "run" << runs_ << "in" << workingFolder();
     if (!job_->start(scriptPath_, workingFolder())) {
         const QString why = job_->errorText();

@@ -22,6 +22,10 @@ void frmProgress::Form_Unload() {
         return;
     unloaded_ = true;
     phase_ = Phase::Ending;
+    if (terminationWork_ != 0) {
+        RemoveTerminationWork(terminationWork_);
+        terminationWork_ = 0;
+    }
     pollTimer_->stop();
     Timer1->stop();
 
@@ -35,12 +39,17 @@ void frmProgress::Form_Unload() {
         UndoEngineSwitch(main_.engineSwitch(), ProgramFolder());
     // 4. The engine ended by its name when the job still runs; the job's own process is then
     //    ended by its id as well, in case the name found another one first.
-    if (job_ && job_->isRunning()) {
+    const bool stopped = job_ && job_->isRunning();
+    if (stopped) {
         const qint64 ended = TerminateProcessByName(QStringLiteral("UHARC.EXE"), &main_.prompter());
         qCDebug(lcJobWindow) << "ended the engine by name:" << ended;
         if (job_->isRunning() && ended != job_->processId())
             job_->kill();
     }
+    // 4b. A stopped extraction leaves no half-written file (read from the console output,
+    //     which goes next).
+    if (stopped && kind_.kind == JobKind::Extract)
+        stopReport_ = cleanUpStoppedExtract();
     // 5. The console output.
     QFile::remove(WorkFile(names::ConsoleOutput));
     // 6. The add job's temporary archive beside the archive.

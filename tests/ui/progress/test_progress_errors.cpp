@@ -231,7 +231,10 @@ TEST_F(ProgressErrors, ClosingAnExtractWindowMidJobUndoesTheSwitch) {
     EXPECT_EQ(readAll(bench.programFile("uharc.exe")), readAll(kSix));
     EXPECT_EQ(readAll(bench.programFile("Uharc0.4.fns")), readAll(kFour));
     EXPECT_FALSE(QFile::exists(WorkFile(names::ConsoleOutput)));
-    EXPECT_TRUE(bench.prompter.shown.isEmpty());
+    ASSERT_EQ(bench.prompter.shown.size(), 1);
+    EXPECT_TRUE(bench.prompter.shown.first().startsWith(
+        "information: The extraction was stopped: "))
+        << bench.prompter.shown.first().toStdString();
 }
 
 TEST_F(ProgressErrors, AnEngineThatWritesNothingEndsTheWaitWithAClearMessage) {
@@ -266,7 +269,9 @@ TEST_F(ProgressErrors, AnEngineThatKeepsSilentWhileRunningIsWaitedForUntilClosed
     EXPECT_TRUE(ProcessAlive(pid));
     w->close();
     EXPECT_TRUE(WaitFor([&] { return !ProcessAlive(pid); }, 5000));
-    EXPECT_TRUE(bench.prompter.shown.isEmpty());
+    // Nothing was written: the user is told so.
+    EXPECT_EQ(bench.prompter.shown,
+              QStringList({"information: The extraction was stopped: no file was extracted."}));
 }
 
 TEST_F(ProgressErrors, AJobWhoseEngineIsMissingSaysItCouldNotStart) {
