@@ -232,8 +232,8 @@ TEST_F(ProgressErrors, ClosingAnExtractWindowMidJobUndoesTheSwitch) {
     EXPECT_EQ(readAll(bench.programFile("Uharc0.4.fns")), readAll(kFour));
     EXPECT_FALSE(QFile::exists(WorkFile(names::ConsoleOutput)));
     ASSERT_EQ(bench.prompter.shown.size(), 1);
-    EXPECT_TRUE(bench.prompter.shown.first().startsWith(
-        "information: The extraction was stopped: "))
+    EXPECT_TRUE(
+        bench.prompter.shown.first().startsWith("information: The extraction was stopped: "))
         << bench.prompter.shown.first().toStdString();
 }
 
@@ -475,4 +475,16 @@ TEST_F(ProgressErrors, AnEngineThatEndsWithoutAnErrorLineIsQuotedInItsOwnWords) 
     EXPECT_EQ(
         bench.prompter.shown,
         QStringList({abnormal(archive, "exit code 255; it said: No matching files found !")}));
+}
+
+TEST_F(ProgressErrors, AnEngineThatSaysNothingBeforeItsErrorExitIsNotGivenWordsItDidNotSay) {
+    const QString engine = bench.programFile("uharc.exe");
+    QFile::remove(engine);
+    // Output that the window follows, then an error exit with no line of its own.
+    writeExecutable(engine, "#!/bin/sh\nprintf '\\r\\n'\nsleep 0.3\nexit 3\n");
+    bench.writeTestScript(bench.places.path() + "/x.uha");
+    frmProgress* w = bench.open(JobKind::Test);
+    ASSERT_TRUE(bench.waitUnloaded(w, 5000));
+    EXPECT_EQ(bench.prompter.shown,
+              QStringList({abnormal(bench.places.path() + "/x.uha", "exit code 3")}));
 }
