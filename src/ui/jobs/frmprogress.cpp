@@ -139,7 +139,7 @@ frmProgress::~frmProgress() {
         Form_Unload();
         // The program is ending: no window can say what the stop left, the log does.
         if (!stopReport_.isEmpty())
-            qCInfo(lcJobWindow).noquote() << stopReport_;
+            qCWarning(lcJobWindow).noquote() << stopReport_;
     }
 }
 

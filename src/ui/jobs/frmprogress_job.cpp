@@ -71,7 +71,7 @@ void frmProgress::startJob() {
                 return;
             Form_Unload();
             if (!stopReport_.isEmpty())
-                qCInfo(lcJobWindow).noquote() << stopReport_;
+                qCWarning(lcJobWindow).noquote() << stopReport_;
         });
     qCDebug(lcJobWindow) << "starting" << scriptPath_ << "run" << runs_ << "in" << workingFolder();
     if (!job_->start(scriptPath_, workingFolder())) {
