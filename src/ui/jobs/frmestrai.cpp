@@ -55,7 +55,8 @@ void frmEstrai::buildControls() {
     folders_ = FolderView1->folders();
     folders_->setObjectName(QStringLiteral("FolderModel"));
     FolderView1->setAccessibleName(QStringLiteral("Folders"));
-    FolderView1->setMinimumSize(260, 300);
+    // Small enough for the dialog to fit a 640x420 screen; it grows with the dialog.
+    FolderView1->setMinimumSize(220, 140);
     connect(FolderView1->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& current) { FolderView1_FolderClick(current); });
     // A new folder renamed in place: the box follows the selected folder's new name.
