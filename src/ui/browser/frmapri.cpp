@@ -20,116 +20,26 @@
 #include "engine/grammar.h"
 #include "ui/common/handcursor.h"
 
-#include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QDir>
-#include <QDropEvent>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QGridLayout>
 #include <QHBoxLayout>
-#include <QHeaderView>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
-#include <QMimeData>
 #include <QPushButton>
 #include <QShortcut>
-#include <QStyle>
 #include <QTimer>
 #include <QToolButton>
 #include <QTreeView>
-#include <QUrl>
 #include <QVBoxLayout>
-#include <optional>
 
 namespace quovara {
 
-namespace {
-
-// Toolbar button ids, in the order they are added (separators count).
-enum ToolbarId {
-    IdBack = 1,
-    IdAdd = 3,
-    IdExtract = 4,
-    IdSfx = 5,
-    IdVerify = 6,
-    IdView = 8,
-    IdUpdate = 10,
-    IdAbout = 11,
-};
-
-// While an archive is read, the window takes no input but what stops the reading (Escape,
-// Ctrl+Q, closing it): a click or a key that started another listing or a job in the middle of
-// this one would have two jobs working on the same files of the work folder. Other windows
-// (the password prompt, a message) are not touched, nor are releases, which start nothing
-// whose press was not seen.
-class ReadingInputGuard : public QObject {
-public:
-    explicit ReadingInputGuard(QWidget* window) : window_(window) {
-        qApp->installEventFilter(this);
-    }
-    ~ReadingInputGuard() override { qApp->removeEventFilter(this); }
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        switch (event->type()) {
-        case QEvent::MouseButtonPress:
-        case QEvent::MouseButtonDblClick:
-        case QEvent::ContextMenu:
-        case QEvent::DragEnter:
-        case QEvent::DragMove:
-        case QEvent::Drop:
-            break;
-        case QEvent::KeyPress:
-        case QEvent::ShortcutOverride:
-            if (stopsTheReading(static_cast<QKeyEvent*>(event)))
-                return false;
-            break;
-        default:
-            return false;
-        }
-        auto* widget = qobject_cast<QWidget*>(watched);
-        if (!widget || widget->window() != window_)
-            return false;
-        // Claimed by the widget, a key fires none of the window's shortcuts, and the key
-        // itself is then dropped here.
-        event->accept();
-        return true;
-    }
-
-private:
-    static bool stopsTheReading(const QKeyEvent* key) {
-        const QKeyCombination combination = key->keyCombination();
-        return combination == QKeyCombination(Qt::Key_Escape) ||
-               combination == QKeyCombination(Qt::CTRL | Qt::Key_Q);
-    }
-
-    QWidget* window_;
-};
-
-QPushButton* linkButton(const QString& caption, const char* name, QWidget* parent) {
-    auto* b = new QPushButton(caption, parent);
-    b->setObjectName(QLatin1String(name));
-    b->setFlat(true);
-    SetHandCursor(b, true);
-    b->setStyleSheet(QStringLiteral("QPushButton { text-align: left; color: #1c3f94; border: none;"
-                                    " padding: 2px; }"
-                                    "QPushButton:hover, QPushButton:focus { color: #3d6ee0;"
-                                    " text-decoration: underline; }"));
-    return b;
-}
-
-QLabel* label(const QString& caption, const char* name, QWidget* parent) {
-    auto* l = new QLabel(caption, parent);
-    l->setObjectName(QLatin1String(name));
-    return l;
-}
-
-} // namespace
+namespace {} // namespace
 
 frmApri::frmApri(QWidget* parent)
     : QMainWindow(parent), messagePrompter_(this), prompter_(&messagePrompter_),
@@ -194,89 +104,7 @@ frmApri::frmApri(QWidget* parent)
     right->addWidget(Trovati, 1);
     setCentralWidget(central);
 
-    // Details: the ratio bar and the totals.
-    // The panels belong to the window until the task pane hosts them (Form_Load).
-    pDettagli = new QWidget(this);
-    pDettagli->hide();
-    pDettagli->setObjectName(QStringLiteral("pDettagli"));
-    auto* details = new QGridLayout(pDettagli);
-    details->setContentsMargins(8, 6, 8, 8);
-    details->setVerticalSpacing(3);
-    NomeAr = label(QStringLiteral("Files Number:"), "NomeAr", pDettagli);
-    GranNorm = label(QStringLiteral("Grandezza normale:"), "GranNorm", pDettagli);
-    GranComp = label(QStringLiteral("Grandezza compresso:"), "GranComp", pDettagli);
-    MetodoC = label(QStringLiteral("Metodo:"), "MetodoC", pDettagli);
-    RatioP = label(QStringLiteral("Ratio:"), "RatioP", pDettagli);
-    RatioBar = new XP_ProgressBar(pDettagli);
-    RatioBar->setObjectName(QStringLiteral("RatioBar"));
-    RatioBar->setAccessibleName(QStringLiteral("Ratio"));
-    RatioBar->setMinimumHeight(18);
-    details->addWidget(NomeAr, 0, 0, 1, 2);
-    details->addWidget(GranNorm, 1, 0, 1, 2);
-    details->addWidget(GranComp, 2, 0, 1, 2);
-    details->addWidget(MetodoC, 3, 0, 1, 2);
-    details->addWidget(RatioP, 4, 0);
-    details->addWidget(RatioBar, 4, 1);
-    details->setColumnStretch(1, 1);
-
-    // Operations: search and the single-item commands.
-    pOperazioni = new QWidget(this);
-    pOperazioni->hide();
-    pOperazioni->setObjectName(QStringLiteral("pOperazioni"));
-    auto* ops = new QGridLayout(pOperazioni);
-    ops->setContentsMargins(8, 6, 8, 8);
-    ops->setVerticalSpacing(4);
-    LBCerca = label(QStringLiteral("Search file in archive"), "LBCerca", pOperazioni);
-    TxtCerca = new QLineEdit(pOperazioni);
-    TxtCerca->setObjectName(QStringLiteral("TxtCerca"));
-    TxtCerca->setAccessibleName(QStringLiteral("Search file in archive"));
-    TxtCerca->setToolTip(QStringLiteral("Search file in archive (Ctrl+F)"));
-    LBCerca->setBuddy(TxtCerca);
-    ImgCerca = new QToolButton(pOperazioni);
-    ImgCerca->setObjectName(QStringLiteral("ImgCerca"));
-    ImgCerca->setIcon(QIcon(QStringLiteral(":/icons/search.svg")));
-    ImgCerca->setIconSize(QSize(20, 20));
-    ImgCerca->setAutoRaise(true);
-    SetHandCursor(ImgCerca, true);
-    ImgCerca->setAccessibleName(QStringLiteral("Search"));
-    ImgCerca->setToolTip(QStringLiteral("Search (Ctrl+F)"));
-    EstFile = linkButton(QStringLiteral("Extract selected item"), "EstFile", pOperazioni);
-    EseFile = linkButton(QStringLiteral("Run selected file"), "EseFile", pOperazioni);
-    ops->addWidget(LBCerca, 0, 0, 1, 2);
-    ops->addWidget(TxtCerca, 1, 0);
-    ops->addWidget(ImgCerca, 1, 1);
-    ops->addWidget(EstFile, 2, 0, 1, 2);
-    ops->addWidget(EseFile, 3, 0, 1, 2);
-    ops->setColumnStretch(0, 1);
-
-    // State: what the program is doing.
-    pStato = new QWidget(this);
-    pStato->hide();
-    pStato->setObjectName(QStringLiteral("pStato"));
-    auto* state = new QVBoxLayout(pStato);
-    state->setContentsMargins(8, 6, 8, 8);
-    Stato = label(QString::fromLatin1(apri::Ready), "Stato", pStato);
-    QFont bold = Stato->font();
-    bold.setBold(true);
-    Stato->setFont(bold);
-    Consiglio = label(QString::fromLatin1(apri::SelectAction), "Consiglio", pStato);
-    // The state texts wrap rather than being cut ("Quovara is reading the archive: N entries"
-    // is wider than the pane); the room they may need is kept below them.
-    Stato->setWordWrap(true);
-    Consiglio->setWordWrap(true);
-    state->addWidget(Stato);
-    state->addWidget(Consiglio);
-    state->addStretch(1);
-
-    PopView = new QMenu(this);
-    PopView->setObjectName(QStringLiteral("PopView"));
-    const char* modes[] = {"Large Icon", "Report", "Small Icon", "List"};
-    for (int i = 0; i < 4; ++i) {
-        QAction* a = PopView->addAction(QString::fromLatin1(modes[i]));
-        a->setCheckable(true);
-        connect(a, &QAction::triggered, this, [this, i] { PopViewChoose(i); });
-    }
-    PopView->actions()[3]->setChecked(true);
+    buildPanels();
 
     connect(FileView1, &FileBrowser::folderChanged, this, &frmApri::onFolderChanged);
     connect(FileView1, &FileBrowser::selectionChanged, this, &frmApri::onSelectionChanged);
@@ -403,58 +231,6 @@ bool frmApri::Form_Load(const QString& commandLine) {
     return true;
 }
 
-void frmApri::buildToolbar() {
-    // Flat, list style (caption beside the image), divider.
-    ucToolbar1->Initialize(32, true, true, true);
-    const char* icons[] = {"101-back",   "102-add",  "103-extract", "104-sfx",
-                           "105-verify", "106-view", "107-update",  "108-about"};
-    for (const char* icon : icons)
-        ucToolbar1->AddIcon(
-            QIcon(QStringLiteral(":/icons/toolbar/%1.svg").arg(QLatin1String(icon))));
-    ucToolbar1->AddButton(QStringLiteral("Back"), 0, QStringLiteral("Back (Backspace, Alt+Left)"));
-    ucToolbar1->AddButton(QString(), -1, QString(), ucToolbar::tbrSeparator);
-    ucToolbar1->AddButton(QStringLiteral("Add"), 1, QStringLiteral("Add files to an archive"));
-    ucToolbar1->AddButton(QStringLiteral("Extract"), 2, QStringLiteral("Extract an archive"));
-    ucToolbar1->AddButton(QStringLiteral("SFX"), 3,
-                          QStringLiteral("Make a self-extracting program of the archive"));
-    ucToolbar1->AddButton(QStringLiteral("Verify"), 4, QStringLiteral("Test an archive"));
-    ucToolbar1->AddButton(QString(), -1, QString(), ucToolbar::tbrSeparator);
-    ucToolbar1->AddButton(QStringLiteral("View"), 5, QStringLiteral("Change the view"),
-                          ucToolbar::tbrDropDown);
-    ucToolbar1->AddButton(QString(), -1, QString(), ucToolbar::tbrSeparator);
-    ucToolbar1->AddButton(QStringLiteral("Update"), 6, QStringLiteral("Look for a newer version"));
-    // The keys that have no button of their own are named in the last button's tip.
-    ucToolbar1->AddButton(
-        QStringLiteral("About"), 7,
-        QStringLiteral(
-            "About Quovara. Keys: Ctrl+O open an archive, F5 read it again, Ctrl+Q quit"));
-    ucToolbar1->SetButtonEnabled(IdSfx, false);
-    ucToolbar1->setFixedHeight(ucToolbar1->ToolbarHeight() + 4);
-    connect(ucToolbar1, &ucToolbar::ButtonClick, this, &frmApri::ButtonClick);
-    connect(ucToolbar1, &ucToolbar::ButtonDropDown, this,
-            [this](int, int x, int y) { PopView->popup(mapToGlobal(QPoint(x, y))); });
-}
-
-void frmApri::buildShortcuts() {
-    // Everything can be reached without the mouse. A line edit keeps Backspace for itself.
-    auto add = [this](const QKeySequence& keys, const char* name, auto slot) {
-        auto* s = new QShortcut(keys, this);
-        s->setObjectName(QLatin1String(name));
-        connect(s, &QShortcut::activated, this, slot);
-    };
-    add(QKeySequence(Qt::Key_Backspace), "BackKey", [this] { ButtonClick(IdBack); });
-    add(QKeySequence(Qt::ALT | Qt::Key_Left), "BackAltLeft", [this] { ButtonClick(IdBack); });
-    add(QKeySequence(Qt::CTRL | Qt::Key_F), "FindKey", [this] {
-        if (!Barra->isHidden()) {
-            TxtCerca->setFocus(Qt::ShortcutFocusReason);
-            TxtCerca->selectAll();
-        }
-    });
-    add(QKeySequence(Qt::Key_F5), "RelistKey", [this] { relistArchive(); });
-    add(QKeySequence(Qt::CTRL | Qt::Key_O), "OpenKey", [this] { openArchiveWithDialog(); });
-    add(QKeySequence(Qt::CTRL | Qt::Key_Q), "QuitKey", [this] { close(); });
-}
-
 void frmApri::openArchiveWithDialog() {
     const QString path = askArchiveToOpen();
     if (!path.isEmpty()) {
@@ -469,113 +245,9 @@ QString frmApri::askArchiveToOpen() {
                                         QStringLiteral("UHARC archives (*.uha)"));
 }
 
-void frmApri::buildTaskPane() {
-    Barra->DisableUpdates(true);
-    Barra->AddGroup(QStringLiteral("Dettagli"), QStringLiteral("Details"));
-    Barra->AddGroup(QStringLiteral("Operazioni"), QStringLiteral("File and Folder Operations"));
-    Barra->AddGroup(QStringLiteral("Stato"), QStringLiteral("State"));
-    // Each group's content takes the height it needs; its width follows the pane (narrower
-    // when the pane shows its scroll bar), so nothing in it is cut.
-    for (QWidget* w : {pDettagli, pOperazioni, pStato}) {
-        w->resize(Barra->width() - 30, w->sizeHint().height());
-        w->setFixedHeight(w->sizeHint().height());
-    }
-    // The state group is as tall as its longest texts need at its narrowest (beside the
-    // pane's scroll bar): the count of a big archive being read, and the hint below it.
-    const QMargins m = pStato->layout()->contentsMargins();
-    const int narrowest = Barra->width() - 30 - style()->pixelMetric(QStyle::PM_ScrollBarExtent) -
-                          m.left() - m.right();
-    auto wrapped = [narrowest](const QLabel* l, const QString& text) {
-        return l->fontMetrics()
-            .boundingRect(QRect(0, 0, narrowest, 10000), Qt::TextWordWrap, text)
-            .height();
-    };
-    pStato->setFixedHeight(
-        m.top() +
-        wrapped(Stato, QString::fromLatin1(apri::ReadingCount).arg(apri::EntriesText(9999999))) +
-        pStato->layout()->spacing() +
-        std::max(wrapped(Consiglio, QString::fromLatin1(apri::SelectAction)),
-                 wrapped(Consiglio, QString::fromLatin1(apri::EscapeStops))) +
-        m.bottom());
-    Barra->SetGroupChild(QStringLiteral("Dettagli"), pDettagli);
-    Barra->SetGroupChild(QStringLiteral("Operazioni"), pOperazioni);
-    Barra->SetGroupChild(QStringLiteral("Stato"), pStato);
-    Barra->DisableUpdates(false);
-}
-
 void frmApri::pointBrowserAt(const QString& path) {
     FileView1->setFolder(FolderOf(path));
     FileView1->selectFile(QFileInfo(path).fileName());
-}
-
-void frmApri::OpenSelectedItem() {
-    OpenItem(FileView1->selectedPath());
-}
-
-void frmApri::OpenItem(const QString& path) {
-    if (path.isEmpty())
-        return;
-    // While the archive is read the window says so, and Escape or closing it stops the reading.
-    const QString title = windowTitle();
-    const bool archiveName = IsArchiveName(path);
-    std::optional<ReadingInputGuard> guard;
-    if (archiveName) {
-        guard.emplace(this);
-        listingNow_ = true;
-        stopReading_->setEnabled(true);
-        setWindowTitle(
-            titleWith(QString::fromUtf8(apri::ReadingTitle).arg(QFileInfo(path).fileName())));
-        setStatus(apri::Reading, apri::EscapeStops);
-    }
-    // The count of entries made so far, while the folder view is built: in the state group,
-    // and in the title, which shows also while the task pane is hidden.
-    QTimer count;
-    count.setInterval(200);
-    connect(&count, &QTimer::timeout, this, [this, path] {
-        if (const qint64 n = lister_.entriesPlaced(); n > 0) {
-            Stato->setText(QString::fromLatin1(apri::ReadingCount).arg(apri::EntriesText(n)));
-            setWindowTitle(titleWith(QString::fromUtf8(apri::ReadingTitleCount)
-                                         .arg(QFileInfo(path).fileName(), apri::EntriesText(n))));
-        }
-    });
-    if (archiveName)
-        count.start();
-    const bool listed = lister_.OpenSelectedArchive(path);
-    count.stop();
-    if (archiveName) {
-        guard.reset();
-        listingNow_ = false;
-        stopReading_->setEnabled(false);
-        setWindowTitle(title);
-        setStatus(apri::Ready, apri::SelectAction);
-    }
-    if (listed && lister_.cancelled())
-        return;
-    if (!listed) {
-        // Not an archive: the desktop's own action for the item.
-        ShellOpen(path);
-        return;
-    }
-    if (!lister_.startError().isEmpty()) {
-        prompter_->critical(QStringLiteral("The engine could not be started.\n\n") +
-                            lister_.startError());
-        return;
-    }
-    if (lister_.listing().status == ListStatus::Opened) {
-        // The folder to go back to when the browser climbs out of the mirror tree. An archive
-        // listed again from inside its own tree (after a job changed it) still lies where it
-        // was: the folder remembered when it was first opened stays.
-        ArchiveListing& l = lister_.listing();
-        if (!insideScratchFolder(FileView1->folder()))
-            l.previousFolder = FileView1->folder();
-        else if (l.previousFolder.isEmpty())
-            l.previousFolder = FolderOf(l.archivePath);
-        FileView1->setFolder(ScratchFolder());
-    }
-    if (const auto totals = lister_.Info()) {
-        Uha();
-        showTotals(*totals);
-    }
 }
 
 void frmApri::showTotals(const ArchiveTotals& t) {
@@ -695,28 +367,6 @@ void frmApri::setStatus(const char* stato, const char* consiglio) {
     Consiglio->setText(QString::fromLatin1(consiglio));
 }
 
-void frmApri::ExtractAndRun() {
-    const QString script = WorkFile(names::SingleScript);
-    const ArchiveListing& l = lister_.listing();
-    QString refused;
-    if (!WriteJobScript(script, Preamble::Job,
-                        SingleItemCommandPieces(ProgramFolder(), TempRoot(), l.password,
-                                                l.archivePath, selectedStoredName(),
-                                                PathStyle::host()),
-                        LastLine::NoLineEnd, &refused)) {
-        prompter_->critical(refused);
-        return;
-    }
-    setStatus(apri::Skipping, apri::PleaseWait);
-    QString error;
-    if (!RunAndWait(script, 0, WorkFolder(), {}, &error))
-        qCDebug(lcRunner) << "single-item job not started:" << error;
-    ShellOpenReport(*prompter_,
-                    PathStyle::host().join(WorkFolder(), sGiveFile(selectedStoredName())),
-                    QString(), QString(), 0);
-    setStatus(apri::Ready, apri::SelectAction);
-}
-
 void frmApri::StartSearch() {
     FileView1->hide();
     ShComboBox1->hide();
@@ -732,28 +382,6 @@ void frmApri::StartSearch() {
 
 void frmApri::stopSearch() {
     search_.stop();
-}
-
-bool frmApri::writeTestScript() {
-    QString archive;
-    if (!Barra->isHidden()) {
-        archive = lister_.listing().archivePath;
-    } else {
-        archive = FileView1->selectedPath();
-        if (!Like(archive, QStringLiteral("*.uha"))) {
-            prompter_->exclamation(QString::fromLatin1(apri::NoArchiveSelected));
-            return false;
-        }
-    }
-    const QString script = WorkFile(names::TestScript);
-    QString refused;
-    if (!WriteJobScript(script, Preamble::Job,
-                        TestCommandPieces(ProgramFolder(), TempRoot(), archive, PathStyle::host()),
-                        LastLine::LineEnd, &refused)) {
-        prompter_->critical(refused);
-        return false;
-    }
-    return true;
 }
 
 void frmApri::ButtonClick(int index) {
@@ -830,44 +458,6 @@ void frmApri::relistArchive() {
     const QString archive = lister_.listing().archivePath;
     if (archiveLayout() && !archive.isEmpty())
         OpenItem(archive);
-}
-
-void frmApri::dragEnterEvent(QDragEnterEvent* event) {
-    if (!droppedPath(event->mimeData()).isEmpty())
-        event->acceptProposedAction();
-}
-
-void frmApri::dropEvent(QDropEvent* event) {
-    const QString path = droppedPath(event->mimeData());
-    if (path.isEmpty())
-        return;
-    event->acceptProposedAction();
-    // Handled once the drop has finished, so the source of the drag is not kept waiting.
-    QTimer::singleShot(0, this, [this, path] { openDropped(path); });
-}
-
-QString frmApri::droppedPath(const QMimeData* data) {
-    if (!data || !data->hasUrls())
-        return QString();
-    for (const QUrl& url : data->urls()) {
-        if (url.isLocalFile() && QFileInfo::exists(url.toLocalFile()))
-            return QDir::cleanPath(url.toLocalFile());
-    }
-    return QString();
-}
-
-void frmApri::openDropped(const QString& path) {
-    const QFileInfo info(path);
-    pointBrowserAt(path);
-    if (info.isFile() && IsArchiveName(path)) {
-        // A dropped archive is opened as if it were double-clicked.
-        OpenItem(path);
-        return;
-    }
-    // Anything else is a source for the Add dialog, as if it were selected in the browser.
-    droppedSource_ = path;
-    showAddDialog();
-    droppedSource_.clear();
 }
 
 void frmApri::closeEvent(QCloseEvent* event) {

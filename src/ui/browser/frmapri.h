@@ -128,7 +128,17 @@ protected:
     virtual QString askArchiveToOpen();
 
 private:
-    // Icons of search results by file extension.
+    // Toolbar button ids, in the order they are added (separators count).
+    enum ToolbarId {
+        IdBack = 1,
+        IdAdd = 3,
+        IdExtract = 4,
+        IdSfx = 5,
+        IdVerify = 6,
+        IdView = 8,
+        IdUpdate = 10,
+        IdAbout = 11,
+    };
 
     // The first existing local file or folder of a drag, or empty.
     static QString droppedPath(const QMimeData* data);
@@ -153,6 +163,8 @@ private:
 
     void buildToolbar();
     void buildTaskPane();
+    // The task pane's panels (details, operations, state) and the View menu.
+    void buildPanels();
     void pointBrowserAt(const QString& path);
     void onFolderChanged(const QString& folder);
     void onSelectionChanged();
