@@ -5,6 +5,7 @@
 
 #include "ui/common/handcursor.h"
 
+#include <QContextMenuEvent>
 #include <QDir>
 #include <QEvent>
 #include <QFileInfo>
@@ -13,9 +14,12 @@
 #include <QItemSelectionModel>
 #include <QListView>
 #include <QMouseEvent>
+#include <QShortcut>
 #include <QStackedWidget>
 #include <QTreeView>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace quovara {
 
@@ -59,6 +63,10 @@ FileBrowser::FileBrowser(QWidget* parent) : QWidget(parent) {
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(stack_);
     setFocusProxy(list_);
+    // Shift+F10 opens the menu as the Menu key does.
+    auto* menuKey = new QShortcut(QKeySequence(Qt::SHIFT | Qt::Key_F10), this);
+    menuKey->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(menuKey, &QShortcut::activated, this, [this] { requestMenu(currentView(), nullptr); });
 
     connect(model_, &QFileSystemModel::directoryLoaded, this, [this](const QString& path) {
         if (QDir(path) == QDir(folder_)) {
@@ -123,10 +131,58 @@ void FileBrowser::applySelection() {
 }
 
 QString FileBrowser::selectedPath() const {
-    const QModelIndexList rows = currentView()->selectionModel()->selectedIndexes();
+    // The current item when it is selected (with several selected, the one the user is on).
+    const QItemSelectionModel* selection = currentView()->selectionModel();
+    const QModelIndex current = selection->currentIndex();
+    if (current.isValid() && selection->isSelected(current))
+        return QDir::toNativeSeparators(model_->filePath(current));
+    const QModelIndexList rows = selection->selectedIndexes();
     if (rows.isEmpty())
         return QString();
     return QDir::toNativeSeparators(model_->filePath(rows.first()));
+}
+
+QStringList FileBrowser::selectedPaths() const {
+    // The list selects the name column only, the report view whole rows: the names count.
+    QModelIndexList rows;
+    for (const QModelIndex& index : currentView()->selectionModel()->selectedIndexes())
+        if (index.column() == 0)
+            rows << index;
+    std::sort(rows.begin(), rows.end());
+    QStringList paths;
+    for (const QModelIndex& row : rows)
+        paths << QDir::toNativeSeparators(model_->filePath(row));
+    return paths;
+}
+
+void FileBrowser::setMultiSelection(bool on) {
+    for (QAbstractItemView* v :
+         {static_cast<QAbstractItemView*>(list_), static_cast<QAbstractItemView*>(tree_)})
+        v->setSelectionMode(on ? QAbstractItemView::ExtendedSelection
+                               : QAbstractItemView::SingleSelection);
+}
+
+void FileBrowser::requestMenu(QAbstractItemView* view, const QPoint* pos) {
+    QModelIndex item;
+    QPoint at;
+    if (pos) {
+        item = view->indexAt(*pos);
+        at = *pos;
+        // A right click on an item not yet selected selects it alone, as file managers do.
+        if (item.isValid() && !view->selectionModel()->isSelected(item))
+            view->selectionModel()->setCurrentIndex(item, QItemSelectionModel::ClearAndSelect |
+                                                              QItemSelectionModel::Rows);
+    } else {
+        // From the keyboard: at the current item when it is selected, else at the top left.
+        const QModelIndex current = view->currentIndex();
+        if (current.isValid() && view->selectionModel()->isSelected(current)) {
+            item = current;
+            at = view->visualRect(current).center();
+        } else {
+            at = QPoint(8, 8);
+        }
+    }
+    emit menuRequested(view->viewport()->mapToGlobal(at), item.isValid());
 }
 
 void FileBrowser::setShowHidden(bool show) {
@@ -211,6 +267,19 @@ void FileBrowser::showFocusItem(QAbstractItemView* view) {
 }
 
 bool FileBrowser::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::ContextMenu) {
+        auto* menu = static_cast<QContextMenuEvent*>(event);
+        QAbstractItemView* view = currentView();
+        if (watched == view || watched == view->viewport()) {
+            if (menu->reason() == QContextMenuEvent::Mouse) {
+                const QPoint pos = view->viewport()->mapFromGlobal(menu->globalPos());
+                requestMenu(view, &pos);
+            } else {
+                requestMenu(view, nullptr);
+            }
+            return true;
+        }
+    }
     if (event->type() == QEvent::FocusIn && (watched == list_ || watched == tree_)) {
         showFocusItem(static_cast<QAbstractItemView*>(watched));
     } else if (event->type() == QEvent::MouseMove) {

@@ -31,6 +31,10 @@ public:
     // The selected item's full path, or empty.
     QString selectedPath() const;
     bool hasSelection() const { return !selectedPath().isEmpty(); }
+    // Every selected path (native separators), in the order the view shows them.
+    QStringList selectedPaths() const;
+    // Several items may be selected at once (Ctrl and Shift with a click or the arrows).
+    void setMultiSelection(bool on);
 
     // Hidden entries (names beginning with a dot) are left out of ordinary folders but shown
     // in an archive's mirror tree, where they are entries like any other.
@@ -53,6 +57,9 @@ signals:
     void selectionChanged();
     // Double-click or Enter on an item; the receiver decides what opening it means.
     void executeRequested(const QString& path);
+    // A menu is asked for at `global` (a right click, the Menu key or Shift+F10); `onItem`
+    // when it points at an item, which is then selected.
+    void menuRequested(const QPoint& global, bool onItem);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -62,6 +69,8 @@ private:
     void applySelection();
     void onActivated(const QModelIndex& index);
     void showFocusItem(QAbstractItemView* view);
+    // The menu for a right click at `pos` of `view`'s viewport, or for the keyboard.
+    void requestMenu(QAbstractItemView* view, const QPoint* pos);
 
     QFileSystemModel* model_;
     QStackedWidget* stack_;

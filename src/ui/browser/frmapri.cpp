@@ -109,7 +109,13 @@ frmApri::frmApri(QWidget* parent)
     connect(FileView1, &FileBrowser::folderChanged, this, &frmApri::onFolderChanged);
     connect(FileView1, &FileBrowser::selectionChanged, this, &frmApri::onSelectionChanged);
     connect(FileView1, &FileBrowser::executeRequested, this, &frmApri::onExecute);
-    FileView1->setContextMenuPolicy(Qt::CustomContextMenu);
+    // On an entry of an archive: the entry's menu; anywhere else: the View menu.
+    connect(FileView1, &FileBrowser::menuRequested, this, [this](const QPoint& at, bool onItem) {
+        if (onItem && archiveLayout())
+            showEntryMenu(at);
+        else
+            PopView->popup(at);
+    });
     connect(FileView1, &QWidget::customContextMenuRequested, this,
             [this](const QPoint& p) { PopView->popup(FileView1->mapToGlobal(p)); });
     connect(ShComboBox1, &QComboBox::activated, this, [this](int index) {
@@ -265,6 +271,7 @@ void frmApri::Uha() {
     ucToolbar1->SetButtonEnabled(IdSfx, true);
     Barra->show();
     FileView1->setShowHidden(true);
+    FileView1->setMultiSelection(true);
     PopView->actions()[1]->setEnabled(false);
 }
 
@@ -277,6 +284,7 @@ void frmApri::NoUha() {
     ucToolbar1->SetButtonEnabled(IdSfx, false);
     Barra->hide();
     FileView1->setShowHidden(false);
+    FileView1->setMultiSelection(false);
     PopView->actions()[1]->setEnabled(true);
 }
 
@@ -356,6 +364,19 @@ void frmApri::onExecute(const QString& path) {
 
 QString frmApri::selectedStoredName() const {
     return selectedItem_.startsWith(QLatin1Char('\\')) ? selectedItem_.mid(1) : selectedItem_;
+}
+
+QStringList frmApri::selectedStoredNames() const {
+    // A search result is one entry; in the folder view, every selected entry.
+    if (!Trovati->isHidden() || !archiveLayout())
+        return selectedItem_.isEmpty() ? QStringList() : QStringList{selectedStoredName()};
+    QStringList names;
+    for (const QString& path : FileView1->selectedPaths()) {
+        const QString item = archiveItemOf(path);
+        if (!item.isEmpty())
+            names << (item.startsWith(QLatin1Char('\\')) ? item.mid(1) : item);
+    }
+    return names;
 }
 
 void frmApri::MsgNessuno() {

@@ -90,6 +90,8 @@ public:
     // The selected item as the engine stores it: a search result at the archive's root has a
     // selectedItem that begins with "\", which no stored name does.
     QString selectedStoredName() const;
+    // Every selected entry as the engine stores it (the entry menu's "Extract…" takes them all).
+    QStringList selectedStoredNames() const;
     // What the Add dialog takes as its source: a dropped file or folder while its dialog is
     // open, else the browser's selection.
     QString addSource() const;
@@ -165,6 +167,11 @@ private:
     void buildTaskPane();
     // The task pane's panels (details, operations, state) and the View menu.
     void buildPanels();
+    // The menu of the selected entries of an archive ("Open", "Extract…"), at `global`.
+    void buildEntryMenu();
+    void showEntryMenu(const QPoint& global);
+    // "Open" of the entry menu: a folder is shown, a file is extracted and run.
+    void openEntry();
     void pointBrowserAt(const QString& path);
     void onFolderChanged(const QString& folder);
     void onSelectionChanged();
@@ -208,6 +215,7 @@ private:
     QLabel* Stato = nullptr;
     QLabel* Consiglio = nullptr;
     QMenu* PopView = nullptr;
+    QMenu* entryMenu_ = nullptr;
 };
 
 } // namespace quovara

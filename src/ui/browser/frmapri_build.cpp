@@ -127,6 +127,7 @@ void frmApri::buildPanels() {
         connect(a, &QAction::triggered, this, [this, i] { PopViewChoose(i); });
     }
     PopView->actions()[3]->setChecked(true);
+    buildEntryMenu();
 }
 
 void frmApri::buildToolbar() {

@@ -26,8 +26,9 @@ void frmApri::showExtractDialog(bool forSelectedItem) {
                 hide();
         },
         this);
+    // Several selected entries become the patterns of "Only These Files", one after another.
     if (forSelectedItem)
-        dialog.presetItem(selectedStoredName());
+        dialog.presetItem(selectedStoredNames().join(QLatin1Char(',')));
     dialog.exec();
 }
 

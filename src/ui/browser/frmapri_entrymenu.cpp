@@ -1,0 +1,53 @@
+// The menu of the entries of an archive: a right click on an entry, the Menu key or Shift+F10.
+// "Open" does what a double click does (a folder is shown, a file extracted and run);
+// "Extract…" opens the Extract dialog for every selected entry. The View menu follows.
+#include "filebrowser.h"
+#include "frmapri.h"
+
+#include <QFileInfo>
+#include <QMenu>
+
+namespace quovara {
+
+void frmApri::buildEntryMenu() {
+    entryMenu_ = new QMenu(this);
+    entryMenu_->setObjectName(QStringLiteral("EntryMenu"));
+    entryMenu_->setAccessibleName(QStringLiteral("Entry"));
+    QAction* open = entryMenu_->addAction(QStringLiteral("&Open"));
+    open->setObjectName(QStringLiteral("EntryOpen"));
+    QAction* extract = entryMenu_->addAction(QStringLiteral("&Extract…"));
+    extract->setObjectName(QStringLiteral("EntryExtract"));
+    entryMenu_->addSeparator();
+    PopView->setTitle(QStringLiteral("&View"));
+    entryMenu_->addMenu(PopView);
+    connect(open, &QAction::triggered, this, &frmApri::openEntry);
+    connect(extract, &QAction::triggered, this, [this] {
+        if (selectedStoredNames().isEmpty())
+            MsgNessuno();
+        else
+            showExtractDialog(true);
+    });
+}
+
+void frmApri::showEntryMenu(const QPoint& global) {
+    entryMenu_->popup(global);
+    entryMenu_->setActiveAction(entryMenu_->actions().constFirst());
+}
+
+void frmApri::openEntry() {
+    const QString path = FileView1->selectedPath();
+    if (path.isEmpty()) {
+        MsgNessuno();
+        return;
+    }
+    if (QFileInfo(path).isDir()) {
+        FileView1->setFolder(path);
+        return;
+    }
+    if (selectedItem_.isEmpty())
+        MsgNessuno();
+    else
+        ExtractAndRun();
+}
+
+} // namespace quovara
