@@ -38,6 +38,14 @@ xdotool key Return
 sleep 3
 xdotool mousemove --window "$W" 600 400
 shot docs/main-archive.png
+# An entry's menu: Home selects the first entry, the Menu key opens its menu.
+xdotool key Home
+sleep 0.3
+xdotool key Menu
+sleep 0.8
+shot docs/main-entry-menu.png
+xdotool key Escape
+sleep 0.3
 # Search the archive: type into the task pane's search box and press Enter.
 xdotool mousemove --window "$W" 110 281 click 1
 sleep 0.3

@@ -144,3 +144,22 @@ TEST_F(EntryMenu, AwayFromTheEntriesAndOutsideAnArchiveTheViewMenuOpens) {
     EXPECT_EQ(shownMenu()->objectName(), "PopView");
     QTest::keyClick(shownMenu(), Qt::Key_Escape);
 }
+
+TEST_F(EntryMenu, FromTheKeyboardTheMenuIsForTheItemWithTheFocusFrame) {
+    openArchive();
+    // The list takes the focus: its first item shows the focus frame without being selected.
+    window_.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window_));
+    view()->setFocus();
+    ASSERT_TRUE(waitFor([&] {
+        return view()->currentIndex().isValid() &&
+               view()->currentIndex().parent() == view()->rootIndex();
+    }));
+    ASSERT_TRUE(window_.fileView()->selectedPath().isEmpty());
+    QTest::keyClick(view(), Qt::Key_F10, Qt::ShiftModifier);
+    ASSERT_NE(shownMenu(), nullptr);
+    EXPECT_EQ(shownMenu()->objectName(), "EntryMenu");
+    EXPECT_FALSE(window_.fileView()->selectedPath().isEmpty());
+    choose(1);
+    EXPECT_EQ(apri().opened, QStringList({"extract selected"}));
+}

@@ -173,10 +173,14 @@ void FileBrowser::requestMenu(QAbstractItemView* view, const QPoint* pos) {
             view->selectionModel()->setCurrentIndex(item, QItemSelectionModel::ClearAndSelect |
                                                               QItemSelectionModel::Rows);
     } else {
-        // From the keyboard: at the current item when it is selected, else at the top left.
+        // From the keyboard: at the item with the focus frame (selected now if it was not),
+        // else at the top left.
         const QModelIndex current = view->currentIndex();
-        if (current.isValid() && view->selectionModel()->isSelected(current)) {
+        if (current.isValid() && current.parent() == view->rootIndex()) {
             item = current;
+            if (!view->selectionModel()->isSelected(current))
+                view->selectionModel()->setCurrentIndex(
+                    current, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
             at = view->visualRect(current).center();
         } else {
             at = QPoint(8, 8);
