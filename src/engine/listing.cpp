@@ -153,8 +153,15 @@ public:
                 totalsLines_ << text;
             return;
         }
-        if (pass_.lines <= 9 || (pass_.lines - 10) % 2 != 0)
+        if (pass_.lines <= 9)
             return;
+        if ((pass_.lines - 10) % 2 != 0) {
+            // The detail line of the entry just placed.
+            if (!pendingShown_.isEmpty())
+                details_->add(pendingShown_, ParseDetailLine(text));
+            pendingShown_.clear();
+            return;
+        }
         const QString name = EntryName(text);
         if (name == separator_) {
             separatorSeen_ = true;
@@ -163,7 +170,7 @@ public:
         // A log that holds an engine error lists nothing: its lines are no entries, and the
         // count of entries read stays honest (nothing is read while a password is asked for).
         if (pass_.treeProblem.isEmpty() && pass_.error.isEmpty()) {
-            writer_.placeEntry(name);
+            pendingShown_ = writer_.placeEntry(name);
             if (!writer_.failure().isEmpty())
                 pass_.treeProblem = writer_.failure();
             if (entries_)
@@ -180,6 +187,8 @@ public:
         }
         pass_.treeComplete = pass_.treeProblem.isEmpty();
         pass_.aliases = writer_.aliases();
+        details_->finish();
+        pass_.details = std::move(details_);
         QStringList tail(9);
         tail << separator_ << totalsLines_;
         pass_.totals = ReadTotals(tail);
@@ -190,6 +199,9 @@ private:
     MirrorWriter writer_;
     const QString separator_;
     std::atomic<qint64>* entries_;
+    std::shared_ptr<ArchiveDetails> details_ = std::make_shared<ArchiveDetails>();
+    // Where the last entry line's entry is shown, until its detail line comes.
+    QString pendingShown_;
     bool versionRequest_ = false;
     bool separatorSeen_ = false;
     QStringList totalsLines_;
@@ -457,8 +469,10 @@ ListStatus ArchiveLister::FileInArchivio(const QString& selectedPath) {
                 });
                 if (!replaced)
                     problem = QStringLiteral("it cannot replace the previous folder view");
-                else
+                else {
                     shownAliases_ = pass_.aliases;
+                    shownDetails_ = pass_.details;
+                }
             }
             if (!problem.isEmpty()) {
                 // No partial tree: the one shown before stays as it was.

@@ -4,6 +4,7 @@
 // be browsed as ordinary folders and files.
 #pragma once
 
+#include "entrydetails.h"
 #include "mirroraliases.h"
 #include "versionswitch.h"
 
@@ -13,6 +14,7 @@
 #include <QString>
 #include <QStringList>
 #include <atomic>
+#include <memory>
 #include <optional>
 
 namespace quovara {
@@ -98,6 +100,9 @@ struct ListingPass {
     qint64 lines = 0;
     // Entries shown under another name than stored (the file system could not hold theirs).
     MirrorAliases aliases;
+    // Every placed entry's details, under the path it is shown at; set once the separator is
+    // reached.
+    std::shared_ptr<const ArchiveDetails> details;
 };
 // `stop` (when given) is looked at between lines: once it is set, the pass ends, incomplete.
 // `entries` (when given) counts the entries placed so far, for a progress display; both may be
@@ -161,6 +166,8 @@ public:
 
     // The names of the tree shown now that differ from their stored names.
     const MirrorAliases& shownAliases() const { return shownAliases_; }
+    // The details of the entries of the tree shown now (null before the first listing).
+    std::shared_ptr<const ArchiveDetails> shownDetails() const { return shownDetails_; }
 
     // Why the last list job could not be started (empty when it started).
     QString startError() const { return startError_; }
@@ -175,6 +182,7 @@ private:
     QString startError_;
     ListingPass pass_;
     MirrorAliases shownAliases_;
+    std::shared_ptr<const ArchiveDetails> shownDetails_;
     bool cancelled_ = false;
     std::atomic<bool> stop_{false};
     std::atomic<qint64> entries_{0};

@@ -52,13 +52,14 @@ bool MirrorWriter::usable(const QString& component) {
            component != QLatin1String("..") && !component.contains(QChar(0));
 }
 
-void MirrorWriter::placeEntry(const QString& name) {
+QString MirrorWriter::placeEntry(const QString& name) {
     QString folder = sGivePath(name);
     if (Tipo(folder) == 1)
         folder = folder.mid(2);
     else if (folder.size() == 2 && folder[1] == QLatin1Char(':'))
         folder.clear(); // an entry at a drive's root ("C:\a.txt") lands at the root
-    placeholder(makeFolder(folder), sGiveFile(name));
+    const QString shown = placeholder(makeFolder(folder), sGiveFile(name));
+    return shown.isEmpty() ? shown : joined(lastShown_, shown);
 }
 
 QByteArray MirrorWriter::makeFolder(const QString& folder) {
@@ -106,7 +107,7 @@ QByteArray MirrorWriter::makeFolder(const QString& folder) {
     return current;
 }
 
-void MirrorWriter::placeholder(const QByteArray& folder, const QString& file) {
+QString MirrorWriter::placeholder(const QByteArray& folder, const QString& file) {
     // The name may still hold separators ("\c.txt"): only its last usable part counts.
     QString name;
     if (!file.contains(QLatin1Char('\\')) && !file.contains(QLatin1Char('/'))) {
@@ -121,7 +122,7 @@ void MirrorWriter::placeholder(const QByteArray& folder, const QString& file) {
         }
     }
     if (name.isEmpty() || folder.isEmpty())
-        return;
+        return QString();
 #ifdef Q_OS_UNIX
     // Made relative to the open folder: one look-up of the name, not of the whole path, and
     // nothing between the root and the folder can be swapped under us.
@@ -144,18 +145,22 @@ void MirrorWriter::placeholder(const QByteArray& folder, const QString& file) {
     if (fd < 0) {
         qCDebug(lcListing) << "could not create placeholder" << folder + '/' + name.toUtf8();
         fail(error);
-        return;
+        return QString();
     }
     ::close(fd);
     if (shownName != name) {
         aliases_.add(joined(lastShown_, shownName), joined(lastStored_, name));
         qCDebug(lcListing) << "entry shown as" << shownName << "for" << name;
     }
+    return shownName;
 #else
     const QByteArray path = folder + '/' + QFile::encodeName(name);
     QFile f(QFile::decodeName(path));
-    if (!f.open(QIODevice::WriteOnly | QIODevice::Truncate))
+    if (!f.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
         qCDebug(lcListing) << "could not create placeholder" << path;
+        return QString();
+    }
+    return name;
 #endif
 }
 

@@ -28,14 +28,16 @@ public:
     const MirrorAliases& aliases() const { return aliases_; }
 
     // Places the entry `name` (its stored name, "\" or "/" between folders): its folders, then
-    // its placeholder. A drive and a drive's root are dropped.
-    void placeEntry(const QString& name);
+    // its placeholder. A drive and a drive's root are dropped. Returns the path the entry is
+    // shown at, relative to the root with "\" between folders; empty when it was not placed.
+    QString placeEntry(const QString& name);
 
     // Makes the folder path and returns its host path (empty when it cannot be made safely).
     // Entries of one folder follow each other in a listing: the last folder is remembered.
     QByteArray makeFolder(const QString& folder);
-    // Writes an empty placeholder named `file` into `folder` (a path makeFolder gave).
-    void placeholder(const QByteArray& folder, const QString& file);
+    // Writes an empty placeholder named `file` into `folder` (a path makeFolder gave) and
+    // returns the name it was given (empty when none could be written).
+    QString placeholder(const QByteArray& folder, const QString& file);
 
 private:
     static bool usable(const QString& component);

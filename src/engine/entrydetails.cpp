@@ -1,0 +1,221 @@
+#include "entrydetails.h"
+
+#include <QDate>
+#include <QTime>
+
+#include <algorithm>
+#include <cstring>
+
+namespace quovara {
+
+namespace {
+
+enum Flag : quint8 { HasSize = 1, HasDate = 2, HasTime = 4, HasCrc = 8 };
+
+bool allDigits(QStringView s) {
+    return !s.isEmpty() && std::all_of(s.begin(), s.end(), [](QChar c) {
+        return c >= QLatin1Char('0') && c <= QLatin1Char('9');
+    });
+}
+
+bool isHex8(QStringView s) {
+    return s.size() == 8 && std::all_of(s.begin(), s.end(), [](QChar c) {
+               return (c >= QLatin1Char('0') && c <= QLatin1Char('9')) ||
+                      (c >= QLatin1Char('A') && c <= QLatin1Char('F')) ||
+                      (c >= QLatin1Char('a') && c <= QLatin1Char('f'));
+           });
+}
+
+// "22-Nov-2026" as 20261122; empty for anything that is no real day.
+std::optional<quint32> readDate(QStringView s) {
+    static const char* const months[] = {"jan", "feb", "mar", "apr", "may", "jun",
+                                         "jul", "aug", "sep", "oct", "nov", "dec"};
+    const auto parts = s.split(QLatin1Char('-'));
+    if (parts.size() != 3 || !allDigits(parts[0]) || !allDigits(parts[2]) || parts[0].size() > 2 ||
+        parts[2].size() != 4)
+        return std::nullopt;
+    int month = 0;
+    for (int m = 0; m < 12; ++m)
+        if (parts[1].compare(QLatin1String(months[m]), Qt::CaseInsensitive) == 0)
+            month = m + 1;
+    const int day = parts[0].toInt();
+    const int year = parts[2].toInt();
+    if (month == 0 || !QDate(year, month, day).isValid())
+        return std::nullopt;
+    return quint32(year * 10000 + month * 100 + day);
+}
+
+// "14:28:18" as 142818.
+std::optional<quint32> readTime(QStringView s) {
+    const auto parts = s.split(QLatin1Char(':'));
+    if (parts.size() != 3)
+        return std::nullopt;
+    for (const auto& p : parts)
+        if (!allDigits(p) || p.size() > 2)
+            return std::nullopt;
+    const int h = parts[0].toInt(), m = parts[1].toInt(), sec = parts[2].toInt();
+    if (!QTime(h, m, sec).isValid())
+        return std::nullopt;
+    return quint32(h * 10000 + m * 100 + sec);
+}
+
+} // namespace
+
+QString EntryDetails::modifiedText() const {
+    // Written the same way in every language, as the listing's own order: year first.
+    QString text;
+    if (date)
+        text = QStringLiteral("%1-%2-%3")
+                   .arg(*date / 10000, 4, 10, QLatin1Char('0'))
+                   .arg(*date / 100 % 100, 2, 10, QLatin1Char('0'))
+                   .arg(*date % 100, 2, 10, QLatin1Char('0'));
+    if (time) {
+        if (!text.isEmpty())
+            text += QLatin1Char(' ');
+        text += QStringLiteral("%1:%2:%3")
+                    .arg(*time / 10000, 2, 10, QLatin1Char('0'))
+                    .arg(*time / 100 % 100, 2, 10, QLatin1Char('0'))
+                    .arg(*time % 100, 2, 10, QLatin1Char('0'));
+    }
+    return text;
+}
+
+QString EntryDetails::crcText() const {
+    return crc ? QStringLiteral("%1").arg(*crc, 8, 16, QLatin1Char('0')).toUpper() : QString();
+}
+
+EntryDetails ParseDetailLine(QStringView line) {
+    EntryDetails d;
+    const auto fields = line.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    qsizetype i = 0;
+    if (i < fields.size() && allDigits(fields[i])) {
+        bool ok = false;
+        const quint64 size = fields[i].toULongLong(&ok);
+        if (ok)
+            d.size = size;
+        ++i; // a size beyond 64 bits is read as none, and the rest still is
+    }
+    if (i < fields.size() && fields[i].count(QLatin1Char('-')) == 2 &&
+        !fields[i].startsWith(QLatin1Char('-'))) {
+        d.date = readDate(fields[i]);
+        ++i;
+    }
+    if (i < fields.size() && fields[i].contains(QLatin1Char(':'))) {
+        d.time = readTime(fields[i]);
+        ++i;
+    }
+    for (; i < fields.size(); ++i) {
+        if (!d.crc && isHex8(fields[i]))
+            d.crc = fields[i].toUInt(nullptr, 16);
+        else if (d.attributes.isEmpty())
+            d.attributes = fields[i].left(8).toString();
+    }
+    return d;
+}
+
+quint64 ArchiveDetails::hashOf(QStringView path) {
+    // FNV-1a over the UTF-16 units.
+    quint64 h = 14695981039346656037ull;
+    for (const QChar c : path) {
+        h ^= c.unicode();
+        h *= 1099511628211ull;
+    }
+    return h;
+}
+
+void ArchiveDetails::add(QStringView path, const EntryDetails& d) {
+    Q_ASSERT(!finished_);
+    Packed p{};
+    p.flags = quint8((d.size ? HasSize : 0) | (d.date ? HasDate : 0) | (d.time ? HasTime : 0) |
+                     (d.crc ? HasCrc : 0));
+    p.size = d.size.value_or(0);
+    p.date = d.date.value_or(0);
+    p.time = d.time.value_or(0);
+    p.crc = d.crc.value_or(0);
+    const QByteArray attributes = d.attributes.left(8).toLatin1();
+    std::memcpy(p.attributes, attributes.constData(), size_t(attributes.size()));
+    index_.emplace_back(hashOf(path), quint32(entries_.size()));
+    entries_.push_back(p);
+
+    // The entry counts in its folder; a folder met for the first time counts in its own.
+    QStringView child = path;
+    for (;;) {
+        const qsizetype cut = child.lastIndexOf(QLatin1Char('\\'));
+        const QStringView parent = cut < 0 ? QStringView() : child.left(cut);
+        const quint64 h = hashOf(parent);
+        auto slot = folderSlots_.constFind(h);
+        const bool known = slot != folderSlots_.cend();
+        if (!known) {
+            slot = folderSlots_.insert(h, quint32(folders_.size()));
+            folders_.emplace_back(h, 0);
+        }
+        ++folders_[*slot].second;
+        if (known || cut < 0)
+            break;
+        child = parent;
+    }
+}
+
+void ArchiveDetails::finish() {
+    if (finished_)
+        return;
+    finished_ = true;
+    folderSlots_ = {};
+    auto byHash = [](const Slot& a, const Slot& b) { return a.first < b.first; };
+    std::stable_sort(index_.begin(), index_.end(), byHash);
+    // A path listed twice keeps its last line: of each run of equal hashes, the last stays.
+    std::vector<Slot> unique;
+    unique.reserve(index_.size());
+    for (size_t i = 0; i < index_.size(); ++i)
+        if (i + 1 == index_.size() || index_[i + 1].first != index_[i].first)
+            unique.push_back(index_[i]);
+    index_ = std::move(unique);
+    std::sort(folders_.begin(), folders_.end(), byHash);
+    entries_.shrink_to_fit();
+    folders_.shrink_to_fit();
+}
+
+const ArchiveDetails::Slot* ArchiveDetails::find(const std::vector<Slot>& v, quint64 key) {
+    const auto it = std::lower_bound(v.begin(), v.end(), key,
+                                     [](const Slot& s, quint64 k) { return s.first < k; });
+    return it != v.end() && it->first == key ? &*it : nullptr;
+}
+
+EntryDetails ArchiveDetails::unpack(const Packed& p) {
+    EntryDetails d;
+    if (p.flags & HasSize)
+        d.size = p.size;
+    if (p.flags & HasDate)
+        d.date = p.date;
+    if (p.flags & HasTime)
+        d.time = p.time;
+    if (p.flags & HasCrc)
+        d.crc = p.crc;
+    d.attributes = QString::fromLatin1(p.attributes, qsizetype(strnlen(p.attributes, 8)));
+    return d;
+}
+
+std::optional<EntryDetails> ArchiveDetails::entry(QStringView path) const {
+    if (!finished_)
+        return std::nullopt;
+    const Slot* slot = find(index_, hashOf(path));
+    if (!slot)
+        return std::nullopt;
+    return unpack(entries_[slot->second]);
+}
+
+std::optional<int> ArchiveDetails::folderCount(QStringView path) const {
+    if (!finished_)
+        return std::nullopt;
+    const Slot* slot = find(folders_, hashOf(path));
+    if (!slot)
+        return std::nullopt;
+    return int(slot->second);
+}
+
+qsizetype ArchiveDetails::bytes() const {
+    return qsizetype(entries_.capacity() * sizeof(Packed) + index_.capacity() * sizeof(Slot) +
+                     folders_.capacity() * sizeof(Slot));
+}
+
+} // namespace quovara

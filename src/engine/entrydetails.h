@@ -1,0 +1,87 @@
+// The details of an archive's entries as its listing gives them: size, date and time,
+// attributes and CRC-32, under the entry's path in the mirror tree, and for every folder of the
+// tree how many entries it holds. Kept compact (about 50 bytes an entry; names are not kept, a
+// path is found by its 64-bit hash) so that a hundred thousand entries cost a few MiB. An entry
+// listed twice keeps the details of its last line.
+#pragma once
+
+#include <QHash>
+#include <QString>
+#include <QStringView>
+#include <QtGlobal>
+
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace quovara {
+
+// One entry's detail line, read as far as it can be read: a field that is missing or odd (a
+// size beyond 64 bits, a date like "00-Xxx-0000", no CRC) is left empty, the rest stays.
+struct EntryDetails {
+    std::optional<quint64> size;
+    // The date as yyyymmdd and the time as hhmmss; each empty when it does not read.
+    std::optional<quint32> date;
+    std::optional<quint32> time;
+    // The attribute letters as listed ("---A"); at most eight characters are kept.
+    QString attributes;
+    std::optional<quint32> crc;
+
+    // Date and time as one number, yyyymmddhhmmss, for sorting: an unreadable part counts as 0.
+    quint64 stamp() const { return quint64(date.value_or(0)) * 1000000u + time.value_or(0); }
+    // The date and time as the locale shows them; only the time when the date does not read.
+    QString modifiedText() const;
+    // "DE77F4CE", or empty.
+    QString crcText() const;
+};
+
+// Reads a detail line ("     10000  22-Nov-2026  14:28:18  ---A  DE77F4CE"): blank-separated
+// fields, size first, then whatever of date, time, attributes and CRC is there.
+EntryDetails ParseDetailLine(QStringView line);
+
+// The details of every entry of one listing, found by the entry's path in the mirror tree
+// ("a\b\c.txt", "\" between folders, as shown).
+class ArchiveDetails {
+public:
+    // Records `details` for the entry shown at `path`; its folders get counted.
+    void add(QStringView path, const EntryDetails& details);
+    // Ends the adding: afterwards the look-ups work. add() may not be called again.
+    void finish();
+
+    // The entry at `path`, or none.
+    std::optional<EntryDetails> entry(QStringView path) const;
+    // How many entries (files and folders) the folder at `path` holds directly; empty when the
+    // listing has no such folder. The root is "".
+    std::optional<int> folderCount(QStringView path) const;
+
+    qsizetype size() const { return qsizetype(entries_.size()); }
+    // Bytes held, roughly (for the memory figures).
+    qsizetype bytes() const;
+
+    static quint64 hashOf(QStringView path);
+
+private:
+    struct Packed {
+        quint64 size;
+        quint32 date;
+        quint32 time;
+        quint32 crc;
+        quint8 flags;
+        char attributes[8];
+    };
+    static EntryDetails unpack(const Packed& p);
+    using Slot = std::pair<quint64, quint32>;
+    // The slot of `key` in a vector sorted by hash, or null.
+    static const Slot* find(const std::vector<Slot>& v, quint64 key);
+
+    std::vector<Packed> entries_;
+    // (path hash, index into entries_), sorted by hash once finished.
+    std::vector<Slot> index_;
+    // (folder path hash, entries held), sorted by hash once finished.
+    std::vector<Slot> folders_;
+    // While adding: the folders met so far, by hash, with their place in folders_.
+    QHash<quint64, quint32> folderSlots_;
+    bool finished_ = false;
+};
+
+} // namespace quovara
