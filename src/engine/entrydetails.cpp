@@ -113,9 +113,9 @@ EntryDetails ParseDetailLine(QStringView line) {
     return d;
 }
 
-quint64 ArchiveDetails::hashOf(QStringView path) {
+quint64 ArchiveDetails::hashOf(QStringView path, quint64 start) {
     // FNV-1a over the UTF-16 units.
-    quint64 h = 14695981039346656037ull;
+    quint64 h = start;
     for (const QChar c : path) {
         h ^= c.unicode();
         h *= 1099511628211ull;
@@ -196,18 +196,26 @@ EntryDetails ArchiveDetails::unpack(const Packed& p) {
 }
 
 std::optional<EntryDetails> ArchiveDetails::entry(QStringView path) const {
+    return entryByHash(hashOf(path));
+}
+
+std::optional<EntryDetails> ArchiveDetails::entryByHash(quint64 hash) const {
     if (!finished_)
         return std::nullopt;
-    const Slot* slot = find(index_, hashOf(path));
+    const Slot* slot = find(index_, hash);
     if (!slot)
         return std::nullopt;
     return unpack(entries_[slot->second]);
 }
 
 std::optional<int> ArchiveDetails::folderCount(QStringView path) const {
+    return folderCountByHash(hashOf(path));
+}
+
+std::optional<int> ArchiveDetails::folderCountByHash(quint64 hash) const {
     if (!finished_)
         return std::nullopt;
-    const Slot* slot = find(folders_, hashOf(path));
+    const Slot* slot = find(folders_, hash);
     if (!slot)
         return std::nullopt;
     return int(slot->second);

@@ -58,7 +58,13 @@ public:
     // Bytes held, roughly (for the memory figures).
     qsizetype bytes() const;
 
-    static quint64 hashOf(QStringView path);
+    // The hash paths are found by. Hashing runs on: hashOf(b, hashOf(a)) is hashOf(a + b), so a
+    // folder's hash with its separator serves every name in it.
+    static constexpr quint64 kHashStart = 14695981039346656037ull;
+    static quint64 hashOf(QStringView path, quint64 start = kHashStart);
+    // The look-ups by a hash made with hashOf.
+    std::optional<EntryDetails> entryByHash(quint64 hash) const;
+    std::optional<int> folderCountByHash(quint64 hash) const;
 
 private:
     struct Packed {

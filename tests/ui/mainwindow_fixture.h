@@ -127,10 +127,9 @@ protected:
     // Clicks (or double-clicks) the browser's item `path` once the folder has been read.
     void clickItem(const QString& path, bool twice = false) {
         QAbstractItemView* view = window_.fileView()->currentView();
-        auto* model = static_cast<QFileSystemModel*>(view->model());
         QModelIndex index;
         ASSERT_TRUE(waitFor([&] {
-            index = model->index(path);
+            index = window_.fileView()->indexOf(path);
             return index.isValid() && !view->visualRect(index).isEmpty();
         })) << path.toStdString();
         const QPoint at = view->visualRect(index).center();

@@ -21,8 +21,7 @@ protected:
     }
     QAbstractItemView* view() { return window_.fileView()->currentView(); }
     QPoint pointOf(const QString& path) {
-        const auto* model = static_cast<QFileSystemModel*>(view()->model());
-        return view()->visualRect(model->index(path)).center();
+        return view()->visualRect(window_.fileView()->indexOf(path)).center();
     }
     void rightClick(const QPoint& at) {
         // A right click as the window system delivers it: press, then the menu event.

@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QFile>
+#include <QLocale>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -158,12 +160,50 @@ TEST(SearchResultsRows, ShowNameAndFolderUnderTheirCaptionsAndEmptyAgainWhenClea
     model.append({});
     EXPECT_EQ(inserted.count(), 1);
     ASSERT_EQ(model.rowCount(), 2);
-    EXPECT_EQ(model.columnCount(), 2);
+    EXPECT_EQ(model.columnCount(), 6);
     EXPECT_EQ(model.index(0, 0).data().toString(), "a.txt");
     EXPECT_EQ(model.index(0, 1).data().toString(), "x\\y");
     EXPECT_EQ(model.index(1, 1).data().toString(), "");
     EXPECT_FALSE(model.index(0, 0).data(Qt::DecorationRole).value<QIcon>().isNull());
     EXPECT_EQ(model.rowCount(model.index(0, 0)), 0);
+    // Without the archive's details the detail columns stay empty.
+    EXPECT_EQ(model.index(0, 2).data().toString(), "");
     model.clear();
     EXPECT_EQ(model.rowCount(), 0);
+}
+
+TEST(SearchResultsRows, ShowTheDetailsOfEachFoundEntryUnderTheReportViewsCaptions) {
+    // Sizes are written as the user's language writes numbers: English here.
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    auto restore = qScopeGuard([&] { QLocale::setDefault(before); });
+    SearchResults model;
+    QStringList captions;
+    for (int c = 0; c < model.columnCount(); ++c)
+        captions << model.headerData(c, Qt::Horizontal, Qt::DisplayRole).toString();
+    EXPECT_EQ(captions,
+              QStringList({"File Name", "File Path", "Size", "Modified", "Attributes", "CRC-32"}));
+    auto details = std::make_shared<ArchiveDetails>();
+    details->add(u"x\\y\\a.txt",
+                 ParseDetailLine(u"  20480  02-Mar-2021  09:08:07  ---A  0BADF00D"));
+    details->add(u"b.doc", ParseDetailLine(u"  7  00-Xxx-0000  25:61:99"));
+    details->finish();
+    model.setDetails(details);
+    model.append({{"a.txt", "x\\y"}, {"b.doc", ""}, {"gone.txt", ""}});
+    auto cell = [&](int row, int column, int role = Qt::DisplayRole) {
+        return model.index(row, column).data(role).toString();
+    };
+    EXPECT_EQ(cell(0, 2), "20.0 KB");
+    EXPECT_EQ(cell(0, 2, Qt::ToolTipRole), "20,480 bytes");
+    EXPECT_EQ(cell(0, 3), "2021-03-02 09:08:07");
+    EXPECT_EQ(cell(0, 4), "---A");
+    EXPECT_EQ(cell(0, 5), "0BADF00D");
+    // Odd details: what reads is shown, the rest stays empty.
+    EXPECT_EQ(cell(1, 2), "7 bytes");
+    EXPECT_EQ(cell(1, 3), "");
+    EXPECT_EQ(cell(1, 5), "");
+    // A hit the listing does not know has no details.
+    EXPECT_EQ(cell(2, 2), "");
+    EXPECT_EQ(model.index(0, 2).data(Qt::TextAlignmentRole).toInt(),
+              int(Qt::AlignRight | Qt::AlignVCenter));
 }

@@ -1,5 +1,6 @@
 #include "filebrowser.h"
 
+#include "detailsmodel.h"
 #include "fileicons.h"
 #include "focusframe.h"
 
@@ -47,13 +48,17 @@ FileBrowser::FileBrowser(QWidget* parent) : QWidget(parent) {
         v->viewport()->installEventFilter(this);
         v->installEventFilter(this);
         connect(v, &QAbstractItemView::activated, this, &FileBrowser::onActivated);
-        connect(v->selectionModel(), &QItemSelectionModel::currentChanged, this,
-                &FileBrowser::selectionChanged);
-        connect(v->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-                &FileBrowser::selectionChanged);
+        watchSelection(v);
         // The pointer becomes a hand over an item that can be opened.
         connect(v, &QAbstractItemView::entered, this, [v] { SetHandCursor(v->viewport(), true); });
     }
+    details_ = new DetailsModel(model_, this);
+    // A sort of the file system's columns leaves the file model out of names' order.
+    connect(tree_->header(), &QHeaderView::sortIndicatorChanged, this,
+            [this](int column, Qt::SortOrder order) {
+                if (tree_->model() == model_)
+                    namesInOrder_ = column == 0 && order == Qt::AscendingOrder;
+            });
     list_->setAccessibleName(QStringLiteral("Files"));
     tree_->setAccessibleName(QStringLiteral("Files"));
     stack_ = new QStackedWidget(this);
@@ -78,6 +83,67 @@ FileBrowser::FileBrowser(QWidget* parent) : QWidget(parent) {
     setViewMode(List);
 }
 
+void FileBrowser::watchSelection(QAbstractItemView* view) {
+    connect(view->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            &FileBrowser::selectionChanged);
+    connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &FileBrowser::selectionChanged);
+}
+
+QModelIndex FileBrowser::sourceOf(const QModelIndex& index) const {
+    return index.model() == details_ ? details_->toSource(index) : index;
+}
+
+QModelIndex FileBrowser::viewIndexOf(const QAbstractItemView* view,
+                                     const QModelIndex& source) const {
+    return view->model() == details_ ? details_->fromSource(source) : source;
+}
+
+QModelIndex FileBrowser::indexOf(const QString& path) const {
+    return viewIndexOf(currentView(), model_->index(path));
+}
+
+bool FileBrowser::showsArchiveDetails() const {
+    return tree_->model() == details_;
+}
+
+void FileBrowser::setArchiveDetails(std::shared_ptr<const ArchiveDetails> details,
+                                    const QString& treeRoot) {
+    const QString selected = selectedPath();
+    const bool on = details != nullptr;
+    if (on && !namesInOrder_) {
+        model_->sort(0, Qt::AscendingOrder);
+        namesInOrder_ = true;
+    }
+    details_->setDetails(std::move(details), QDir::cleanPath(treeRoot));
+    if (on != showsArchiveDetails()) {
+        QItemSelectionModel* old = tree_->selectionModel();
+        tree_->setModel(on ? static_cast<QAbstractItemModel*>(details_) : model_);
+        delete old;
+        watchSelection(tree_);
+        // Each archive starts in names' order, and so does the file system after one.
+        tree_->sortByColumn(0, Qt::AscendingOrder);
+        const QModelIndex root = model_->index(folder_);
+        if (on) {
+            details_->setFolder(root);
+            tree_->setRootIndex(QModelIndex());
+            tree_->header()->setSectionResizeMode(DetailsModel::Name, QHeaderView::Stretch);
+            tree_->header()->setStretchLastSection(false);
+            tree_->setColumnWidth(DetailsModel::Size, 80);
+            tree_->setColumnWidth(DetailsModel::Modified, 140);
+            tree_->setColumnWidth(DetailsModel::Attributes, 70);
+            tree_->setColumnWidth(DetailsModel::Crc, 80);
+        } else {
+            tree_->setRootIndex(root);
+            tree_->header()->setStretchLastSection(true);
+        }
+    } else if (on) {
+        tree_->sortByColumn(0, Qt::AscendingOrder);
+    }
+    if (!selected.isEmpty())
+        selectFile(QFileInfo(selected).fileName());
+}
+
 QAbstractItemView* FileBrowser::currentView() const {
     return mode_ == Report ? static_cast<QAbstractItemView*>(tree_) : list_;
 }
@@ -96,7 +162,10 @@ void FileBrowser::showFolder(const QString& path) {
     pendingSelection_.clear();
     const QModelIndex root = model_->setRootPath(path);
     list_->setRootIndex(root);
-    tree_->setRootIndex(root);
+    if (showsArchiveDetails())
+        details_->setFolder(root);
+    else
+        tree_->setRootIndex(root);
     list_->clearSelection();
     tree_->clearSelection();
     emit folderChanged(folder_);
@@ -118,11 +187,14 @@ void FileBrowser::selectFile(const QString& name) {
 void FileBrowser::applySelection() {
     if (pendingSelection_.isEmpty())
         return;
-    const QModelIndex index = model_->index(QDir(folder_).filePath(pendingSelection_));
-    if (!index.isValid())
+    const QModelIndex source = model_->index(QDir(folder_).filePath(pendingSelection_));
+    if (!source.isValid())
         return;
     for (QAbstractItemView* v :
          {static_cast<QAbstractItemView*>(list_), static_cast<QAbstractItemView*>(tree_)}) {
+        const QModelIndex index = viewIndexOf(v, source);
+        if (!index.isValid())
+            continue;
         v->selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect |
                                                         QItemSelectionModel::Rows);
         v->scrollTo(index);
@@ -135,11 +207,11 @@ QString FileBrowser::selectedPath() const {
     const QItemSelectionModel* selection = currentView()->selectionModel();
     const QModelIndex current = selection->currentIndex();
     if (current.isValid() && selection->isSelected(current))
-        return QDir::toNativeSeparators(model_->filePath(current));
+        return QDir::toNativeSeparators(model_->filePath(sourceOf(current)));
     const QModelIndexList rows = selection->selectedIndexes();
     if (rows.isEmpty())
         return QString();
-    return QDir::toNativeSeparators(model_->filePath(rows.first()));
+    return QDir::toNativeSeparators(model_->filePath(sourceOf(rows.first())));
 }
 
 QStringList FileBrowser::selectedPaths() const {
@@ -151,7 +223,7 @@ QStringList FileBrowser::selectedPaths() const {
     std::sort(rows.begin(), rows.end());
     QStringList paths;
     for (const QModelIndex& row : rows)
-        paths << QDir::toNativeSeparators(model_->filePath(row));
+        paths << QDir::toNativeSeparators(model_->filePath(sourceOf(row)));
     return paths;
 }
 
@@ -240,7 +312,7 @@ void FileBrowser::setViewMode(int mode) {
     // A list view's mode brings its own drag settings: ours are put back.
     setDragOut(dragOut_);
     stack_->setCurrentWidget(mode_ == Report ? static_cast<QWidget*>(tree_) : list_);
-    if (mode_ == Report)
+    if (mode_ == Report && !showsArchiveDetails())
         tree_->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     setFocusProxy(currentView());
     if (!selected.isEmpty())
@@ -248,10 +320,11 @@ void FileBrowser::setViewMode(int mode) {
 }
 
 void FileBrowser::onActivated(const QModelIndex& index) {
-    if (!index.isValid())
+    const QModelIndex source = sourceOf(index);
+    if (!source.isValid())
         return;
-    const QString path = model_->filePath(index);
-    if (model_->isDir(index)) {
+    const QString path = model_->filePath(source);
+    if (model_->isDir(source)) {
         setFolder(path);
         return;
     }
@@ -265,7 +338,7 @@ void FileBrowser::showFocusItem(QAbstractItemView* view) {
     const QModelIndex current = view->currentIndex();
     if (current.isValid() && current.parent() == view->rootIndex())
         return;
-    const QModelIndex first = model_->index(0, 0, view->rootIndex());
+    const QModelIndex first = view->model()->index(0, 0, view->rootIndex());
     if (first.isValid())
         view->selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
 }

@@ -6,6 +6,8 @@
 #include <QStringList>
 #include <QWidget>
 
+#include <memory>
+
 class QFileSystemModel;
 class QListView;
 class QTreeView;
@@ -14,6 +16,9 @@ class QAbstractItemView;
 class QModelIndex;
 
 namespace quovara {
+
+class ArchiveDetails;
+class DetailsModel;
 
 class FileBrowser : public QWidget {
     Q_OBJECT
@@ -45,12 +50,21 @@ public:
     void setDragOut(bool allowed);
     bool dragOut() const { return dragOut_; }
 
+    // Inside an archive the Report view shows the entries' details from its listing (their
+    // columns and order of its own); null goes back to the file system's columns. `treeRoot`
+    // is the mirror tree's root folder, which the details' paths are relative to.
+    void setArchiveDetails(std::shared_ptr<const ArchiveDetails> details, const QString& treeRoot);
+    bool showsArchiveDetails() const;
+    DetailsModel* detailsModel() const { return details_; }
+
     void setViewMode(int mode);
     int viewMode() const { return mode_; }
     // Goes back to the previous folder of the history (false when there is none).
     bool back();
 
     QAbstractItemView* currentView() const;
+    // The current view's index of the item at `path` (invalid while it is not read or shown).
+    QModelIndex indexOf(const QString& path) const;
 
 signals:
     void folderChanged(const QString& folder);
@@ -65,6 +79,10 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    // The file model's index of a view's index, and a view's index of the file model's.
+    QModelIndex sourceOf(const QModelIndex& index) const;
+    QModelIndex viewIndexOf(const QAbstractItemView* view, const QModelIndex& source) const;
+    void watchSelection(QAbstractItemView* view);
     void showFolder(const QString& path);
     void applySelection();
     void onActivated(const QModelIndex& index);
@@ -73,6 +91,9 @@ private:
     void requestMenu(QAbstractItemView* view, const QPoint* pos);
 
     QFileSystemModel* model_;
+    DetailsModel* details_;
+    // The file model is in names' order (the details take their name order from it).
+    bool namesInOrder_ = true;
     QStackedWidget* stack_;
     bool dragOut_ = true;
     QListView* list_;

@@ -272,7 +272,9 @@ void frmApri::Uha() {
     Barra->show();
     FileView1->setShowHidden(true);
     FileView1->setMultiSelection(true);
-    PopView->actions()[1]->setEnabled(false);
+    // The Report view shows the entries' details from the listing.
+    FileView1->setArchiveDetails(lister_.shownDetails(), ScratchFolder());
+    results_->setDetails(lister_.shownDetails());
 }
 
 QString frmApri::titleWith(const QString& head) const {
@@ -285,7 +287,8 @@ void frmApri::NoUha() {
     Barra->hide();
     FileView1->setShowHidden(false);
     FileView1->setMultiSelection(false);
-    PopView->actions()[1]->setEnabled(true);
+    FileView1->setArchiveDetails(nullptr, QString());
+    results_->setDetails(nullptr);
 }
 
 bool frmApri::insideScratchFolder(const QString& folder) const {

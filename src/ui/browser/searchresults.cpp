@@ -1,5 +1,6 @@
 #include "searchresults.h"
 
+#include "detailsmodel.h"
 #include "fileicons.h"
 
 #include <QAbstractFileIconProvider>
@@ -29,13 +30,30 @@ int SearchResults::rowCount(const QModelIndex& parent) const {
 }
 
 int SearchResults::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : 2;
+    return parent.isValid() ? 0 : 6;
+}
+
+void SearchResults::setDetails(std::shared_ptr<const ArchiveDetails> details) {
+    beginResetModel();
+    details_ = std::move(details);
+    endResetModel();
 }
 
 QVariant SearchResults::data(const QModelIndex& index, int role) const {
     if (!index.isValid() || index.row() >= rows_.size())
         return QVariant();
     const SearchHit& hit = rows_.at(index.row());
+    if (index.column() >= 2) {
+        // Size, Modified, Attributes and CRC-32, as the Report view shows them.
+        if (!details_)
+            return QVariant();
+        const QString path = hit.archiveFolder.isEmpty()
+                                 ? hit.name
+                                 : hit.archiveFolder + QLatin1Char('\\') + hit.name;
+        const auto entry = details_->entry(path);
+        return entry ? details_cell::data(&*entry, std::nullopt, index.column() - 1, role)
+                     : QVariant();
+    }
     if (role == Qt::DisplayRole)
         return index.column() == 0 ? hit.name : hit.archiveFolder;
     if (role == Qt::DecorationRole && index.column() == 0)
@@ -50,7 +68,7 @@ QVariant SearchResults::headerData(int section, Qt::Orientation orientation, int
         return QStringLiteral("File Name");
     if (section == 1)
         return QStringLiteral("File Path");
-    return QVariant();
+    return details_cell::header(section - 1);
 }
 
 QIcon SearchResults::iconFor(const QString& name) const {

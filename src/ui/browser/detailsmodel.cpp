@@ -1,0 +1,363 @@
+#include "detailsmodel.h"
+
+#include <QFileSystemModel>
+#include <QLocale>
+#include <QMimeData>
+#include <QTimer>
+
+#include <algorithm>
+
+namespace quovara {
+
+namespace details_cell {
+
+QString sizeText(quint64 bytes) {
+    if (bytes == 1)
+        return QStringLiteral("1 byte");
+    if (bytes < 1024)
+        return QStringLiteral("%1 bytes").arg(bytes);
+    // Steps of 1024 with one decimal, as file managers have long written them.
+    static const char* const units[] = {"KB", "MB", "GB", "TB", "PB", "EB"};
+    double value = double(bytes) / 1024.0;
+    int unit = 0;
+    while (value >= 1024.0 && unit < 5) {
+        value /= 1024.0;
+        ++unit;
+    }
+    return QLocale().toString(value, 'f', 1) + QLatin1Char(' ') + QLatin1String(units[unit]);
+}
+
+QString sizeToolTip(quint64 bytes) {
+    return QLocale().toString(qulonglong(bytes)) +
+           (bytes == 1 ? QStringLiteral(" byte") : QStringLiteral(" bytes"));
+}
+
+QString countText(int entries) {
+    return entries == 1 ? QStringLiteral("1 item") : QStringLiteral("%1 items").arg(entries);
+}
+
+QVariant data(const EntryDetails* entry, std::optional<int> count, int column, int role) {
+    if (role == Qt::TextAlignmentRole)
+        return column == DetailsModel::Size ? QVariant(Qt::AlignRight | Qt::AlignVCenter)
+                                            : QVariant(Qt::AlignLeft | Qt::AlignVCenter);
+    if (role != Qt::DisplayRole && role != Qt::ToolTipRole)
+        return {};
+    if (!entry) {
+        if (column == DetailsModel::Size && count && role == Qt::DisplayRole)
+            return countText(*count);
+        return {};
+    }
+    switch (column) {
+    case DetailsModel::Size:
+        if (!entry->size)
+            return {};
+        return role == Qt::DisplayRole ? sizeText(*entry->size) : sizeToolTip(*entry->size);
+    case DetailsModel::Modified:
+        return role == Qt::DisplayRole ? entry->modifiedText() : QVariant();
+    case DetailsModel::Attributes:
+        return role == Qt::DisplayRole ? entry->attributes : QVariant();
+    case DetailsModel::Crc:
+        return role == Qt::DisplayRole ? entry->crcText() : QVariant();
+    default:
+        return {};
+    }
+}
+
+QString header(int column) {
+    switch (column) {
+    case DetailsModel::Name:
+        return QStringLiteral("Name");
+    case DetailsModel::Size:
+        return QStringLiteral("Size");
+    case DetailsModel::Modified:
+        return QStringLiteral("Modified");
+    case DetailsModel::Attributes:
+        return QStringLiteral("Attributes");
+    case DetailsModel::Crc:
+        return QStringLiteral("CRC-32");
+    default:
+        return QString();
+    }
+}
+
+} // namespace details_cell
+
+DetailsModel::DetailsModel(QFileSystemModel* files, QObject* parent)
+    : QAbstractTableModel(parent), files_(files), pendingOrder_(new QTimer(this)) {
+    // Rows read in many batches are put in order once, after the last.
+    pendingOrder_->setSingleShot(true);
+    pendingOrder_->setInterval(0);
+    connect(pendingOrder_, &QTimer::timeout, this, [this] {
+        beginRelayout();
+        endRelayout();
+    });
+    connect(files_, &QAbstractItemModel::rowsInserted, this,
+            [this](const QModelIndex& parent, int first, int last) {
+                if (!folder_.isValid() || parent != folder_)
+                    return;
+                // New rows go at the end at once, and into their places with the next change
+                // of order (the file model sorts what it has read, and so do we).
+                const int count = last - first + 1;
+                for (int& row : rows_)
+                    if (row >= first)
+                        row += count;
+                const int at = int(rows_.size());
+                beginInsertRows(QModelIndex(), at, at + count - 1);
+                for (int row = first; row <= last; ++row)
+                    rows_.push_back(row);
+                rebuildInverse();
+                endInsertRows();
+                pendingOrder_->start();
+            });
+    connect(files_, &QAbstractItemModel::rowsAboutToBeRemoved, this,
+            [this](const QModelIndex& parent) {
+                if (folder_.isValid() && parent == folder_)
+                    beginResetModel();
+            });
+    connect(files_, &QAbstractItemModel::rowsRemoved, this, [this](const QModelIndex& parent) {
+        if (!folder_.isValid() || parent != folder_)
+            return;
+        rebuild();
+        endResetModel();
+    });
+    connect(files_, &QAbstractItemModel::layoutAboutToBeChanged, this,
+            &DetailsModel::beginRelayout);
+    connect(files_, &QAbstractItemModel::layoutChanged, this, &DetailsModel::endRelayout);
+    connect(files_, &QAbstractItemModel::modelAboutToBeReset, this, &DetailsModel::beginResetModel);
+    connect(files_, &QAbstractItemModel::modelReset, this, [this] {
+        rebuild();
+        endResetModel();
+    });
+    connect(files_, &QAbstractItemModel::dataChanged, this, [this](const QModelIndex& topLeft) {
+        if (folder_.isValid() && topLeft.parent() == folder_ && !rows_.empty())
+            emit dataChanged(index(0, 0), index(int(rows_.size()) - 1, ColumnCount - 1));
+    });
+}
+
+void DetailsModel::setDetails(std::shared_ptr<const ArchiveDetails> details,
+                              const QString& treeRoot) {
+    beginResetModel();
+    details_ = std::move(details);
+    treeRoot_ = treeRoot;
+    const QModelIndex folder = folder_;
+    folder_ = QPersistentModelIndex();
+    endResetModel();
+    setFolder(folder);
+}
+
+void DetailsModel::setFolder(const QModelIndex& folder) {
+    beginResetModel();
+    folder_ = folder;
+    folderHash_ = ArchiveDetails::kHashStart;
+    const QString path = files_->filePath(folder);
+    if (!treeRoot_.isEmpty() && path.startsWith(treeRoot_ + QLatin1Char('/'))) {
+        QString inside = path.mid(treeRoot_.size() + 1);
+        inside.replace(QLatin1Char('/'), QLatin1Char('\\'));
+        folderHash_ = ArchiveDetails::hashOf(inside + QLatin1Char('\\'));
+    }
+    rebuild();
+    endResetModel();
+}
+
+quint64 DetailsModel::hashOfRow(int sourceRow) const {
+    return ArchiveDetails::hashOf(files_->fileName(files_->index(sourceRow, 0, folder_)),
+                                  folderHash_);
+}
+
+std::vector<int> DetailsModel::sortedRows() const {
+    const int count = folder_.isValid() ? files_->rowCount(folder_) : 0;
+    struct Item {
+        quint64 key;
+        int row;
+        bool folder;
+    };
+    std::vector<Item> items(size_t(std::max(count, 0)));
+    for (int row = 0; row < count; ++row) {
+        Item& item = items[size_t(row)];
+        item.row = row;
+        item.folder = files_->isDir(files_->index(row, 0, folder_));
+        item.key = 0;
+        if (sortColumn_ == Name || !details_)
+            continue; // the file model's order is the names' order
+        const quint64 hash = hashOfRow(row);
+        if (item.folder) {
+            if (sortColumn_ == Size)
+                item.key = quint64(details_->folderCountByHash(hash).value_or(0));
+            continue;
+        }
+        const auto entry = details_->entryByHash(hash);
+        if (!entry)
+            continue;
+        // Something unknown sorts before everything known.
+        switch (sortColumn_) {
+        case Size:
+            if (entry->size)
+                item.key = std::min<quint64>(*entry->size, ~quint64(0) - 1) + 1;
+            break;
+        case Modified:
+            item.key = entry->stamp();
+            break;
+        case Attributes: {
+            const QByteArray letters = entry->attributes.toLatin1().leftJustified(8, '\0');
+            for (const char c : letters)
+                item.key = (item.key << 8) | quint8(c);
+            break;
+        }
+        case Crc:
+            if (entry->crc)
+                item.key = quint64(*entry->crc) + 1;
+            break;
+        default:
+            break;
+        }
+    }
+    const bool descending = sortOrder_ == Qt::DescendingOrder;
+    std::sort(items.begin(), items.end(), [&](const Item& a, const Item& b) {
+        if (a.folder != b.folder)
+            return a.folder; // folders first, in both orders
+        const quint64 ka = sortColumn_ == Name ? quint64(a.row) : a.key;
+        const quint64 kb = sortColumn_ == Name ? quint64(b.row) : b.key;
+        if (ka != kb)
+            return descending ? ka > kb : ka < kb;
+        return a.row < b.row; // equal keys: by name
+    });
+    std::vector<int> rows(items.size());
+    std::transform(items.begin(), items.end(), rows.begin(), [](const Item& i) { return i.row; });
+    return rows;
+}
+
+void DetailsModel::rebuild() {
+    rows_ = sortedRows();
+    rebuildInverse();
+}
+
+void DetailsModel::rebuildInverse() {
+    inverse_.assign(rows_.size(), -1);
+    for (size_t i = 0; i < rows_.size(); ++i)
+        if (rows_[i] >= 0 && size_t(rows_[i]) < inverse_.size())
+            inverse_[size_t(rows_[i])] = int(i);
+}
+
+void DetailsModel::beginRelayout() {
+    if (relayoutOpen_)
+        return;
+    relayoutOpen_ = true;
+    emit layoutAboutToBeChanged({}, QAbstractItemModel::VerticalSortHint);
+    relayoutFrom_ = persistentIndexList();
+    relayoutSources_.clear();
+    for (const QModelIndex& index : relayoutFrom_)
+        relayoutSources_ << QPersistentModelIndex(toSource(index));
+}
+
+void DetailsModel::endRelayout() {
+    if (!relayoutOpen_)
+        return;
+    relayoutOpen_ = false;
+    const size_t before = rows_.size();
+    rows_ = sortedRows();
+    if (rows_.size() != before) {
+        // The file model changed its rows without telling: start again.
+        qWarning("DetailsModel: the folder's rows changed during a change of order");
+        rows_.resize(before, -1);
+    }
+    rebuildInverse();
+    QModelIndexList to;
+    for (qsizetype i = 0; i < relayoutFrom_.size(); ++i) {
+        const QPersistentModelIndex& source = relayoutSources_[i];
+        const bool known = source.isValid() && source.parent() == folder_ &&
+                           size_t(source.row()) < inverse_.size() && inverse_[source.row()] >= 0;
+        to << (known ? index(inverse_[size_t(source.row())], relayoutFrom_[i].column())
+                     : QModelIndex());
+    }
+    changePersistentIndexList(relayoutFrom_, to);
+    relayoutFrom_.clear();
+    relayoutSources_.clear();
+    emit layoutChanged({}, QAbstractItemModel::VerticalSortHint);
+}
+
+QModelIndex DetailsModel::toSource(const QModelIndex& index) const {
+    if (!index.isValid() || index.model() != this || size_t(index.row()) >= rows_.size() ||
+        rows_[size_t(index.row())] < 0)
+        return {};
+    return files_->index(rows_[size_t(index.row())], 0, folder_);
+}
+
+QModelIndex DetailsModel::fromSource(const QModelIndex& source) const {
+    if (!source.isValid() || source.parent() != folder_ || size_t(source.row()) >= inverse_.size())
+        return {};
+    const int row = inverse_[size_t(source.row())];
+    return row < 0 ? QModelIndex() : index(row, 0);
+}
+
+int DetailsModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : int(rows_.size());
+}
+
+int DetailsModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : ColumnCount;
+}
+
+QVariant DetailsModel::data(const QModelIndex& index, int role) const {
+    const QModelIndex source = toSource(index);
+    if (!source.isValid())
+        return {};
+    if (index.column() == Name || role >= Qt::UserRole)
+        return files_->data(source, role);
+    if (!details_)
+        return {};
+    const quint64 hash = ArchiveDetails::hashOf(files_->fileName(source), folderHash_);
+    if (files_->isDir(source))
+        return details_cell::data(nullptr, details_->folderCountByHash(hash), index.column(), role);
+    const auto entry = details_->entryByHash(hash);
+    if (!entry)
+        return {};
+    return details_cell::data(&*entry, std::nullopt, index.column(), role);
+}
+
+QVariant DetailsModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal)
+        return {};
+    if (role == Qt::DisplayRole)
+        return details_cell::header(section);
+    if (role == Qt::TextAlignmentRole)
+        return section == Size ? QVariant(Qt::AlignRight | Qt::AlignVCenter)
+                               : QVariant(Qt::AlignLeft | Qt::AlignVCenter);
+    return {};
+}
+
+Qt::ItemFlags DetailsModel::flags(const QModelIndex& index) const {
+    const QModelIndex source = toSource(index);
+    return source.isValid() ? files_->flags(source) & ~Qt::ItemIsEditable : Qt::NoItemFlags;
+}
+
+void DetailsModel::sort(int column, Qt::SortOrder order) {
+    if (column < 0 || column >= ColumnCount)
+        return;
+    beginRelayout();
+    sortColumn_ = column;
+    sortOrder_ = order;
+    endRelayout();
+}
+
+bool DetailsModel::canFetchMore(const QModelIndex& parent) const {
+    return !parent.isValid() && folder_.isValid() && files_->canFetchMore(folder_);
+}
+
+void DetailsModel::fetchMore(const QModelIndex& parent) {
+    if (!parent.isValid() && folder_.isValid())
+        files_->fetchMore(folder_);
+}
+
+QStringList DetailsModel::mimeTypes() const {
+    return files_->mimeTypes();
+}
+
+QMimeData* DetailsModel::mimeData(const QModelIndexList& indexes) const {
+    QModelIndexList sources;
+    for (const QModelIndex& index : indexes)
+        if (index.column() == Name)
+            sources << toSource(index);
+    return files_->mimeData(sources);
+}
+
+} // namespace quovara
