@@ -21,6 +21,17 @@ struct Entry {
     QByteArray file;   // "f00042.txt"
 };
 
+// `count` entries in one folder ("flat"), the hardest case for sorting a folder.
+inline std::vector<Entry> makeFlatEntries(int count) {
+    std::vector<Entry> entries(size_t(std::max(count, 0)));
+    for (int i = 0; i < count; ++i) {
+        entries[size_t(i)].folder = "flat";
+        entries[size_t(i)].file =
+            QByteArray("f") + QByteArray::number(i).rightJustified(6, '0') + ".txt";
+    }
+    return entries;
+}
+
 inline std::vector<Entry> makeEntries(int count) {
     std::vector<Entry> entries;
     entries.reserve(count);
@@ -49,11 +60,25 @@ inline QByteArray makeLog(const std::vector<Entry>& entries) {
         "14:35).\r\n\r\nfile                                size     date        time "
         "   attr   crc-32 \r\n" +
         QByteArray(79, '-') + "\r\n";
+    static const char* const months[] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
+                                         "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+    quint32 n = 0;
     for (const Entry& e : entries) {
         QByteArray name = e.folder + "/" + e.file;
         name.replace('/', '\\');
-        log += name + "\r\n                                       0  22-Nov-2026  14:28:18  ---A  "
-                      "00000000\r\n";
+        // Details that differ from entry to entry, as a real archive's do.
+        ++n;
+        const quint32 mix = n * 2654435761u;
+        const QByteArray details =
+            QByteArray::number(mix % 5000000).rightJustified(40, ' ') + "  " +
+            QByteArray::number(1 + mix % 28).rightJustified(2, '0') + "-" + months[mix % 12] + "-" +
+            QByteArray::number(1995 + mix % 30) + "  " +
+            QByteArray::number(mix % 24).rightJustified(2, '0') + ":" +
+            QByteArray::number(mix / 7 % 60).rightJustified(2, '0') + ":" +
+            QByteArray::number(mix / 11 % 60).rightJustified(2, '0') +
+            (mix % 3 == 0 ? "  R--A  " : "  ---A  ") +
+            QByteArray::number(mix ^ 0x5bd1e995u, 16).toUpper().rightJustified(8, '0');
+        log += name + "\r\n" + details + "\r\n";
     }
     log += QByteArray(79, '-') + "\r\n" + QByteArray::number(qulonglong(entries.size())) +
            " files                                0\r\n                                       0 "

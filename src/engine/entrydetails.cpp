@@ -10,8 +10,6 @@ namespace quovara {
 
 namespace {
 
-enum Flag : quint8 { HasSize = 1, HasDate = 2, HasTime = 4, HasCrc = 8 };
-
 bool allDigits(QStringView s) {
     return !s.isEmpty() && std::all_of(s.begin(), s.end(), [](QChar c) {
         return c >= QLatin1Char('0') && c <= QLatin1Char('9');
@@ -84,33 +82,84 @@ QString EntryDetails::crcText() const {
     return crc ? QStringLiteral("%1").arg(*crc, 8, 16, QLatin1Char('0')).toUpper() : QString();
 }
 
-EntryDetails ParseDetailLine(QStringView line) {
-    EntryDetails d;
-    const auto fields = line.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    qsizetype i = 0;
-    if (i < fields.size() && allDigits(fields[i])) {
+namespace {
+
+// The blank-separated fields of a line, one after the other, without copying.
+class Fields {
+public:
+    explicit Fields(QStringView line) : line_(line) {}
+    QStringView next() {
+        while (at_ < line_.size() && line_[at_] == QLatin1Char(' '))
+            ++at_;
+        const qsizetype start = at_;
+        while (at_ < line_.size() && line_[at_] != QLatin1Char(' '))
+            ++at_;
+        return line_.mid(start, at_ - start);
+    }
+
+private:
+    QStringView line_;
+    qsizetype at_ = 0;
+};
+
+} // namespace
+
+void ArchiveDetails::parseInto(QStringView line, Packed& p) {
+    p = Packed{};
+    Fields fields(line);
+    QStringView field = fields.next();
+    if (allDigits(field)) {
         bool ok = false;
-        const quint64 size = fields[i].toULongLong(&ok);
-        if (ok)
-            d.size = size;
-        ++i; // a size beyond 64 bits is read as none, and the rest still is
+        const quint64 size = field.toULongLong(&ok);
+        if (ok) {
+            p.size = size;
+            p.flags |= HasSize;
+        }
+        field = fields.next(); // a size beyond 64 bits is read as none, and the rest still is
     }
-    if (i < fields.size() && fields[i].count(QLatin1Char('-')) == 2 &&
-        !fields[i].startsWith(QLatin1Char('-'))) {
-        d.date = readDate(fields[i]);
-        ++i;
+    if (field.count(QLatin1Char('-')) == 2 && !field.startsWith(QLatin1Char('-'))) {
+        if (const auto date = readDate(field)) {
+            p.date = *date;
+            p.flags |= HasDate;
+        }
+        field = fields.next();
     }
-    if (i < fields.size() && fields[i].contains(QLatin1Char(':'))) {
-        d.time = readTime(fields[i]);
-        ++i;
+    if (field.contains(QLatin1Char(':'))) {
+        if (const auto time = readTime(field)) {
+            p.time = *time;
+            p.flags |= HasTime;
+        }
+        field = fields.next();
     }
-    for (; i < fields.size(); ++i) {
-        if (!d.crc && isHex8(fields[i]))
-            d.crc = fields[i].toUInt(nullptr, 16);
-        else if (d.attributes.isEmpty())
-            d.attributes = fields[i].left(8).toString();
+    bool attributes = false;
+    for (; !field.isEmpty(); field = fields.next()) {
+        if (!(p.flags & HasCrc) && isHex8(field)) {
+            p.crc = field.toUInt(nullptr, 16);
+            p.flags |= HasCrc;
+        } else if (!attributes) {
+            attributes = true;
+            for (qsizetype i = 0; i < field.size() && i < qsizetype(sizeof p.attributes); ++i) {
+                const char16_t c = field[i].unicode();
+                p.attributes[i] = c > 0 && c < 0x100 ? char(c) : '?';
+            }
+        }
     }
-    return d;
+}
+
+EntryDetails ParseDetailLine(QStringView line) {
+    return ArchiveDetails::readLine(line);
+}
+
+EntryDetails ArchiveDetails::readLine(QStringView line) {
+    Packed p;
+    parseInto(line, p);
+    return unpack(p);
+}
+
+void ArchiveDetails::addLine(QStringView path, QStringView line) {
+    Packed p;
+    parseInto(line, p);
+    place(path, p);
 }
 
 quint64 ArchiveDetails::hashOf(QStringView path, quint64 start) {
@@ -124,7 +173,6 @@ quint64 ArchiveDetails::hashOf(QStringView path, quint64 start) {
 }
 
 void ArchiveDetails::add(QStringView path, const EntryDetails& d) {
-    Q_ASSERT(!finished_);
     Packed p{};
     p.flags = quint8((d.size ? HasSize : 0) | (d.date ? HasDate : 0) | (d.time ? HasTime : 0) |
                      (d.crc ? HasCrc : 0));
@@ -134,6 +182,11 @@ void ArchiveDetails::add(QStringView path, const EntryDetails& d) {
     p.crc = d.crc.value_or(0);
     const QByteArray attributes = d.attributes.left(8).toLatin1();
     std::memcpy(p.attributes, attributes.constData(), size_t(attributes.size()));
+    place(path, p);
+}
+
+void ArchiveDetails::place(QStringView path, const Packed& p) {
+    Q_ASSERT(!finished_);
     index_.emplace_back(hashOf(path), quint32(entries_.size()));
     entries_.push_back(p);
 
@@ -164,12 +217,12 @@ void ArchiveDetails::finish() {
     auto byHash = [](const Slot& a, const Slot& b) { return a.first < b.first; };
     std::stable_sort(index_.begin(), index_.end(), byHash);
     // A path listed twice keeps its last line: of each run of equal hashes, the last stays.
-    std::vector<Slot> unique;
-    unique.reserve(index_.size());
+    size_t kept = 0;
     for (size_t i = 0; i < index_.size(); ++i)
         if (i + 1 == index_.size() || index_[i + 1].first != index_[i].first)
-            unique.push_back(index_[i]);
-    index_ = std::move(unique);
+            index_[kept++] = index_[i];
+    index_.resize(kept);
+    index_.shrink_to_fit();
     std::sort(folders_.begin(), folders_.end(), byHash);
     entries_.shrink_to_fit();
     folders_.shrink_to_fit();
@@ -206,6 +259,29 @@ std::optional<EntryDetails> ArchiveDetails::entryByHash(quint64 hash) const {
     if (!slot)
         return std::nullopt;
     return unpack(entries_[slot->second]);
+}
+
+quint64 ArchiveDetails::sortKeyByHash(quint64 hash, int column) const {
+    const Slot* slot = finished_ ? find(index_, hash) : nullptr;
+    if (!slot)
+        return 0;
+    const Packed& p = entries_[slot->second];
+    switch (column) {
+    case 1:
+        return (p.flags & HasSize) ? std::min<quint64>(p.size, ~quint64(0) - 1) + 1 : 0;
+    case 2:
+        return quint64(p.date) * 1000000u + p.time;
+    case 3: {
+        quint64 key = 0;
+        for (const char c : p.attributes)
+            key = (key << 8) | quint8(c);
+        return key;
+    }
+    case 4:
+        return (p.flags & HasCrc) ? quint64(p.crc) + 1 : 0;
+    default:
+        return 0;
+    }
 }
 
 std::optional<int> ArchiveDetails::folderCount(QStringView path) const {

@@ -45,6 +45,10 @@ class ArchiveDetails {
 public:
     // Records `details` for the entry shown at `path`; its folders get counted.
     void add(QStringView path, const EntryDetails& details);
+    // The same for a detail line as the listing gives it, read without copying it.
+    void addLine(QStringView path, QStringView line);
+    // What ParseDetailLine gives.
+    static EntryDetails readLine(QStringView line);
     // Ends the adding: afterwards the look-ups work. add() may not be called again.
     void finish();
 
@@ -65,8 +69,12 @@ public:
     // The look-ups by a hash made with hashOf.
     std::optional<EntryDetails> entryByHash(quint64 hash) const;
     std::optional<int> folderCountByHash(quint64 hash) const;
+    // What an entry sorts by in a column: 1 size, 2 date and time, 3 attributes, 4 CRC-32.
+    // Something unknown (or no such entry) is 0 and sorts before everything known.
+    quint64 sortKeyByHash(quint64 hash, int column) const;
 
 private:
+    enum Flag : quint8 { HasSize = 1, HasDate = 2, HasTime = 4, HasCrc = 8 };
     struct Packed {
         quint64 size;
         quint32 date;
@@ -76,6 +84,8 @@ private:
         char attributes[8];
     };
     static EntryDetails unpack(const Packed& p);
+    static void parseInto(QStringView line, Packed& p);
+    void place(QStringView path, const Packed& p);
     using Slot = std::pair<quint64, quint32>;
     // The slot of `key` in a vector sorted by hash, or null.
     static const Slot* find(const std::vector<Slot>& v, quint64 key);

@@ -158,7 +158,7 @@ public:
         if ((pass_.lines - 10) % 2 != 0) {
             // The detail line of the entry just placed.
             if (!pendingShown_.isEmpty())
-                details_->add(pendingShown_, ParseDetailLine(text));
+                details_->addLine(pendingShown_, text);
             pendingShown_.clear();
             return;
         }

@@ -1,5 +1,7 @@
 #include "detailsmodel.h"
 
+#include "core/logging.h"
+
 #include <QFileSystemModel>
 #include <QLocale>
 #include <QMimeData>
@@ -107,6 +109,7 @@ DetailsModel::DetailsModel(QFileSystemModel* files, QObject* parent)
                     rows_.push_back(row);
                 rebuildInverse();
                 endInsertRows();
+                ordered_ = false;
                 pendingOrder_->start();
             });
     connect(files_, &QAbstractItemModel::rowsAboutToBeRemoved, this,
@@ -159,11 +162,6 @@ void DetailsModel::setFolder(const QModelIndex& folder) {
     endResetModel();
 }
 
-quint64 DetailsModel::hashOfRow(int sourceRow) const {
-    return ArchiveDetails::hashOf(files_->fileName(files_->index(sourceRow, 0, folder_)),
-                                  folderHash_);
-}
-
 std::vector<int> DetailsModel::sortedRows() const {
     const int count = folder_.isValid() ? files_->rowCount(folder_) : 0;
     struct Item {
@@ -174,42 +172,19 @@ std::vector<int> DetailsModel::sortedRows() const {
     std::vector<Item> items(size_t(std::max(count, 0)));
     for (int row = 0; row < count; ++row) {
         Item& item = items[size_t(row)];
+        const QModelIndex source = files_->index(row, 0, folder_);
         item.row = row;
-        item.folder = files_->isDir(files_->index(row, 0, folder_));
+        item.folder = files_->isDir(source);
         item.key = 0;
         if (sortColumn_ == Name || !details_)
             continue; // the file model's order is the names' order
-        const quint64 hash = hashOfRow(row);
+        const quint64 hash = ArchiveDetails::hashOf(files_->fileName(source), folderHash_);
         if (item.folder) {
             if (sortColumn_ == Size)
                 item.key = quint64(details_->folderCountByHash(hash).value_or(0));
-            continue;
+            continue; // folders have no date, attributes or CRC: they keep names' order
         }
-        const auto entry = details_->entryByHash(hash);
-        if (!entry)
-            continue;
-        // Something unknown sorts before everything known.
-        switch (sortColumn_) {
-        case Size:
-            if (entry->size)
-                item.key = std::min<quint64>(*entry->size, ~quint64(0) - 1) + 1;
-            break;
-        case Modified:
-            item.key = entry->stamp();
-            break;
-        case Attributes: {
-            const QByteArray letters = entry->attributes.toLatin1().leftJustified(8, '\0');
-            for (const char c : letters)
-                item.key = (item.key << 8) | quint8(c);
-            break;
-        }
-        case Crc:
-            if (entry->crc)
-                item.key = quint64(*entry->crc) + 1;
-            break;
-        default:
-            break;
-        }
+        item.key = details_->sortKeyByHash(hash, sortColumn_);
     }
     const bool descending = sortOrder_ == Qt::DescendingOrder;
     std::sort(items.begin(), items.end(), [&](const Item& a, const Item& b) {
@@ -228,6 +203,7 @@ std::vector<int> DetailsModel::sortedRows() const {
 
 void DetailsModel::rebuild() {
     rows_ = sortedRows();
+    ordered_ = true;
     rebuildInverse();
 }
 
@@ -255,9 +231,12 @@ void DetailsModel::endRelayout() {
     relayoutOpen_ = false;
     const size_t before = rows_.size();
     rows_ = sortedRows();
+    ordered_ = true;
     if (rows_.size() != before) {
-        // The file model changed its rows without telling: start again.
-        qWarning("DetailsModel: the folder's rows changed during a change of order");
+        // A change of order may not change the count of rows; rows the file model added
+        // without telling are shown with its next change.
+        qCDebug(lcListing) << "the folder's rows changed during a change of order:" << before
+                           << "to" << rows_.size();
         rows_.resize(before, -1);
     }
     rebuildInverse();
@@ -326,12 +305,19 @@ QVariant DetailsModel::headerData(int section, Qt::Orientation orientation, int 
 }
 
 Qt::ItemFlags DetailsModel::flags(const QModelIndex& index) const {
-    const QModelIndex source = toSource(index);
-    return source.isValid() ? files_->flags(source) & ~Qt::ItemIsEditable : Qt::NoItemFlags;
+    // The same for every row, without asking the file model: views ask for every row when
+    // they lay out, and a folder can hold a hundred thousand.
+    if (!index.isValid() || index.model() != this || size_t(index.row()) >= rows_.size())
+        return Qt::NoItemFlags;
+    return Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsDragEnabled |
+           Qt::ItemNeverHasChildren;
 }
 
 void DetailsModel::sort(int column, Qt::SortOrder order) {
     if (column < 0 || column >= ColumnCount)
+        return;
+    // A view asks twice for one sort (the header's indicator, then the view itself).
+    if (ordered_ && column == sortColumn_ && order == sortOrder_)
         return;
     beginRelayout();
     sortColumn_ = column;

@@ -63,8 +63,6 @@ public:
     QMimeData* mimeData(const QModelIndexList& indexes) const override;
 
 private:
-    // The hash of a row's path (see ArchiveDetails::hashOf).
-    quint64 hashOfRow(int sourceRow) const;
     // The order of the source rows for the sort column and order.
     std::vector<int> sortedRows() const;
     // A change of order that keeps the selection and the current row on their items.
@@ -88,6 +86,8 @@ private:
     QModelIndexList relayoutFrom_;
     QList<QPersistentModelIndex> relayoutSources_;
     bool relayoutOpen_ = false;
+    // The rows are in the order of the sort column (no rows came since).
+    bool ordered_ = true;
     QTimer* pendingOrder_;
 };
 

@@ -36,6 +36,8 @@ FileBrowser::FileBrowser(QWidget* parent) : QWidget(parent) {
     tree_->setObjectName(QStringLiteral("FileViewReport"));
     tree_->setRootIsDecorated(false);
     tree_->setItemsExpandable(false);
+    // Every row is one line high: a folder of many entries is laid out without measuring each.
+    tree_->setUniformRowHeights(true);
     tree_->setSortingEnabled(true);
     tree_->sortByColumn(0, Qt::AscendingOrder);
     for (QAbstractItemView* v :
