@@ -27,6 +27,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -396,7 +397,7 @@ void frmApri::StartSearch() {
     ShComboBox1->hide();
     Trovati->show();
     results_->clear();
-    // Each column takes half of the list's width.
+    // Name and folder each take half of the list's width; the details follow to the right.
     Trovati->setColumnWidth(0, Trovati->viewport()->width() / 2);
     Trovati->setColumnWidth(1, Trovati->viewport()->width() / 2);
     Stato->setText(QStringLiteral("Quovara is searching"));

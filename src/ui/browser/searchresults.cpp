@@ -19,10 +19,13 @@ void SearchResults::append(const QList<SearchHit>& hits) {
 }
 
 void SearchResults::clear() {
-    beginResetModel();
+    // Rows removed, not a reset: the columns keep the widths the user gave them.
+    if (rows_.isEmpty())
+        return;
+    beginRemoveRows(QModelIndex(), 0, int(rows_.size()) - 1);
     rows_.clear();
     rows_.squeeze();
-    endResetModel();
+    endRemoveRows();
 }
 
 int SearchResults::rowCount(const QModelIndex& parent) const {
@@ -34,9 +37,10 @@ int SearchResults::columnCount(const QModelIndex& parent) const {
 }
 
 void SearchResults::setDetails(std::shared_ptr<const ArchiveDetails> details) {
-    beginResetModel();
+    // The columns stay: a reset would give the list's columns their first widths again.
     details_ = std::move(details);
-    endResetModel();
+    if (!rows_.isEmpty())
+        emit dataChanged(index(0, 2), index(int(rows_.size()) - 1, 5));
 }
 
 QVariant SearchResults::data(const QModelIndex& index, int role) const {
