@@ -35,6 +35,8 @@ int RunOption(int argc, char** argv, const quovara::OptionUse& use) {
         return quovara::ShowVersion(out);
     case quovara::OptionId::InstallEngine:
         return quovara::InstallEngineCommand(use.values, out, err);
+    case quovara::OptionId::ExtractHere:
+        break; // needs the display: main() runs it
     }
     return 2;
 }
@@ -60,9 +62,24 @@ int main(int argc, char** argv) {
             return problem.startsWith(QLatin1String("quovara:")) ? 2 : 1;
         }
     }
+    QStringList extractHere;
+    bool extractHereGiven = false;
     for (const quovara::OptionUse& use : parsed.options) {
+        if (use.option->id == quovara::OptionId::ExtractHere) {
+            extractHereGiven = true;
+            extractHere = use.values;
+            break;
+        }
         if (use.option->id != quovara::OptionId::ArchiveLocale)
             return RunOption(argc, argv, use);
+    }
+    if (extractHereGiven && extractHere.isEmpty()) {
+        std::fputs(quovara::UsageErrorText(QStringLiteral("option '--extract-here' needs an "
+                                                          "archive"))
+                       .toLocal8Bit()
+                       .constData(),
+                   stderr);
+        return 2;
     }
 
     // Everything else opens a window. Qt sees only the arguments before "--" and takes its
@@ -91,6 +108,13 @@ int main(int argc, char** argv) {
     quovara::frmApri window;
     // The first use of the engine prepares its wine prefix: the user is told, not left waiting.
     quovara::InstallPreparingNotice(&window);
+    if (extractHereGiven) {
+        // Each archive beside itself, each with its progress window; the main window stays
+        // hidden and the program ends when all are done.
+        const int status = window.ExtractHere(extractHere);
+        quovara::LauncherServer::Shutdown();
+        return status;
+    }
     const QStringList request =
         app.arguments().mid(1) + parsed.operands.mid(parsed.operandsBeforeEnd);
     if (!window.Form_Load(quovara::CommandLineText(request))) {

@@ -17,6 +17,11 @@ const CommandOption kOptions[] = {
     {OptionId::InstallEngine, InstallEngineSwitch, "", OptionTakes::Rest, "FILE...",
      "copy the engine files (uharc.exe, Uharc0.4.fns, Uharc0.6.fns, SFX.exe) into the "
      "program folder, check that the engine runs, and end; no window opens"},
+    {OptionId::ExtractHere, "--extract-here", "", OptionTakes::Rest, "ARCHIVE...",
+     "extract each archive beside itself, never into or over anything that exists: an "
+     "archive of one top-level folder or one file as it is, any other into a new folder named "
+     "after it (\"name (2)\" when that is taken); a progress window shows each, and the "
+     "status is 0 only when every archive was extracted"},
     {OptionId::ArchiveLocale, "--archive-locale", "", OptionTakes::Value, "LOCALE",
      "run the engine under LOCALE (for example ru_RU.UTF-8, or ru) to show, search and "
      "extract the names of archives made on a system of that language; the same as the "

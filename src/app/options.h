@@ -14,7 +14,7 @@
 
 namespace quovara {
 
-enum class OptionId { Help, Version, InstallEngine, ArchiveLocale };
+enum class OptionId { Help, Version, InstallEngine, ArchiveLocale, ExtractHere };
 
 // What an option takes after its name.
 enum class OptionTakes {

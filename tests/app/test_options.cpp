@@ -27,8 +27,8 @@ const CommandOption kWithValue[] = {
 } // namespace
 
 TEST(Options, TheProgramHasHelpVersionInstallEngineAndArchiveLocale) {
-    EXPECT_EQ(OptionNames(),
-              QStringList({"-h", "--help", "--version", "--install-engine", "--archive-locale"}));
+    EXPECT_EQ(OptionNames(), QStringList({"-h", "--help", "--version", "--install-engine",
+                                          "--extract-here", "--archive-locale"}));
     ASSERT_NE(option(OptionId::ArchiveLocale), nullptr);
     EXPECT_EQ(option(OptionId::ArchiveLocale)->takes, OptionTakes::Value);
     ASSERT_NE(option(OptionId::InstallEngine), nullptr);

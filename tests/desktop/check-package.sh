@@ -71,6 +71,8 @@ for f in applications/quovara.desktop mime/packages/quovara.xml \
          kio/servicemenus/quovara.desktop kio/servicemenus/quovara-add.desktop \
          nemo/actions/quovara-extract.nemo_action nemo/actions/quovara-add.nemo_action \
          nemo/actions/quovara-sfx.nemo_action file-manager/actions/quovara-extract.desktop \
+         nemo/actions/quovara-extract-here.nemo_action \
+         file-manager/actions/quovara-extract-here.desktop \
          file-manager/actions/quovara-add.desktop file-manager/actions/quovara-sfx.desktop; do
     [ -s "$share/$f" ] || fail "missing usr/share/$f"
 done
@@ -92,7 +94,8 @@ expect_line "$desktop" 'Exec=/usr/bin/quovara "extract " %f'
 expect_line "$desktop" 'Exec=/usr/bin/quovara "add " %f'
 expect_line "$desktop" 'Exec=/usr/bin/quovara "sfx " %f'
 expect_line "$desktop" 'MimeType=application/x-uharc;'
-expect_line "$desktop" 'Actions=extract;add;sfx;'
+expect_line "$desktop" 'Exec=/usr/bin/quovara --extract-here %F'
+expect_line "$desktop" 'Actions=extract;extracthere;add;sfx;'
 grep -q 'glob pattern="\*\.uha"' "$share/mime/packages/quovara.xml" || fail "MIME glob *.uha"
 grep -q 'type="application/x-uharc"' "$share/mime/packages/quovara.xml" || fail "MIME type"
 
@@ -103,12 +106,18 @@ expect_line "$kde" 'MimeType=application/x-uharc;'
 expect_line "$kde" 'X-KDE-ServiceTypes=KonqPopupMenu/Plugin'
 expect_line "$kde" 'Exec=/usr/bin/quovara "extract " %f'
 expect_line "$kde" 'Exec=/usr/bin/quovara "sfx " %f'
+expect_line "$kde" 'Exec=/usr/bin/quovara --extract-here %F'
 expect_line "$share/kio/servicemenus/quovara-add.desktop" 'MimeType=all/all;'
 expect_line "$share/kio/servicemenus/quovara-add.desktop" 'Exec=/usr/bin/quovara "add " %f'
 for word in extract add sfx; do
     expect_line "$share/nemo/actions/quovara-$word.nemo_action" "Exec=/usr/bin/quovara \"$word \" %F"
     expect_line "$share/file-manager/actions/quovara-$word.desktop" "Exec=/usr/bin/quovara \"$word \" %f"
 done
+# Extract Here takes every archive selected.
+expect_line "$share/nemo/actions/quovara-extract-here.nemo_action" 'Exec=/usr/bin/quovara --extract-here %F'
+expect_line "$share/nemo/actions/quovara-extract-here.nemo_action" 'Selection=notnone'
+expect_line "$share/file-manager/actions/quovara-extract-here.desktop" 'Exec=/usr/bin/quovara --extract-here %F'
+expect_line "$share/file-manager/actions/quovara-extract-here.desktop" 'SelectionCount=>0'
 
 # The AppStream metainfo: valid, with its id and the desktop entry it launches.
 metainfo="$share/metainfo/org.example.Quovara.metainfo.xml"

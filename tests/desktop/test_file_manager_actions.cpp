@@ -254,6 +254,8 @@ protected:
             KeyFile keys(installed(file));
             EXPECT_TRUE(keys.loaded()) << file.toStdString();
             for (const QString& id : keys.list("Desktop Entry", "Actions")) {
+                if (id == "extracthere")
+                    continue; // an option, not a request word: ExtractHereActions checks it
                 const QString group = "Desktop Action " + id;
                 const QString exec = keys.value(group, "Exec");
                 out.append({file, keys.value(group, "Name"), id,
@@ -353,6 +355,40 @@ TEST_F(FileManagerActions, EveryFileManagerOffersTheThreeRequests) {
     EXPECT_EQ(labels.value("kio/servicemenus/quovara.desktop|extract"), "Extract with Quovara");
     EXPECT_EQ(labels.value("kio/servicemenus/quovara.desktop|sfx"), "Make SFX with Quovara");
     EXPECT_EQ(labels.value("kio/servicemenus/quovara-add.desktop|add"), "Add to a Quovara archive");
+}
+
+TEST_F(FileManagerActions, ExtractHereIsOfferedBesideTheOtherActionsForEverySelectedArchive) {
+    // The desktop entry and the KDE service menu: an action of their own, every file selected.
+    for (const QString& file : {QStringLiteral("applications/quovara.desktop"),
+                                QStringLiteral("kio/servicemenus/quovara.desktop")}) {
+        KeyFile keys(installed(file));
+        ASSERT_TRUE(keys.loaded()) << file.toStdString();
+        EXPECT_TRUE(keys.list("Desktop Entry", "Actions").contains("extracthere"));
+        const QString exec = keys.value("Desktop Action extracthere", "Exec");
+        EXPECT_EQ(exec, programPath() + " --extract-here %F") << file.toStdString();
+        EXPECT_EQ(expandDesktopExec(exec, selected_ + "/a b.uha"),
+                  QStringList({programPath(), "--extract-here", selected_ + "/a b.uha"}));
+    }
+    EXPECT_EQ(KeyFile(installed("applications/quovara.desktop"))
+                  .value("Desktop Action extracthere", "Name"),
+              "Extract here");
+    // Nemo and Caja: one or several archives.
+    KeyFile nemo(installed("nemo/actions/quovara-extract-here.nemo_action"));
+    ASSERT_TRUE(nemo.loaded());
+    EXPECT_EQ(nemo.value("Nemo Action", "Name"), "Extract here with Quovara");
+    EXPECT_EQ(nemo.value("Nemo Action", "Selection"), "notnone");
+    EXPECT_EQ(nemo.value("Nemo Action", "Mimetypes"), "application/x-uharc;");
+    EXPECT_EQ(nemo.value("Nemo Action", "Exec"), programPath() + " --extract-here %F");
+    for (NemoGeneration g : {NemoGeneration::Older, NemoGeneration::Newer})
+        EXPECT_EQ(expandNemoExec(nemo.value("Nemo Action", "Exec"), selected_ + "/a b.uha",
+                                 nemo.value("Nemo Action", "Quote"), true, g),
+                  QStringList({programPath(), "--extract-here", selected_ + "/a b.uha"}));
+    KeyFile caja(installed("file-manager/actions/quovara-extract-here.desktop"));
+    ASSERT_TRUE(caja.loaded());
+    EXPECT_EQ(caja.value("X-Action-Profile local", "SelectionCount"), ">0");
+    EXPECT_EQ(caja.value("X-Action-Profile local", "Exec"), programPath() + " --extract-here %F");
+    EXPECT_EQ(expandCajaExec(caja.value("X-Action-Profile local", "Exec"), selected_ + "/x.uha"),
+              QStringList({programPath(), "--extract-here", selected_ + "/x.uha"}));
 }
 
 TEST_F(FileManagerActions, TheFilesSayWhereTheyApply) {

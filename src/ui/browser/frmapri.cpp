@@ -1,5 +1,7 @@
 #include "frmapri.h"
 
+#include "ui/jobs/extractherejob.h"
+
 #include "filebrowser.h"
 #include "fileicons.h"
 #include "focusframe.h"
@@ -166,7 +168,7 @@ frmApri::frmApri(QWidget* parent)
 
 frmApri::~frmApri() = default;
 
-bool frmApri::Form_Load(const QString& commandLine) {
+bool frmApri::prepare() {
     if (AnotherInstanceRunning(lockPath_)) {
         prompter_->exclamation(QString::fromLatin1(apri::AlreadyRunning));
         return false;
@@ -189,6 +191,26 @@ bool frmApri::Form_Load(const QString& commandLine) {
                      ? ApplicationTitle() + QStringLiteral(" \u2014 demonstration engine")
                      : ApplicationTitle();
     setWindowTitle(baseTitle_);
+    return true;
+}
+
+int frmApri::ExtractHere(const QStringList& archives) {
+    setKeptHidden(true);
+    if (!prepare())
+        return 1;
+    commandLineJob_ = true;
+    return RunExtractHere(*this, archives);
+}
+
+void frmApri::setVisible(bool visible) {
+    if (visible && keptHidden_)
+        return;
+    QMainWindow::setVisible(visible);
+}
+
+bool frmApri::Form_Load(const QString& commandLine) {
+    if (!prepare())
+        return false;
     FileView1->setFolder(QDir::homePath());
 
     CommandRequest request = ClassifyCommandLine(commandLine);

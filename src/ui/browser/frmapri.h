@@ -66,6 +66,12 @@ public:
     // Start-up in its fixed order. False when the program must end now (another copy runs,
     // no engine, or a command-line request has been served).
     bool Form_Load(const QString& commandLine);
+    // Extract Here for the archives given (`quovara --extract-here`): the window stays hidden,
+    // each archive shows its progress window. Returns the program's exit status.
+    int ExtractHere(const QStringList& archives);
+    // While set, the window is never shown (a job window's end shows it otherwise).
+    void setKeptHidden(bool hidden) { keptHidden_ = hidden; }
+    void setVisible(bool visible) override;
 
     // Opens the browser's selected item: a ".uha" archive is listed, anything else goes to
     // the desktop's open action.
@@ -189,6 +195,10 @@ private:
     FindFile search_;
     QString selectedItem_;
     bool commandLineJob_ = false;
+    bool keptHidden_ = false;
+    // The start-up steps every use of the window shares: the single-instance check, the work
+    // folder, the engine. False when the program must end.
+    bool prepare();
     QString lockPath_;
     bool demonstrationEngine_ = false;
 

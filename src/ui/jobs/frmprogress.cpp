@@ -278,14 +278,15 @@ void RunJobWindow(JobKind kind, frmApri& main) {
     RunJobWindow(kind, main, QString());
 }
 
-void RunJobWindow(JobKind kind, frmApri& main, const QString& archivePath) {
+bool RunJobWindow(JobKind kind, frmApri& main, const QString& archivePath) {
     const ProgressKind* row = ProgressKindOf(kind);
     if (!row) {
         qCWarning(lcJobWindow) << "no progress window for job kind" << int(kind);
-        return;
+        return false;
     }
     frmProgress window(*row, main, archivePath);
     window.exec();
+    return window.succeeded();
 }
 
 } // namespace quovara

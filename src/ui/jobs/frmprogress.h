@@ -32,8 +32,9 @@ void RunJobWindow(JobKind kind, frmApri& main);
 
 // The same with the archive of the job named by the caller (an add job's target archive); the
 // job's working folder is the folder that holds it. An empty `archivePath` means: the archive
-// that the job script names, else the main window's archive.
-void RunJobWindow(JobKind kind, frmApri& main, const QString& archivePath);
+// that the job script names, else the main window's archive. True when the job came to its
+// normal end (no engine error, not stopped).
+bool RunJobWindow(JobKind kind, frmApri& main, const QString& archivePath);
 
 // Texts of the windows.
 namespace progress {
@@ -107,6 +108,8 @@ public:
     qint64 jobProcessId() const;
     bool jobRunning() const;
     bool isUnloaded() const { return unloaded_; }
+    // The job came to its normal end: the engine finished without an error.
+    bool succeeded() const { return succeeded_; }
     TrayIcon& trayIcon() { return *tray_; }
     const ProgressState& timeState() const { return time_; }
     const ConsoleState* consoleState() const;
@@ -160,6 +163,7 @@ private:
     Phase phase_ = Phase::Idle;
     bool activated_ = false;
     bool unloaded_ = false;
+    bool succeeded_ = false;
     int runs_ = 0;
     QString pendingVersionMessage_;
     // A question of the engine is being asked (the rounds wait), and the output position of

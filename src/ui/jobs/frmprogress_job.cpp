@@ -293,6 +293,7 @@ void frmProgress::errorEnding(const QString& message, bool showMain) {
 
 void frmProgress::normalEnding() {
     stopFollowing();
+    succeeded_ = true;
     if (kind_.endMessage)
         main_.prompter().information(QString::fromLatin1(kind_.endMessage));
     if (unloaded_)

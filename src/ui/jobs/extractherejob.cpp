@@ -1,0 +1,161 @@
+#include "extractherejob.h"
+
+#include "frmprogress.h"
+
+#include "core/places.h"
+#include "core/processcontrol.h"
+#include "core/prompter.h"
+#include "engine/extracthere.h"
+#include "engine/grammar.h"
+#include "engine/listing.h"
+#include "ui/browser/frmapri.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLoggingCategory>
+
+namespace quovara {
+
+Q_LOGGING_CATEGORY(lcExtractHere, "quovara.extracthere")
+
+namespace {
+
+// Passes every message on with the archive's name before it, so that with several archives
+// the user knows which one it is about; remembers a cancelled password prompt.
+class ArchiveNamedPrompter : public Prompter {
+public:
+    ArchiveNamedPrompter(Prompter& inner, const QString& archive)
+        : inner_(inner), name_(QFileInfo(archive).fileName()) {}
+
+    void critical(const QString& t) override { inner_.critical(named(t)); }
+    void exclamation(const QString& t) override { inner_.exclamation(named(t)); }
+    void information(const QString& t) override { inner_.information(named(t)); }
+    void plain(const QString& t) override { inner_.plain(named(t)); }
+    QString askPassword(const QString& prompt) override {
+        const QString answer = inner_.askPassword(named(prompt));
+        if (answer.isEmpty())
+            cancelled_ = true;
+        return answer;
+    }
+    bool question(const QString& t) override { return inner_.question(named(t)); }
+
+    bool passwordCancelled() const { return cancelled_; }
+    QString named(const QString& text) const {
+        return QString::fromLatin1(extract_here::AboutArchive).arg(name_, text);
+    }
+
+private:
+    Prompter& inner_;
+    QString name_;
+    bool cancelled_ = false;
+};
+
+// Lists the archive to learn whether it opens and with which password, asking for one while
+// the engine wants one. False (the user told why) when it cannot be extracted.
+bool ListForPassword(ArchiveLister& lister, ArchiveNamedPrompter& prompter, const QString& path) {
+    lister.listing().archivePath = path;
+    lister.listing().password.clear();
+    for (;;) {
+        lister.Batch();
+        switch (lister.listing().status) {
+        case ListStatus::Opened:
+            return true;
+        case ListStatus::EngineSwitched:
+            continue; // the other engine version lists it again
+        case ListStatus::PasswordRequired:
+            break;
+        case ListStatus::Failed:
+        default:
+            // The engine's message has been shown (with the archive's name). The engine
+            // answers a wrong password as it answers a damaged archive: once a password was
+            // given, it is asked for again.
+            if (lister.listing().password.isEmpty())
+                return false;
+            break;
+        }
+        lister.listing().password = prompter.askPassword(QStringLiteral("Insert Password"));
+        if (prompter.passwordCancelled()) {
+            prompter.critical(QString::fromLatin1(extract_here::NoPassword));
+            return false;
+        }
+    }
+}
+
+// Extracts one archive; true when what it holds stands beside it.
+bool ExtractOne(frmApri& main, Prompter& outer, const QString& given) {
+    const QString path = QFileInfo(given).absoluteFilePath();
+    ArchiveNamedPrompter prompter(outer, path);
+    main.setPrompter(&prompter);
+    struct Restore {
+        frmApri& main;
+        Prompter& outer;
+        ~Restore() { main.setPrompter(&outer); }
+    } restore{main, outer};
+
+    if (!QFileInfo(path).isFile()) {
+        prompter.critical(QString::fromLatin1(extract_here::NotFound));
+        return false;
+    }
+    if (QFileInfo(path).suffix().compare(QLatin1String("uha"), Qt::CaseInsensitive) != 0) {
+        prompter.critical(QString::fromLatin1(extract_here::NotAnArchive));
+        return false;
+    }
+    // Nothing is written unless the archive's folder takes a new folder.
+    QString problem;
+    const QString staging = MakeExtractStaging(path, &problem);
+    if (staging.isEmpty()) {
+        prompter.critical(QString::fromLatin1(extract_here::CannotWrite).arg(problem));
+        return false;
+    }
+    // Ended by a signal meanwhile, the program still removes the staging folder (after the
+    // progress window, whose own work was added later and runs first, has ended the engine).
+    struct StagingGuard {
+        int work;
+        ~StagingGuard() { RemoveTerminationWork(work); }
+    } guard{AddTerminationWork([staging] { DiscardExtractStaging(staging); })};
+    if (!ListForPassword(main.lister(), prompter, path)) {
+        DiscardExtractStaging(staging);
+        return false;
+    }
+    ExtractOptions options;
+    options.fullPath = true;
+    options.destination = QDir::toNativeSeparators(staging);
+    options.archive = QDir::toNativeSeparators(path);
+    options.password = main.lister().listing().password;
+    options.passwordTicked = !options.password.isEmpty();
+    QString refused;
+    if (!WriteExtractJobScript(WorkFile(names::ExtractScript), options, ProgramFolder(), TempRoot(),
+                               PathStyle::host(), &refused)) {
+        prompter.critical(refused);
+        DiscardExtractStaging(staging);
+        return false;
+    }
+    if (!RunJobWindow(JobKind::Extract, main, path)) {
+        // Failed or stopped: the window has said why; nothing it wrote is kept.
+        DiscardExtractStaging(staging);
+        return false;
+    }
+    const PlacedExtraction placed = PlaceExtraction(staging, path);
+    if (!placed.ok) {
+        prompter.critical(QString::fromLatin1(extract_here::NotPlaced).arg(placed.problem));
+        return false;
+    }
+    qCDebug(lcExtractHere) << path << "extracted to" << placed.placedPath;
+    return true;
+}
+
+} // namespace
+
+int RunExtractHere(frmApri& main, const QStringList& archives) {
+    Prompter& outer = main.prompter();
+    QStringList failed;
+    for (const QString& archive : archives) {
+        if (!ExtractOne(main, outer, archive))
+            failed << QDir::toNativeSeparators(QFileInfo(archive).absoluteFilePath());
+    }
+    if (!failed.isEmpty() && archives.size() > 1)
+        outer.critical(QString::fromLatin1(extract_here::Summary).arg(failed.join(u'\n')));
+    return failed.isEmpty() ? 0 : 1;
+}
+
+} // namespace quovara

@@ -1,0 +1,212 @@
+// `quovara --extract-here`: each archive extracted beside itself through its progress window,
+// in the three layouts, never over anything that exists, with its name on every message.
+#include "mainwindow_fixture.h"
+
+#include "ui/jobs/extractherejob.h"
+
+#include <QProcess>
+#include <unistd.h>
+
+namespace quovara::testing {
+namespace {
+
+QStringList entries(const QString& folder) {
+    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot,
+                                  QDir::Name);
+}
+
+QByteArray readFile(const QString& path) {
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<missing>");
+}
+
+class ExtractHere : public MainWindow {
+protected:
+    void SetUp() override {
+        MainWindow::SetUp();
+        here_ = places_.path() + "/here";
+        QDir().mkpath(here_);
+    }
+
+    // An archive in `here_` made by the stand-in engine of everything in `folder`.
+    QString archiveOf(const QString& folder, const QString& name, QStringList switches = {}) {
+        const QString archive = here_ + "/" + name;
+        QProcess p;
+        p.setWorkingDirectory(folder);
+        p.start(kSix, QStringList{"a"} + switches + QStringList{"-r+", "-y+", archive, "*"});
+        EXPECT_TRUE(p.waitForFinished(30000));
+        EXPECT_EQ(p.exitCode(), 0) << p.readAll().toStdString();
+        return archive;
+    }
+
+    QString oneFolder() {
+        const QString from = places_.path() + "/onefolder";
+        writeFile(from + "/Holiday/beach.txt", "beach");
+        writeFile(from + "/Holiday/2026/sea.txt", "sea");
+        return archiveOf(from, "holiday.uha");
+    }
+    QString oneFile() {
+        const QString from = places_.path() + "/onefile";
+        writeFile(from + "/report.txt", "the report");
+        return archiveOf(from, "report.uha");
+    }
+
+    QString named(const QString& archive, const char* text) {
+        return QString::fromLatin1(extract_here::AboutArchive)
+            .arg(QFileInfo(archive).fileName(), QString::fromLatin1(text));
+    }
+
+    QString here_;
+};
+
+TEST_F(ExtractHere, AnArchiveOfOneFolderIsExtractedAsItIs) {
+    const QString archive = oneFolder();
+    EXPECT_EQ(window_.ExtractHere({archive}), 0);
+    EXPECT_EQ(entries(here_), QStringList({"Holiday", "holiday.uha"}));
+    EXPECT_EQ(readFile(here_ + "/Holiday/2026/sea.txt"), "sea");
+    EXPECT_EQ(readFile(here_ + "/Holiday/beach.txt"), "beach");
+    EXPECT_TRUE(prompter_.shown.isEmpty()) << prompter_.shown.join('|').toStdString();
+    // The main window never showed.
+    EXPECT_FALSE(window_.isVisible());
+}
+
+TEST_F(ExtractHere, AnArchiveOfOneFileIsExtractedAsItIs) {
+    const QString archive = oneFile();
+    EXPECT_EQ(window_.ExtractHere({archive}), 0);
+    EXPECT_EQ(entries(here_), QStringList({"report.txt", "report.uha"}));
+    EXPECT_EQ(readFile(here_ + "/report.txt"), "the report");
+}
+
+TEST_F(ExtractHere, AnArchiveOfManyEntriesGetsAFolderNamedAfterIt) {
+    const QString archive = archiveOf(src_, "plain.uha");
+    EXPECT_EQ(window_.ExtractHere({archive}), 0);
+    EXPECT_EQ(entries(here_), QStringList({"plain", "plain.uha"}));
+    EXPECT_EQ(entries(here_ + "/plain"), QStringList({"a", "root.txt"}));
+    EXPECT_EQ(readFile(here_ + "/plain/a/b/dd.txt"), "dd in a\\b");
+}
+
+TEST_F(ExtractHere, TakenNamesAreNeverWrittenIntoButNumbered) {
+    const QString many = archiveOf(src_, "plain.uha");
+    const QString folder = oneFolder();
+    const QString file = oneFile();
+    writeFile(here_ + "/plain/mine.txt", "mine");
+    writeFile(here_ + "/Holiday/beach.txt", "my own beach");
+    writeFile(here_ + "/report.txt", "my report");
+    EXPECT_EQ(window_.ExtractHere({many, folder, file}), 0);
+    EXPECT_EQ(entries(here_),
+              QStringList({"Holiday", "Holiday (2)", "holiday.uha", "plain", "plain (2)",
+                           "plain.uha", "report (2).txt", "report.txt", "report.uha"}));
+    EXPECT_EQ(entries(here_ + "/plain"), QStringList({"mine.txt"}));
+    EXPECT_EQ(readFile(here_ + "/Holiday/beach.txt"), "my own beach");
+    EXPECT_EQ(readFile(here_ + "/Holiday (2)/beach.txt"), "beach");
+    EXPECT_EQ(readFile(here_ + "/report.txt"), "my report");
+    EXPECT_EQ(readFile(here_ + "/report (2).txt"), "the report");
+    EXPECT_EQ(readFile(here_ + "/plain (2)/root.txt"), "root file");
+}
+
+TEST_F(ExtractHere, NamesInEveryLanguageRoundTrip) {
+    const QString from = places_.path() + "/languages";
+    writeFile(from + "/Zażółć gęślą jaźń.txt", "pl");
+    writeFile(from + "/Привет/мир.txt", "ru");
+    writeFile(from + "/日本語/ファイル.txt", "ja");
+    const QString archive = archiveOf(from, "Zdjęcia Фото 写真.uha");
+    EXPECT_EQ(window_.ExtractHere({archive}), 0);
+    const QString out = here_ + "/Zdjęcia Фото 写真";
+    EXPECT_EQ(entries(out), QStringList({"Zażółć gęślą jaźń.txt", "Привет", "日本語"}));
+    EXPECT_EQ(readFile(out + "/日本語/ファイル.txt"), "ja");
+    EXPECT_EQ(readFile(out + "/Привет/мир.txt"), "ru");
+}
+
+TEST_F(ExtractHere, AProtectedArchiveAsksForItsPasswordAgainAfterAWrongOne) {
+    const QString archive = archiveOf(src_, "protected.uha", {"-pwsecret"});
+    prompter_.answers = {"wrong", "secret"};
+    EXPECT_EQ(window_.ExtractHere({archive}), 0);
+    // The engine refuses a wrong password as it refuses a damaged archive: its message is
+    // shown and the password asked for again.
+    EXPECT_EQ(prompter_.shown,
+              QStringList({"prompt: " + named(archive, "Insert Password"),
+                           "critical: " + named(archive, "Can't read from archive file / "
+                                                         "Unexpected end of file (maybe corrupt)"),
+                           "prompt: " + named(archive, "Insert Password")}));
+    EXPECT_EQ(readFile(here_ + "/protected/a/d.txt"), "d in a");
+}
+
+TEST_F(ExtractHere, ACancelledPasswordPromptWritesNothing) {
+    const QString archive = archiveOf(src_, "protected.uha", {"-pwsecret"});
+    prompter_.answers = {QString()};
+    EXPECT_EQ(window_.ExtractHere({archive}), 1);
+    EXPECT_EQ(prompter_.shown,
+              QStringList({"prompt: " + named(archive, "Insert Password"),
+                           "critical: " + named(archive, extract_here::NoPassword)}));
+    EXPECT_EQ(entries(here_), QStringList({"protected.uha"}));
+}
+
+TEST_F(ExtractHere, AFileThatIsNotAnArchiveIsRefusedByName) {
+    writeFile(here_ + "/notes.txt", "just text");
+    EXPECT_EQ(window_.ExtractHere({here_ + "/notes.txt"}), 1);
+    EXPECT_EQ(prompter_.shown, QStringList({"critical: " + named(here_ + "/notes.txt",
+                                                                 extract_here::NotAnArchive)}));
+    EXPECT_EQ(entries(here_), QStringList({"notes.txt"}));
+}
+
+TEST_F(ExtractHere, ABrokenArchiveShowsTheEnginesErrorWithItsNameAndLeavesNothing) {
+    writeFile(here_ + "/broken.uha", "this is not what the engine wrote");
+    EXPECT_EQ(window_.ExtractHere({here_ + "/broken.uha"}), 1);
+    ASSERT_FALSE(prompter_.shown.isEmpty());
+    EXPECT_TRUE(prompter_.shown.first().startsWith("critical: broken.uha:\n"))
+        << prompter_.shown.join('|').toStdString();
+    EXPECT_EQ(entries(here_), QStringList({"broken.uha"}));
+}
+
+TEST_F(ExtractHere, AFolderThatCannotBeWrittenToIsSaidAndNothingIsWritten) {
+    const QString archive = oneFile();
+    const QString locked = places_.path() + "/locked";
+    QDir().mkpath(locked);
+    bool mounted = false;
+    if (::geteuid() == 0) {
+        // Root writes into any folder: a read-only file system stands in for one it may not.
+        QProcess mount;
+        mount.start("mount", {"-t", "tmpfs", "-o", "size=1m", "tmpfs", locked});
+        if (!mount.waitForFinished(10000) || mount.exitCode() != 0)
+            GTEST_SKIP() << "running as root and no file system can be mounted here";
+        mounted = true;
+        ASSERT_TRUE(QFile::copy(archive, locked + "/report.uha"));
+        mount.start("mount", {"-o", "remount,ro", locked});
+        ASSERT_TRUE(mount.waitForFinished(10000));
+        ASSERT_EQ(mount.exitCode(), 0);
+    } else {
+        ASSERT_TRUE(QFile::copy(archive, locked + "/report.uha"));
+        QFile::setPermissions(locked, QFile::ReadOwner | QFile::ExeOwner);
+    }
+    const int status = window_.ExtractHere({locked + "/report.uha"});
+    const QStringList inside = entries(locked);
+    if (mounted)
+        QProcess::execute("umount", {locked});
+    else
+        QFile::setPermissions(locked, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    EXPECT_EQ(status, 1);
+    EXPECT_EQ(inside, QStringList({"report.uha"}));
+    ASSERT_EQ(prompter_.shown.size(), 1);
+    EXPECT_TRUE(prompter_.shown.first().startsWith(
+        "critical: report.uha:\nNothing was extracted: the folder " + locked +
+        " cannot be written to ("))
+        << prompter_.shown.first().toStdString();
+}
+
+TEST_F(ExtractHere, SeveralArchivesRunInTurnAndASummaryNamesThoseThatFailed) {
+    const QString folder = oneFolder();
+    writeFile(here_ + "/notes.txt", "just text");
+    const QString file = oneFile();
+    EXPECT_EQ(window_.ExtractHere({folder, here_ + "/notes.txt", file, here_ + "/gone.uha"}), 1);
+    EXPECT_EQ(prompter_.shown,
+              QStringList({"critical: " + named(here_ + "/notes.txt", extract_here::NotAnArchive),
+                           "critical: " + named(here_ + "/gone.uha", extract_here::NotFound),
+                           "critical: These archives were not extracted:\n\n" + here_ +
+                               "/notes.txt\n" + here_ + "/gone.uha"}));
+    // Those that could be extracted were.
+    EXPECT_EQ(readFile(here_ + "/Holiday/beach.txt"), "beach");
+    EXPECT_EQ(readFile(here_ + "/report.txt"), "the report");
+}
+
+} // namespace
+} // namespace quovara::testing
