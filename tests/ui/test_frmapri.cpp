@@ -867,8 +867,8 @@ TEST_F(MainWindow, ADragWithoutALocalFileIsRefused) {
     EXPECT_FALSE(enter.isAccepted());
 }
 
-TEST_F(MainWindow, NothingIsDraggedOutOfTheMirrorTree) {
-    const QString archive = makeArchive(kSix, "nodrag.uha");
+TEST_F(MainWindow, EntriesCanBeDraggedInEveryViewModeOfTheMirrorTree) {
+    const QString archive = makeArchive(kSix, "drag.uha");
     ASSERT_TRUE(window_.Form_Load(QString()));
     show();
     EXPECT_TRUE(window_.fileView()->dragOut());
@@ -877,7 +877,7 @@ TEST_F(MainWindow, NothingIsDraggedOutOfTheMirrorTree) {
     ASSERT_TRUE(archiveLayout());
     for (int mode = 0; mode < 4; ++mode) {
         window_.fileView()->setViewMode(mode);
-        EXPECT_FALSE(window_.fileView()->currentView()->dragEnabled()) << mode;
+        EXPECT_TRUE(window_.fileView()->currentView()->dragEnabled()) << mode;
     }
     window_.fileView()->setFolder(places_.path());
     EXPECT_TRUE(window_.fileView()->currentView()->dragEnabled());

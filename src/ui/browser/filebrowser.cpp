@@ -1,6 +1,7 @@
 #include "filebrowser.h"
 
 #include "detailsmodel.h"
+#include "entrydrag.h"
 #include "fileicons.h"
 #include "focusframe.h"
 
@@ -8,10 +9,12 @@
 
 #include <QContextMenuEvent>
 #include <QDir>
+#include <QDrag>
 #include <QEvent>
 #include <QFileInfo>
 #include <QFileSystemModel>
 #include <QHeaderView>
+#include <QIcon>
 #include <QItemSelectionModel>
 #include <QListView>
 #include <QMouseEvent>
@@ -30,9 +33,13 @@ FileBrowser::FileBrowser(QWidget* parent) : QWidget(parent) {
     model_->setFilter(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::System);
     model_->setReadOnly(true);
 
-    list_ = new QListView(this);
+    auto* list = new BrowserListView(this);
+    list->dragStarter = [this, list] { return startContentDrag(list); };
+    list_ = list;
     list_->setObjectName(QStringLiteral("FileViewList"));
-    tree_ = new QTreeView(this);
+    auto* tree = new BrowserTreeView(this);
+    tree->dragStarter = [this, tree] { return startContentDrag(tree); };
+    tree_ = tree;
     tree_->setObjectName(QStringLiteral("FileViewReport"));
     tree_->setRootIsDecorated(false);
     tree_->setItemsExpandable(false);
@@ -277,6 +284,26 @@ void FileBrowser::setDragOut(bool allowed) {
         v->setDragEnabled(allowed);
         v->setDragDropMode(allowed ? QAbstractItemView::DragOnly : QAbstractItemView::NoDragDrop);
     }
+}
+
+void FileBrowser::setDragContent(std::function<QMimeData*()> make) {
+    dragContent_ = std::move(make);
+}
+
+bool FileBrowser::startContentDrag(QAbstractItemView* view) {
+    if (!dragContent_)
+        return false;
+    QMimeData* data = dragContent_();
+    if (!data)
+        return true;
+    auto* drag = new QDrag(view);
+    drag->setMimeData(data);
+    // The picture under the pointer: the icon of the item the drag began on.
+    const QIcon icon = view->currentIndex().data(Qt::DecorationRole).value<QIcon>();
+    if (!icon.isNull())
+        drag->setPixmap(icon.pixmap(view->iconSize().isValid() ? view->iconSize() : QSize(32, 32)));
+    drag->exec(Qt::CopyAction, Qt::CopyAction);
+    return true;
 }
 
 void FileBrowser::setViewMode(int mode) {

@@ -6,6 +6,7 @@
 #include <QStringList>
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 
 class QFileSystemModel;
@@ -14,6 +15,7 @@ class QTreeView;
 class QStackedWidget;
 class QAbstractItemView;
 class QModelIndex;
+class QMimeData;
 
 namespace quovara {
 
@@ -45,10 +47,13 @@ public:
     // in an archive's mirror tree, where they are entries like any other.
     void setShowHidden(bool show);
 
-    // Whether items can be dragged out of the view (never from an archive's mirror tree, whose
-    // files are empty placeholders, not the archive's files).
+    // Whether items can be dragged out of the view.
     void setDragOut(bool allowed);
     bool dragOut() const { return dragOut_; }
+    // What a drag out of the view carries, made when the drag starts (null: nothing is
+    // dragged). Unset, a drag carries the selected files themselves; inside an archive's
+    // mirror tree, whose files are empty placeholders, it carries the entries instead.
+    void setDragContent(std::function<QMimeData*()> make);
 
     // Inside an archive the Report view shows the entries' details from its listing (their
     // columns and order of its own); null goes back to the file system's columns. `treeRoot`
@@ -89,6 +94,8 @@ private:
     void showFocusItem(QAbstractItemView* view);
     // The menu for a right click at `pos` of `view`'s viewport, or for the keyboard.
     void requestMenu(QAbstractItemView* view, const QPoint* pos);
+    // Runs a drag of `view` with the content set above; false when none is set.
+    bool startContentDrag(QAbstractItemView* view);
 
     QFileSystemModel* model_;
     DetailsModel* details_;
@@ -96,6 +103,7 @@ private:
     bool namesInOrder_ = true;
     QStackedWidget* stack_;
     bool dragOut_ = true;
+    std::function<QMimeData*()> dragContent_;
     QListView* list_;
     QTreeView* tree_;
     QString folder_;

@@ -338,8 +338,11 @@ void frmApri::onFolderChanged(const QString& folder) {
     ShComboBox1->setEditText(QDir::toNativeSeparators(folder));
     ShComboBox1->blockSignals(false);
 
-    // Nothing is dragged out of the mirror tree: its files are empty placeholders.
-    FileView1->setDragOut(!insideScratchFolder(folder));
+    // A drag out of the mirror tree carries the entries, not its empty placeholders.
+    if (insideScratchFolder(folder))
+        FileView1->setDragContent([this] { return makeEntryDrag(); });
+    else
+        FileView1->setDragContent({});
 
     // Climbing out of the mirror tree into the work folder goes back to where the archive was.
     if (!Barra->isHidden()) {
@@ -358,10 +361,7 @@ void frmApri::onFolderChanged(const QString& folder) {
 }
 
 QString frmApri::archiveItemOf(const QString& path) const {
-    const QString sep(PathStyle::host().sep);
-    const int prefix = LongPath(TempRoot()).size() +
-                       (sep + names::WorkFolderName + sep + names::ScratchFolderName + sep).size();
-    QString item = path.mid(prefix);
+    QString item = mirrorRelativePath(path);
     item.replace(PathStyle::host().sep, QLatin1Char('\\'));
     // A name shown otherwise than stored (the file system could not hold it) goes to the
     // engine as stored.

@@ -13,6 +13,7 @@
 #include <QMainWindow>
 
 class QShortcut;
+class QUrl;
 class QMimeData;
 class QDragEnterEvent;
 class QDropEvent;
@@ -187,6 +188,21 @@ private:
     void stopSearch();
     bool writeTestScript();
     QString archiveItemOf(const QString& path) const;
+    // `path` of the mirror tree relative to its root (host separators).
+    QString mirrorRelativePath(const QString& path) const;
+
+    // Dragging entries out (frmapri_dragout.cpp): what the drag carries, and the extraction
+    // when its target asks for them.
+    struct DragRequest {
+        QString archive;
+        QString password;
+        QStringList patterns; // as the engine stores them, a folder as "name\*.*"
+        QStringList shown;    // the dragged items relative to the mirror tree's root
+    };
+    QMimeData* makeEntryDrag();
+    QList<QUrl> extractForDrag(const DragRequest& request);
+    // The folder that holds the last drag's extracted entries.
+    QString dragStaging_;
 
     MessagePrompter messagePrompter_;
     Prompter* prompter_;

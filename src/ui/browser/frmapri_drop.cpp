@@ -2,6 +2,8 @@
 // offered to the Add dialog.
 #include "frmapri.h"
 
+#include "entrydrag.h"
+
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QDropEvent>
@@ -12,6 +14,10 @@
 namespace quovara {
 
 void frmApri::dragEnterEvent(QDragEnterEvent* event) {
+    // Entries dragged from this window are not dropped back onto it (asking for them would
+    // extract them).
+    if (qobject_cast<const EntryDragData*>(event->mimeData()))
+        return;
     if (!droppedPath(event->mimeData()).isEmpty())
         event->acceptProposedAction();
 }

@@ -1,0 +1,100 @@
+// Dragging the selected entries of an archive out of the browser onto a file manager's folder
+// or the desktop. The drag offers them as files (see entrydrag.h); when the drop target asks,
+// they are extracted with their folders into a new private folder of the work folder, through
+// the extract progress window, and the dragged items are handed over from there: a dragged
+// folder brings what lies below it, never the folders above. A failed or stopped extraction
+// hands over nothing and leaves nothing behind.
+#include "entrydrag.h"
+#include "filebrowser.h"
+#include "frmapri.h"
+
+#include "core/logging.h"
+#include "core/places.h"
+#include "engine/grammar.h"
+#include "ui/jobs/frmprogress.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QPointer>
+#include <QTemporaryDir>
+
+namespace quovara {
+
+QMimeData* frmApri::makeEntryDrag() {
+    QStringList patterns;
+    QStringList shown;
+    for (const QString& path : FileView1->selectedPaths()) {
+        QString item = archiveItemOf(path);
+        if (item.startsWith(QLatin1Char('\\')))
+            item.remove(0, 1);
+        if (item.isEmpty())
+            continue;
+        patterns << item;
+        shown << mirrorRelativePath(path);
+    }
+    if (patterns.isEmpty())
+        return nullptr;
+    // The archive as it is now: the drop comes later, and the window may have moved on.
+    DragRequest request{lister_.listing().archivePath, lister_.listing().password, patterns, shown};
+    QPointer<frmApri> self(this);
+    return new EntryDragData(
+        [self, request] { return self ? self->extractForDrag(request) : QList<QUrl>(); });
+}
+
+QList<QUrl> frmApri::extractForDrag(const DragRequest& request) {
+    // Only the last drag's files are kept (its target may still be copying them).
+    if (!dragStaging_.isEmpty() && !QDir(dragStaging_).removeRecursively())
+        qCDebug(lcFiles) << "could not remove the previous drag's folder" << dragStaging_;
+    dragStaging_.clear();
+    QTemporaryDir made(PathStyle::host().join(WorkFolder(), QStringLiteral("drag-XXXXXX")));
+    if (!made.isValid()) {
+        prompter_->critical(WorkFolderMessage(WorkFolder(), made.errorString()));
+        return {};
+    }
+    made.setAutoRemove(false);
+    const QString staging = made.path();
+
+    ExtractOptions options;
+    options.fullPath = true;
+    options.destination = QDir::toNativeSeparators(staging);
+    options.archive = QDir::toNativeSeparators(request.archive);
+    options.password = request.password;
+    options.passwordTicked = !request.password.isEmpty();
+    options.choice = FileChoice::FileTypes;
+    // The patterns are separated by commas: a comma in a name is matched by "?" instead.
+    QStringList patterns = request.patterns;
+    for (QString& pattern : patterns)
+        pattern.replace(QLatin1Char(','), QLatin1Char('?'));
+    options.fileTypes = patterns.join(QLatin1Char(','));
+    QString refused;
+    const bool ran = WriteExtractJobScript(WorkFile(names::ExtractScript), options, ProgramFolder(),
+                                           TempRoot(), PathStyle::host(), &refused);
+    if (!ran)
+        prompter_->critical(refused);
+    if (!ran || !RunJobWindow(JobKind::Extract, *this, request.archive)) {
+        // Failed or stopped: what the engine wrote goes, and the target is given nothing.
+        if (!QDir(staging).removeRecursively())
+            qCDebug(lcFiles) << "could not remove the drag's folder" << staging;
+        return {};
+    }
+    dragStaging_ = staging;
+    QList<QUrl> urls;
+    for (const QString& relative : request.shown) {
+        const QString extracted = PathStyle::host().join(staging, relative);
+        if (QFileInfo::exists(extracted))
+            urls << QUrl::fromLocalFile(extracted);
+        else
+            qCDebug(lcFiles) << "a dragged entry was not extracted:" << relative;
+    }
+    return urls;
+}
+
+QString frmApri::mirrorRelativePath(const QString& path) const {
+    const QString sep(PathStyle::host().sep);
+    const qsizetype prefix =
+        LongPath(TempRoot()).size() +
+        (sep + names::WorkFolderName + sep + names::ScratchFolderName + sep).size();
+    return path.mid(prefix);
+}
+
+} // namespace quovara
