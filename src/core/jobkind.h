@@ -1,4 +1,4 @@
-// JobKind: the kinds of engine job the program runs (Overview, "Shared types and helpers").
+// JobKind: the kinds of engine job the program runs, shared by the job windows and the runner.
 #pragma once
 
 namespace quovara {
