@@ -4,6 +4,7 @@
 
 #include "ui/jobs/extractherejob.h"
 
+#include <QLockFile>
 #include <QProcess>
 #include <unistd.h>
 
@@ -206,6 +207,21 @@ TEST_F(ExtractHere, SeveralArchivesRunInTurnAndASummaryNamesThoseThatFailed) {
     // Those that could be extracted were.
     EXPECT_EQ(readFile(here_ + "/Holiday/beach.txt"), "beach");
     EXPECT_EQ(readFile(here_ + "/report.txt"), "the report");
+}
+
+} // namespace
+} // namespace quovara::testing
+
+namespace quovara::testing {
+namespace {
+
+TEST_F(ExtractHere, WhileAQuovaraWindowIsOpenItSaysSoAndExtractsNothing) {
+    const QString archive = oneFile();
+    QLockFile other(lockPath_);
+    ASSERT_TRUE(other.tryLock(0));
+    EXPECT_EQ(window_.ExtractHere({archive}), 1);
+    EXPECT_EQ(prompter_.shown, QStringList({"exclamation: Quovara is already running"}));
+    EXPECT_EQ(entries(here_), QStringList({"report.uha"}));
 }
 
 } // namespace

@@ -2,6 +2,8 @@
 
 #include "core/logging.h"
 
+#include <QEventLoop>
+
 namespace quovara {
 
 namespace {
@@ -22,23 +24,36 @@ QVariant EntryDragData::retrieveData(const QString& mimeType, QMetaType type) co
     Q_UNUSED(type);
     if (mimeType != kUriList)
         return QVariant();
-    if (!urls_) {
-        // A target that asks again while the progress window runs (its event loop lets it)
-        // gets nothing this time rather than a second extraction.
-        if (extracting_) {
-            qCDebug(lcFiles) << "the dragged entries were asked for again while being extracted";
-            return QVariant();
-        }
+    if (!urls_ && extracting_) {
+        // Asked again while the extraction runs (a file manager asks while the pointer moves
+        // and again on the drop; the progress window's event loop lets the second request in):
+        // the answer waits for the same extraction, which ends in this loop.
+        qCDebug(lcFiles) << "the dragged entries were asked for again while being extracted";
+        QEventLoop wait;
+        connect(this, &EntryDragData::delivered, &wait, &QEventLoop::quit);
+        wait.exec();
+    } else if (!urls_) {
         extracting_ = true;
-        urls_ = extract_ ? extract_() : QList<QUrl>();
+        const QList<QUrl> urls =
+            extract_ ? extract_([this](const QList<QUrl>& known) { deliver(known); })
+                     : QList<QUrl>();
         extracting_ = false;
+        if (!urls_)
+            deliver(urls);
     }
-    if (urls_->isEmpty())
+    if (!urls_ || urls_->isEmpty())
         return QVariant();
     QVariantList list;
     for (const QUrl& url : *urls_)
         list << url;
     return list;
+}
+
+void EntryDragData::deliver(const QList<QUrl>& urls) const {
+    if (urls_)
+        return;
+    urls_ = urls;
+    emit const_cast<EntryDragData*>(this)->delivered();
 }
 
 } // namespace quovara

@@ -21,9 +21,11 @@ namespace quovara {
 class EntryDragData : public QMimeData {
     Q_OBJECT
 public:
-    // Extracts the dragged entries and returns the files and folders to hand over (empty when
-    // nothing was extracted).
-    using Extractor = std::function<QList<QUrl>()>;
+    // Hands over the files and folders to offer (empty when nothing was extracted). An
+    // extractor calls it as soon as it knows, which may be before it returns.
+    using Deliver = std::function<void(const QList<QUrl>&)>;
+    // Extracts the dragged entries, delivers what to hand over, and returns it too.
+    using Extractor = std::function<QList<QUrl>(const Deliver& deliver)>;
     explicit EntryDragData(Extractor extract);
 
     QStringList formats() const override;
@@ -31,10 +33,16 @@ public:
     // Whether the target has asked for the entries (and they were extracted or refused).
     bool asked() const { return urls_.has_value(); }
 
+signals:
+    // What to hand over is known.
+    void delivered();
+
 protected:
     QVariant retrieveData(const QString& mimeType, QMetaType type) const override;
 
 private:
+    void deliver(const QList<QUrl>& urls) const;
+
     mutable Extractor extract_;
     mutable std::optional<QList<QUrl>> urls_;
     mutable bool extracting_ = false;

@@ -200,7 +200,9 @@ private:
         QStringList shown;    // the dragged items relative to the mirror tree's root
     };
     QMimeData* makeEntryDrag();
-    QList<QUrl> extractForDrag(const DragRequest& request);
+    QList<QUrl> extractForDrag(const DragRequest& request,
+                               const std::function<void(const QList<QUrl>&)>& deliver);
+    void discardDragFolder(const QString& folder);
     // The folder that holds the last drag's extracted entries.
     QString dragStaging_;
 

@@ -37,14 +37,16 @@ QMimeData* frmApri::makeEntryDrag() {
     // The archive as it is now: the drop comes later, and the window may have moved on.
     DragRequest request{lister_.listing().archivePath, lister_.listing().password, patterns, shown};
     QPointer<frmApri> self(this);
-    return new EntryDragData(
-        [self, request] { return self ? self->extractForDrag(request) : QList<QUrl>(); });
+    return new EntryDragData([self, request](const EntryDragData::Deliver& deliver) {
+        return self ? self->extractForDrag(request, deliver) : QList<QUrl>();
+    });
 }
 
-QList<QUrl> frmApri::extractForDrag(const DragRequest& request) {
+QList<QUrl> frmApri::extractForDrag(const DragRequest& request,
+                                    const std::function<void(const QList<QUrl>&)>& deliver) {
     // Only the last drag's files are kept (its target may still be copying them).
-    if (!dragStaging_.isEmpty() && !QDir(dragStaging_).removeRecursively())
-        qCDebug(lcFiles) << "could not remove the previous drag's folder" << dragStaging_;
+    if (!dragStaging_.isEmpty())
+        discardDragFolder(dragStaging_);
     dragStaging_.clear();
     QTemporaryDir made(PathStyle::host().join(WorkFolder(), QStringLiteral("drag-XXXXXX")));
     if (!made.isValid()) {
@@ -67,26 +69,37 @@ QList<QUrl> frmApri::extractForDrag(const DragRequest& request) {
         pattern.replace(QLatin1Char(','), QLatin1Char('?'));
     options.fileTypes = patterns.join(QLatin1Char(','));
     QString refused;
-    const bool ran = WriteExtractJobScript(WorkFile(names::ExtractScript), options, ProgramFolder(),
-                                           TempRoot(), PathStyle::host(), &refused);
-    if (!ran)
+    if (!WriteExtractJobScript(WorkFile(names::ExtractScript), options, ProgramFolder(), TempRoot(),
+                               PathStyle::host(), &refused)) {
         prompter_->critical(refused);
-    if (!ran || !RunJobWindow(JobKind::Extract, *this, request.archive)) {
-        // Failed or stopped: what the engine wrote goes, and the target is given nothing.
-        if (!QDir(staging).removeRecursively())
-            qCDebug(lcFiles) << "could not remove the drag's folder" << staging;
+        discardDragFolder(staging);
         return {};
     }
-    dragStaging_ = staging;
+    // The outcome is worked out as soon as the window unloads: a target that asked again
+    // meanwhile waits for it further up the stack.
     QList<QUrl> urls;
-    for (const QString& relative : request.shown) {
-        const QString extracted = PathStyle::host().join(staging, relative);
-        if (QFileInfo::exists(extracted))
-            urls << QUrl::fromLocalFile(extracted);
-        else
-            qCDebug(lcFiles) << "a dragged entry was not extracted:" << relative;
-    }
+    RunJobWindow(JobKind::Extract, *this, request.archive, [&](bool succeeded) {
+        if (!succeeded) {
+            // Failed or stopped: what the engine wrote goes, and the target is given nothing.
+            discardDragFolder(staging);
+        } else {
+            dragStaging_ = staging;
+            for (const QString& relative : request.shown) {
+                const QString extracted = PathStyle::host().join(staging, relative);
+                if (QFileInfo::exists(extracted))
+                    urls << QUrl::fromLocalFile(extracted);
+                else
+                    qCDebug(lcFiles) << "a dragged entry was not extracted:" << relative;
+            }
+        }
+        deliver(urls);
+    });
     return urls;
+}
+
+void frmApri::discardDragFolder(const QString& folder) {
+    if (!QDir(folder).removeRecursively())
+        qCDebug(lcFiles) << "could not remove the drag's folder" << folder;
 }
 
 QString frmApri::mirrorRelativePath(const QString& path) const {

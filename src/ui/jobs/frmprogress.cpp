@@ -279,12 +279,22 @@ void RunJobWindow(JobKind kind, frmApri& main) {
 }
 
 bool RunJobWindow(JobKind kind, frmApri& main, const QString& archivePath) {
+    return RunJobWindow(kind, main, archivePath, {});
+}
+
+bool RunJobWindow(JobKind kind, frmApri& main, const QString& archivePath,
+                  const std::function<void(bool succeeded)>& onEnd) {
     const ProgressKind* row = ProgressKindOf(kind);
     if (!row) {
         qCWarning(lcJobWindow) << "no progress window for job kind" << int(kind);
+        if (onEnd)
+            onEnd(false);
         return false;
     }
     frmProgress window(*row, main, archivePath);
+    if (onEnd)
+        QObject::connect(&window, &frmProgress::unloaded, &window,
+                         [&window, &onEnd] { onEnd(window.succeeded()); });
     window.exec();
     return window.succeeded();
 }

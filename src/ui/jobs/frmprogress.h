@@ -14,6 +14,7 @@
 #include <QString>
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 
 class QGroupBox;
@@ -35,6 +36,12 @@ void RunJobWindow(JobKind kind, frmApri& main);
 // that the job script names, else the main window's archive. True when the job came to its
 // normal end (no engine error, not stopped).
 bool RunJobWindow(JobKind kind, frmApri& main, const QString& archivePath);
+
+// The same, calling `onEnd` with the outcome as soon as the window has unloaded, before this
+// returns: a caller whose own caller may be waiting further up the stack (a drop target asking
+// again in a nested event loop) learns of the end at once.
+bool RunJobWindow(JobKind kind, frmApri& main, const QString& archivePath,
+                  const std::function<void(bool succeeded)>& onEnd);
 
 // Texts of the windows.
 namespace progress {

@@ -10,6 +10,7 @@
 #include <QDirIterator>
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QEventLoop>
 #include <QMimeData>
 #include <QTimer>
 #include <QWindow>
@@ -124,7 +125,7 @@ protected:
 
 TEST(EntryDragDataTest, TheEntriesAreExtractedOnceWhenTheTargetAsksForThem) {
     int calls = 0;
-    EntryDragData data([&] {
+    EntryDragData data([&](const EntryDragData::Deliver&) {
         ++calls;
         return QList<QUrl>{QUrl::fromLocalFile("/tmp/x/a.txt"), QUrl::fromLocalFile("/tmp/x/b")};
     });
@@ -140,8 +141,31 @@ TEST(EntryDragDataTest, TheEntriesAreExtractedOnceWhenTheTargetAsksForThem) {
     EXPECT_TRUE(data.asked());
 }
 
+TEST(EntryDragDataTest, ATargetAskingAgainDuringTheExtractionWaitsForTheSameOne) {
+    const QList<QUrl> list{QUrl::fromLocalFile("/tmp/x/a.txt")};
+    int calls = 0;
+    QList<QUrl> askedAgain{QUrl("file:///nothing-yet")};
+    EntryDragData* self = nullptr;
+    EntryDragData data([&](const EntryDragData::Deliver& deliver) {
+        ++calls;
+        // The extraction's event loop lets a second request in before the job has ended.
+        QEventLoop job;
+        QTimer::singleShot(0, [&] {
+            askedAgain = self->urls();
+            job.quit();
+        });
+        QTimer::singleShot(50, [&] { deliver(list); });
+        job.exec();
+        return list;
+    });
+    self = &data;
+    EXPECT_EQ(data.urls(), list);
+    EXPECT_EQ(askedAgain, list);
+    EXPECT_EQ(calls, 1);
+}
+
 TEST(EntryDragDataTest, NothingExtractedMeansNothingOffered) {
-    EntryDragData data([] { return QList<QUrl>(); });
+    EntryDragData data([](const EntryDragData::Deliver&) { return QList<QUrl>(); });
     EXPECT_TRUE(data.urls().isEmpty());
     EXPECT_TRUE(data.data("text/uri-list").isEmpty());
 }
@@ -253,7 +277,7 @@ TEST_F(DragOut, AStoppedExtractionOffersNothingAndLeavesNothingBehind) {
 TEST_F(DragOut, EntriesAreNotDroppedBackOntoTheWindow) {
     openArchive(makeArchive(kSix, "plain.uha"));
     int calls = 0;
-    EntryDragData data([&] {
+    EntryDragData data([&](const EntryDragData::Deliver&) {
         ++calls;
         return QList<QUrl>{QUrl::fromLocalFile(places_.path() + "/plain.uha")};
     });
