@@ -311,6 +311,7 @@ int main(int argc, char** argv) {
                     ++countsShown;
             }
         };
+        const double before = statusMiB("VmRSS");
         peakReset = resetPeak() && peakReset;
         probe.start();
         QElapsedTimer t;
@@ -329,9 +330,9 @@ int main(int argc, char** argv) {
         baselines.back() = engineMs + bareMs;
         std::printf("open %d: %8.1f ms; engine run %6.1f ms + bare loop %7.1f ms = %8.1f ms; "
                     "ratio %.2f; longest event-loop gap %3.0f ms; entry counts shown %d; "
-                    "peak memory %.1f MiB\n",
+                    "resident before %.1f MiB, peak %.1f MiB\n",
                     r + 1, ms, engineMs, bareMs, engineMs + bareMs, ms / (engineMs + bareMs),
-                    gaps.back(), countsShown, peaks.back());
+                    gaps.back(), countsShown, before, peaks.back());
     }
     waitForBackgroundDeletes();
     QTest::qWait(200);

@@ -187,7 +187,7 @@ void ArchiveDetails::add(QStringView path, const EntryDetails& d) {
 
 void ArchiveDetails::place(QStringView path, const Packed& p) {
     Q_ASSERT(!finished_);
-    index_.emplace_back(hashOf(path), quint32(entries_.size()));
+    index_.push_back(Slot{hashOf(path), quint32(entries_.size())});
     entries_.push_back(p);
 
     // The entry counts in its folder; a folder met for the first time counts in its own.
@@ -200,7 +200,7 @@ void ArchiveDetails::place(QStringView path, const Packed& p) {
         const bool known = slot != folderSlots_.cend();
         if (!known) {
             slot = folderSlots_.insert(h, quint32(folders_.size()));
-            folders_.emplace_back(h, 0);
+            folders_.push_back(Slot{h, 0});
         }
         ++folders_[*slot].second;
         if (known || cut < 0)
@@ -214,18 +214,33 @@ void ArchiveDetails::finish() {
         return;
     finished_ = true;
     folderSlots_ = {};
-    auto byHash = [](const Slot& a, const Slot& b) { return a.first < b.first; };
-    std::stable_sort(index_.begin(), index_.end(), byHash);
-    // A path listed twice keeps its last line: of each run of equal hashes, the last stays.
+    // Sorted by hash, then by the order of adding (the index): no buffer as a stable sort
+    // would take. A path listed twice keeps its last line: of each run of equal hashes, the
+    // last stays.
+    std::sort(index_.begin(), index_.end());
     size_t kept = 0;
     for (size_t i = 0; i < index_.size(); ++i)
         if (i + 1 == index_.size() || index_[i + 1].first != index_[i].first)
             index_[kept++] = index_[i];
     index_.resize(kept);
-    index_.shrink_to_fit();
-    std::sort(folders_.begin(), folders_.end(), byHash);
-    entries_.shrink_to_fit();
-    folders_.shrink_to_fit();
+    std::sort(folders_.begin(), folders_.end(),
+              [](const Slot& a, const Slot& b) { return a.first < b.first; });
+    // The vectors keep their room: a copy to fit would hold both for a moment, and room
+    // reserved but never written takes no memory.
+}
+
+void ArchiveDetails::reserve(qsizetype entries) {
+    if (entries <= 0 || finished_)
+        return;
+    entries_.reserve(size_t(entries));
+    index_.reserve(size_t(entries));
+}
+
+qsizetype ArchiveDetails::mostEntriesIn(qint64 logBytes) {
+    // Each entry takes a name line (a name, CR, LF) and a detail line of at least 80 bytes.
+    constexpr qint64 kLeastBytesPerEntry = 84;
+    constexpr qint64 kMostReserved = 50'000'000;
+    return qsizetype(std::min(logBytes / kLeastBytesPerEntry + 16, kMostReserved));
 }
 
 const ArchiveDetails::Slot* ArchiveDetails::find(const std::vector<Slot>& v, quint64 key) {
@@ -298,7 +313,8 @@ std::optional<int> ArchiveDetails::folderCountByHash(quint64 hash) const {
 }
 
 qsizetype ArchiveDetails::bytes() const {
-    return qsizetype(entries_.capacity() * sizeof(Packed) + index_.capacity() * sizeof(Slot) +
+    // What is written: room reserved beyond it takes no memory until it is.
+    return qsizetype(entries_.size() * sizeof(Packed) + index_.size() * sizeof(Slot) +
                      folders_.capacity() * sizeof(Slot));
 }
 

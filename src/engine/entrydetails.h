@@ -51,6 +51,11 @@ public:
     static EntryDetails readLine(QStringView line);
     // Ends the adding: afterwards the look-ups work. add() may not be called again.
     void finish();
+    // Makes room for `entries` at once, so that adding never moves what was added (a listing
+    // of 100,000 entries would otherwise hold its old and new room together while it grows).
+    void reserve(qsizetype entries);
+    // The most entries a listing log of `logBytes` bytes can hold (at most 50 million).
+    static qsizetype mostEntriesIn(qint64 logBytes);
 
     // The entry at `path`, or none.
     std::optional<EntryDetails> entry(QStringView path) const;
@@ -86,7 +91,18 @@ private:
     static EntryDetails unpack(const Packed& p);
     static void parseInto(QStringView line, Packed& p);
     void place(QStringView path, const Packed& p);
-    using Slot = std::pair<quint64, quint32>;
+    // A path's hash and what it leads to (an index into entries_, or a folder's count), packed
+    // to 12 bytes: a listing holds one per entry.
+#pragma pack(push, 4)
+    struct Slot {
+        quint64 first;
+        quint32 second;
+        bool operator<(const Slot& o) const {
+            return first != o.first ? first < o.first : second < o.second;
+        }
+    };
+#pragma pack(pop)
+    static_assert(sizeof(Slot) == 12);
     // The slot of `key` in a vector sorted by hash, or null.
     static const Slot* find(const std::vector<Slot>& v, quint64 key);
 

@@ -139,6 +139,8 @@ public:
                 QStringLiteral("it cannot create the folder view %1").arg(treeFolder);
     }
 
+    void reserveDetails(qsizetype entries) { details_->reserve(entries); }
+
     void take(const QString& text) {
         ++pass_.lines;
         if (!versionRequest_ && text.startsWith(QLatin1String("ERROR:"))) {
@@ -236,6 +238,7 @@ ListingPass ReadListingLog(const QString& logPath, const EngineCodec& codec,
         return pass;
     pass.opened = true;
     ListingLineReader reader(pass, treeFolder, entries);
+    reader.reserveDetails(ArchiveDetails::mostEntriesIn(file.size()));
     QByteArray line;
     bool lastWasCr = false;
     auto takeLine = [&](const QByteArray& bytes) { reader.take(DecodeEngineText(bytes, codec)); };

@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QList>
+#include <QProcess>
 #include <QString>
 #include <QTemporaryDir>
 #include <ostream>
@@ -56,6 +57,18 @@ inline void writeExecutable(const QString& path, const QByteArray& content) {
     f.write(content);
     f.close();
     f.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+// Makes `archive` of everything in `folder` (with its sub-folders) with the stand-in `engine`
+// and `switches`; empty when the engine failed.
+inline QString makeArchiveOf(const QString& engine, const QString& folder, const QString& archive,
+                             const QStringList& switches = {}) {
+    QProcess p;
+    p.setWorkingDirectory(folder);
+    p.start(engine, QStringList{"a"} + switches + QStringList{"-r+", "-y+", archive, "*"});
+    if (!p.waitForFinished(30000) || p.exitStatus() != QProcess::NormalExit || p.exitCode() != 0)
+        return QString();
+    return archive;
 }
 
 inline QByteArray readAll(const QString& path) {

@@ -1,6 +1,8 @@
 // Placing an extraction beside its archive: free names, the three layouts, nothing replaced.
 #include "engine/extracthere.h"
 
+#include "../core/test_support.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -9,17 +11,11 @@
 
 namespace quovara {
 namespace {
-
-void writeFile(const QString& path, const QByteArray& bytes) {
-    QDir().mkpath(QFileInfo(path).absolutePath());
-    QFile f(path);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write(bytes);
-}
+using quovara::testing::readAll;
+using quovara::testing::writeFile;
 
 QByteArray readFile(const QString& path) {
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<missing>");
+    return QFileInfo::exists(path) ? readAll(path) : QByteArray("<missing>");
 }
 
 QStringList entries(const QString& folder) {

@@ -128,3 +128,26 @@ TEST(ArchiveDetails, AnEntryShownUnderAnotherNameIsFoundUnderThatName) {
     EXPECT_FALSE(pass.details->entry(u"clash\\x\\y.txt").has_value());
     EXPECT_EQ(pass.details->size(), 2);
 }
+
+namespace quovara {
+
+TEST(ArchiveDetails, RoomForTheEntriesOfALogIsMadeAtOnceAndMoreStillFit) {
+    // A name line and a detail line of the engine take at least 84 bytes.
+    EXPECT_EQ(ArchiveDetails::mostEntriesIn(0), 16);
+    EXPECT_EQ(ArchiveDetails::mostEntriesIn(84 * 1000), 1016);
+    EXPECT_EQ(ArchiveDetails::mostEntriesIn(qint64(1) << 50), 50'000'000);
+    ArchiveDetails details;
+    details.reserve(2);
+    for (int i = 0; i < 40; ++i)
+        details.add(QStringLiteral("f%1.txt").arg(i),
+                    ParseDetailLine(QStringLiteral("%1  01-Jan-2020  01:02:03  ---A  00000001")
+                                        .arg(i)));
+    // A path listed twice keeps its last line.
+    details.add(u"f7.txt", ParseDetailLine(u"777"));
+    details.finish();
+    EXPECT_EQ(details.size(), 41);
+    EXPECT_EQ(details.entry(u"f39.txt")->size, 39u);
+    EXPECT_EQ(details.entry(u"f7.txt")->size, 777u);
+}
+
+} // namespace quovara

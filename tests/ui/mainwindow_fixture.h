@@ -102,13 +102,9 @@ protected:
     }
 
     QString makeArchive(const QString& engine, const QString& name, QStringList switches = {}) {
-        const QString archive = places_.path() + "/" + name;
-        QProcess p;
-        p.setWorkingDirectory(src_);
-        p.start(engine, QStringList{"a"} + switches + QStringList{"-r+", "-y+", archive, "*"});
-        EXPECT_TRUE(p.waitForFinished(30000));
-        EXPECT_EQ(p.exitCode(), 0);
-        return archive;
+        const QString archive = makeArchiveOf(engine, src_, places_.path() + "/" + name, switches);
+        EXPECT_FALSE(archive.isEmpty()) << name.toStdString();
+        return places_.path() + "/" + name;
     }
 
     template <typename T> T* child(const char* name) {

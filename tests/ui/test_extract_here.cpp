@@ -16,11 +16,6 @@ QStringList entries(const QString& folder) {
                                   QDir::Name);
 }
 
-QByteArray readFile(const QString& path) {
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<missing>");
-}
-
 class ExtractHere : public MainWindow {
 protected:
     void SetUp() override {
@@ -31,13 +26,9 @@ protected:
 
     // An archive in `here_` made by the stand-in engine of everything in `folder`.
     QString archiveOf(const QString& folder, const QString& name, QStringList switches = {}) {
-        const QString archive = here_ + "/" + name;
-        QProcess p;
-        p.setWorkingDirectory(folder);
-        p.start(kSix, QStringList{"a"} + switches + QStringList{"-r+", "-y+", archive, "*"});
-        EXPECT_TRUE(p.waitForFinished(30000));
-        EXPECT_EQ(p.exitCode(), 0) << p.readAll().toStdString();
-        return archive;
+        const QString archive = makeArchiveOf(kSix, folder, here_ + "/" + name, switches);
+        EXPECT_FALSE(archive.isEmpty()) << name.toStdString();
+        return here_ + "/" + name;
     }
 
     QString oneFolder() {
@@ -64,8 +55,8 @@ TEST_F(ExtractHere, AnArchiveOfOneFolderIsExtractedAsItIs) {
     const QString archive = oneFolder();
     EXPECT_EQ(window_.ExtractHere({archive}), 0);
     EXPECT_EQ(entries(here_), QStringList({"Holiday", "holiday.uha"}));
-    EXPECT_EQ(readFile(here_ + "/Holiday/2026/sea.txt"), "sea");
-    EXPECT_EQ(readFile(here_ + "/Holiday/beach.txt"), "beach");
+    EXPECT_EQ(readAll(here_ + "/Holiday/2026/sea.txt"), "sea");
+    EXPECT_EQ(readAll(here_ + "/Holiday/beach.txt"), "beach");
     EXPECT_TRUE(prompter_.shown.isEmpty()) << prompter_.shown.join('|').toStdString();
     // The main window never showed.
     EXPECT_FALSE(window_.isVisible());
@@ -75,7 +66,7 @@ TEST_F(ExtractHere, AnArchiveOfOneFileIsExtractedAsItIs) {
     const QString archive = oneFile();
     EXPECT_EQ(window_.ExtractHere({archive}), 0);
     EXPECT_EQ(entries(here_), QStringList({"report.txt", "report.uha"}));
-    EXPECT_EQ(readFile(here_ + "/report.txt"), "the report");
+    EXPECT_EQ(readAll(here_ + "/report.txt"), "the report");
 }
 
 TEST_F(ExtractHere, AnArchiveOfManyEntriesGetsAFolderNamedAfterIt) {
@@ -83,7 +74,7 @@ TEST_F(ExtractHere, AnArchiveOfManyEntriesGetsAFolderNamedAfterIt) {
     EXPECT_EQ(window_.ExtractHere({archive}), 0);
     EXPECT_EQ(entries(here_), QStringList({"plain", "plain.uha"}));
     EXPECT_EQ(entries(here_ + "/plain"), QStringList({"a", "root.txt"}));
-    EXPECT_EQ(readFile(here_ + "/plain/a/b/dd.txt"), "dd in a\\b");
+    EXPECT_EQ(readAll(here_ + "/plain/a/b/dd.txt"), "dd in a\\b");
 }
 
 TEST_F(ExtractHere, TakenNamesAreNeverWrittenIntoButNumbered) {
@@ -98,11 +89,11 @@ TEST_F(ExtractHere, TakenNamesAreNeverWrittenIntoButNumbered) {
               QStringList({"Holiday", "Holiday (2)", "holiday.uha", "plain", "plain (2)",
                            "plain.uha", "report (2).txt", "report.txt", "report.uha"}));
     EXPECT_EQ(entries(here_ + "/plain"), QStringList({"mine.txt"}));
-    EXPECT_EQ(readFile(here_ + "/Holiday/beach.txt"), "my own beach");
-    EXPECT_EQ(readFile(here_ + "/Holiday (2)/beach.txt"), "beach");
-    EXPECT_EQ(readFile(here_ + "/report.txt"), "my report");
-    EXPECT_EQ(readFile(here_ + "/report (2).txt"), "the report");
-    EXPECT_EQ(readFile(here_ + "/plain (2)/root.txt"), "root file");
+    EXPECT_EQ(readAll(here_ + "/Holiday/beach.txt"), "my own beach");
+    EXPECT_EQ(readAll(here_ + "/Holiday (2)/beach.txt"), "beach");
+    EXPECT_EQ(readAll(here_ + "/report.txt"), "my report");
+    EXPECT_EQ(readAll(here_ + "/report (2).txt"), "the report");
+    EXPECT_EQ(readAll(here_ + "/plain (2)/root.txt"), "root file");
 }
 
 TEST_F(ExtractHere, NamesInEveryLanguageRoundTrip) {
@@ -114,8 +105,8 @@ TEST_F(ExtractHere, NamesInEveryLanguageRoundTrip) {
     EXPECT_EQ(window_.ExtractHere({archive}), 0);
     const QString out = here_ + "/Zdjęcia Фото 写真";
     EXPECT_EQ(entries(out), QStringList({"Zażółć gęślą jaźń.txt", "Привет", "日本語"}));
-    EXPECT_EQ(readFile(out + "/日本語/ファイル.txt"), "ja");
-    EXPECT_EQ(readFile(out + "/Привет/мир.txt"), "ru");
+    EXPECT_EQ(readAll(out + "/日本語/ファイル.txt"), "ja");
+    EXPECT_EQ(readAll(out + "/Привет/мир.txt"), "ru");
 }
 
 TEST_F(ExtractHere, AProtectedArchiveAsksForItsPasswordAgainAfterAWrongOne) {
@@ -129,7 +120,7 @@ TEST_F(ExtractHere, AProtectedArchiveAsksForItsPasswordAgainAfterAWrongOne) {
                            "critical: " + named(archive, "Can't read from archive file / "
                                                          "Unexpected end of file (maybe corrupt)"),
                            "prompt: " + named(archive, "Insert Password")}));
-    EXPECT_EQ(readFile(here_ + "/protected/a/d.txt"), "d in a");
+    EXPECT_EQ(readAll(here_ + "/protected/a/d.txt"), "d in a");
 }
 
 TEST_F(ExtractHere, ACancelledPasswordPromptWritesNothing) {
@@ -205,8 +196,8 @@ TEST_F(ExtractHere, SeveralArchivesRunInTurnAndASummaryNamesThoseThatFailed) {
                            "critical: These archives were not extracted:\n\n" + here_ +
                                "/notes.txt\n" + here_ + "/gone.uha"}));
     // Those that could be extracted were.
-    EXPECT_EQ(readFile(here_ + "/Holiday/beach.txt"), "beach");
-    EXPECT_EQ(readFile(here_ + "/report.txt"), "the report");
+    EXPECT_EQ(readAll(here_ + "/Holiday/beach.txt"), "beach");
+    EXPECT_EQ(readAll(here_ + "/report.txt"), "the report");
 }
 
 } // namespace
