@@ -277,10 +277,18 @@ std::optional<EntryDetails> ArchiveDetails::entryByHash(quint64 hash) const {
 }
 
 quint64 ArchiveDetails::sortKeyByHash(quint64 hash, int column) const {
+    return sortKeyAt(entryIndexByHash(hash), column);
+}
+
+quint32 ArchiveDetails::entryIndexByHash(quint64 hash) const {
     const Slot* slot = finished_ ? find(index_, hash) : nullptr;
-    if (!slot)
+    return slot ? slot->second : kNoEntry;
+}
+
+quint64 ArchiveDetails::sortKeyAt(quint32 entry, int column) const {
+    if (entry >= entries_.size())
         return 0;
-    const Packed& p = entries_[slot->second];
+    const Packed& p = entries_[entry];
     switch (column) {
     case 1:
         return (p.flags & HasSize) ? std::min<quint64>(p.size, ~quint64(0) - 1) + 1 : 0;

@@ -213,3 +213,39 @@ TEST(DetailsModelRows, OddDetailsShowWhatReadsAndSortBeforeEverythingKnown) {
     model.sort(DetailsModel::Attributes);
     EXPECT_EQ(texts(0).last(), "plain.txt"); // "R--A" after "---A"
 }
+
+TEST(DetailsModelRows, AnEntryThatArrivesAfterASortTakesItsPlaceInTheNextOne) {
+    QTemporaryDir tree;
+    for (const char* name : {"a.txt", "b.txt", "c.txt"})
+        writeFile(tree.filePath(name), "");
+    auto details = std::make_shared<ArchiveDetails>();
+    details->add(u"a.txt", ParseDetailLine(u"  30  22-Nov-2026  14:28:18  ---A  00000001"));
+    details->add(u"b.txt", ParseDetailLine(u"  10  22-Nov-2026  14:28:18  ---A  00000002"));
+    details->add(u"c.txt", ParseDetailLine(u"  20  22-Nov-2026  14:28:18  ---A  00000003"));
+    details->add(u"late.txt", ParseDetailLine(u"  5  22-Nov-2026  14:28:18  ---A  00000004"));
+    details->finish();
+    QFileSystemModel files;
+    files.setRootPath(tree.path());
+    files.sort(0);
+    DetailsModel model(&files);
+    model.setDetails(details, tree.path());
+    model.setFolder(files.index(tree.path()));
+    auto names = [&] {
+        QStringList t;
+        for (int r = 0; r < model.rowCount(); ++r)
+            t << model.index(r, 0).data().toString();
+        return t;
+    };
+    ASSERT_TRUE(waitFor([&] { return model.rowCount() == 3; }));
+    model.sort(DetailsModel::Size);
+    EXPECT_EQ(names(), QStringList({"b.txt", "c.txt", "a.txt"}));
+    model.sort(DetailsModel::Crc, Qt::DescendingOrder);
+    EXPECT_EQ(names(), QStringList({"c.txt", "b.txt", "a.txt"}));
+    // A file read late moves the file model's rows: what was kept for the old rows is not used.
+    writeFile(tree.filePath("late.txt"), "");
+    ASSERT_TRUE(waitFor([&] { return model.rowCount() == 4; }));
+    model.sort(DetailsModel::Size);
+    EXPECT_EQ(names(), QStringList({"late.txt", "b.txt", "c.txt", "a.txt"}));
+    model.sort(DetailsModel::Crc);
+    EXPECT_EQ(names(), QStringList({"a.txt", "b.txt", "c.txt", "late.txt"}));
+}

@@ -97,6 +97,7 @@ DetailsModel::DetailsModel(QFileSystemModel* files, QObject* parent)
             [this](const QModelIndex& parent, int first, int last) {
                 if (!folder_.isValid() || parent != folder_)
                     return;
+                rowCacheValid_ = false;
                 // New rows go at the end at once, and into their places with the next change
                 // of order (the file model sorts what it has read, and so do we).
                 const int count = last - first + 1;
@@ -120,18 +121,25 @@ DetailsModel::DetailsModel(QFileSystemModel* files, QObject* parent)
     connect(files_, &QAbstractItemModel::rowsRemoved, this, [this](const QModelIndex& parent) {
         if (!folder_.isValid() || parent != folder_)
             return;
+        rowCacheValid_ = false;
         rebuild();
         endResetModel();
     });
-    connect(files_, &QAbstractItemModel::layoutAboutToBeChanged, this,
-            &DetailsModel::beginRelayout);
+    // The file model's own changes of order move its rows: what was kept by row is dropped.
+    connect(files_, &QAbstractItemModel::layoutAboutToBeChanged, this, [this] {
+        rowCacheValid_ = false;
+        beginRelayout();
+    });
     connect(files_, &QAbstractItemModel::layoutChanged, this, &DetailsModel::endRelayout);
     connect(files_, &QAbstractItemModel::modelAboutToBeReset, this, &DetailsModel::beginResetModel);
     connect(files_, &QAbstractItemModel::modelReset, this, [this] {
+        rowCacheValid_ = false;
         rebuild();
         endResetModel();
     });
     connect(files_, &QAbstractItemModel::dataChanged, this, [this](const QModelIndex& topLeft) {
+        if (folder_.isValid() && topLeft.parent() == folder_)
+            rowCacheValid_ = false; // a name may have changed
         if (folder_.isValid() && topLeft.parent() == folder_ && !rows_.empty())
             emit dataChanged(index(0, 0), index(int(rows_.size()) - 1, ColumnCount - 1));
     });
@@ -150,6 +158,7 @@ void DetailsModel::setDetails(std::shared_ptr<const ArchiveDetails> details,
 
 void DetailsModel::setFolder(const QModelIndex& folder) {
     beginResetModel();
+    rowCacheValid_ = false;
     folder_ = folder;
     folderHash_ = ArchiveDetails::kHashStart;
     const QString path = files_->filePath(folder);
@@ -170,21 +179,25 @@ std::vector<int> DetailsModel::sortedRows() const {
         bool folder;
     };
     std::vector<Item> items(size_t(std::max(count, 0)));
+    const bool keyed = sortColumn_ != Name && details_;
+    if (keyed)
+        fillRowCache(count);
+    const bool cached = rowCacheValid_ && rowRef_.size() == size_t(std::max(count, 0));
     for (int row = 0; row < count; ++row) {
         Item& item = items[size_t(row)];
-        const QModelIndex source = files_->index(row, 0, folder_);
         item.row = row;
-        item.folder = files_->isDir(source);
         item.key = 0;
-        if (sortColumn_ == Name || !details_)
+        item.folder =
+            cached ? rowFolder_[size_t(row)] != 0 : files_->isDir(files_->index(row, 0, folder_));
+        if (!keyed)
             continue; // the file model's order is the names' order
-        const quint64 hash = ArchiveDetails::hashOf(files_->fileName(source), folderHash_);
+        const quint32 ref = rowRef_[size_t(row)];
         if (item.folder) {
             if (sortColumn_ == Size)
-                item.key = quint64(details_->folderCountByHash(hash).value_or(0));
+                item.key = ref;
             continue; // folders have no date, attributes or CRC: they keep names' order
         }
-        item.key = details_->sortKeyByHash(hash, sortColumn_);
+        item.key = details_->sortKeyAt(ref, sortColumn_);
     }
     const bool descending = sortOrder_ == Qt::DescendingOrder;
     std::sort(items.begin(), items.end(), [&](const Item& a, const Item& b) {
@@ -199,6 +212,22 @@ std::vector<int> DetailsModel::sortedRows() const {
     std::vector<int> rows(items.size());
     std::transform(items.begin(), items.end(), rows.begin(), [](const Item& i) { return i.row; });
     return rows;
+}
+
+void DetailsModel::fillRowCache(int count) const {
+    if (rowCacheValid_ && rowRef_.size() == size_t(count))
+        return;
+    rowRef_.assign(size_t(count), ArchiveDetails::kNoEntry);
+    rowFolder_.assign(size_t(count), 0);
+    for (int row = 0; row < count; ++row) {
+        const QModelIndex source = files_->index(row, 0, folder_);
+        const bool folder = files_->isDir(source);
+        const quint64 hash = ArchiveDetails::hashOf(files_->fileName(source), folderHash_);
+        rowFolder_[size_t(row)] = folder ? 1 : 0;
+        rowRef_[size_t(row)] = folder ? quint32(details_->folderCountByHash(hash).value_or(0))
+                                      : details_->entryIndexByHash(hash);
+    }
+    rowCacheValid_ = true;
 }
 
 void DetailsModel::rebuild() {

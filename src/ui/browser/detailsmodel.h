@@ -70,6 +70,14 @@ private:
     void endRelayout();
     void rebuild();
     void rebuildInverse();
+    // Per source row: whether it is a folder, and its entry's place in the details (a
+    // folder: how many entries it holds). Made at the first sort by a details column and kept
+    // until the file model's rows change, so that further sorts read neither the file model
+    // nor the details' index.
+    void fillRowCache(int count) const;
+    mutable std::vector<quint32> rowRef_;
+    mutable std::vector<quint8> rowFolder_;
+    mutable bool rowCacheValid_ = false;
 
     QFileSystemModel* files_;
     std::shared_ptr<const ArchiveDetails> details_;
