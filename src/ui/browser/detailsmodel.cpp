@@ -11,6 +11,13 @@
 
 namespace quovara {
 
+namespace {
+// Rows filled in one turn of the event loop (about 10 ms for 8,192 rows), and the pause in the
+// rows' changes that the filling waits for.
+constexpr int kRowCacheSlice = 8192;
+constexpr int kRowCachePause = 200;
+} // namespace
+
 namespace details_cell {
 
 QString sizeText(quint64 bytes) {
@@ -86,6 +93,13 @@ QString header(int column) {
 
 DetailsModel::DetailsModel(QFileSystemModel* files, QObject* parent)
     : QAbstractTableModel(parent), files_(files), pendingOrder_(new QTimer(this)) {
+    rowCacheFiller_ = new QTimer(this);
+    rowCacheFiller_->setSingleShot(true);
+    connect(rowCacheFiller_, &QTimer::timeout, this, [this] {
+        const int count = folder_.isValid() ? files_->rowCount(folder_) : 0;
+        if (!fillRowCacheSlice(count, kRowCacheSlice) && details_ && count > 0)
+            rowCacheFiller_->start(0);
+    });
     // Rows read in many batches are put in order once, after the last.
     pendingOrder_->setSingleShot(true);
     pendingOrder_->setInterval(0);
@@ -97,7 +111,7 @@ DetailsModel::DetailsModel(QFileSystemModel* files, QObject* parent)
             [this](const QModelIndex& parent, int first, int last) {
                 if (!folder_.isValid() || parent != folder_)
                     return;
-                rowCacheValid_ = false;
+                forgetRowCache();
                 // New rows go at the end at once, and into their places with the next change
                 // of order (the file model sorts what it has read, and so do we).
                 const int count = last - first + 1;
@@ -121,25 +135,25 @@ DetailsModel::DetailsModel(QFileSystemModel* files, QObject* parent)
     connect(files_, &QAbstractItemModel::rowsRemoved, this, [this](const QModelIndex& parent) {
         if (!folder_.isValid() || parent != folder_)
             return;
-        rowCacheValid_ = false;
+        forgetRowCache();
         rebuild();
         endResetModel();
     });
     // The file model's own changes of order move its rows: what was kept by row is dropped.
     connect(files_, &QAbstractItemModel::layoutAboutToBeChanged, this, [this] {
-        rowCacheValid_ = false;
+        forgetRowCache();
         beginRelayout();
     });
     connect(files_, &QAbstractItemModel::layoutChanged, this, &DetailsModel::endRelayout);
     connect(files_, &QAbstractItemModel::modelAboutToBeReset, this, &DetailsModel::beginResetModel);
     connect(files_, &QAbstractItemModel::modelReset, this, [this] {
-        rowCacheValid_ = false;
+        forgetRowCache();
         rebuild();
         endResetModel();
     });
     connect(files_, &QAbstractItemModel::dataChanged, this, [this](const QModelIndex& topLeft) {
         if (folder_.isValid() && topLeft.parent() == folder_)
-            rowCacheValid_ = false; // a name may have changed
+            forgetRowCache(); // a name may have changed
         if (folder_.isValid() && topLeft.parent() == folder_ && !rows_.empty())
             emit dataChanged(index(0, 0), index(int(rows_.size()) - 1, ColumnCount - 1));
     });
@@ -158,7 +172,6 @@ void DetailsModel::setDetails(std::shared_ptr<const ArchiveDetails> details,
 
 void DetailsModel::setFolder(const QModelIndex& folder) {
     beginResetModel();
-    rowCacheValid_ = false;
     folder_ = folder;
     folderHash_ = ArchiveDetails::kHashStart;
     const QString path = files_->filePath(folder);
@@ -167,6 +180,7 @@ void DetailsModel::setFolder(const QModelIndex& folder) {
         inside.replace(QLatin1Char('/'), QLatin1Char('\\'));
         folderHash_ = ArchiveDetails::hashOf(inside + QLatin1Char('\\'));
     }
+    forgetRowCache();
     rebuild();
     endResetModel();
 }
@@ -214,12 +228,31 @@ std::vector<int> DetailsModel::sortedRows() const {
     return rows;
 }
 
-void DetailsModel::fillRowCache(int count) const {
+void DetailsModel::forgetRowCache() {
+    rowCacheValid_ = false;
+    rowCacheFilled_ = 0;
+    // The rows arrive in batches while a folder is read: the filling waits for a pause.
+    if (details_ && folder_.isValid())
+        rowCacheFiller_->start(kRowCachePause);
+    else
+        rowCacheFiller_->stop();
+}
+
+bool DetailsModel::fillRowCacheSlice(int count, int rows) const {
     if (rowCacheValid_ && rowRef_.size() == size_t(count))
-        return;
-    rowRef_.assign(size_t(count), ArchiveDetails::kNoEntry);
-    rowFolder_.assign(size_t(count), 0);
-    for (int row = 0; row < count; ++row) {
+        return true;
+    if (!details_ || count <= 0) {
+        rowRef_.clear();
+        rowFolder_.clear();
+        return false;
+    }
+    if (rowRef_.size() != size_t(count) || rowCacheFilled_ > count) {
+        rowRef_.assign(size_t(count), ArchiveDetails::kNoEntry);
+        rowFolder_.assign(size_t(count), 0);
+        rowCacheFilled_ = 0;
+    }
+    const int end = std::min(count, rowCacheFilled_ + rows);
+    for (int row = rowCacheFilled_; row < end; ++row) {
         const QModelIndex source = files_->index(row, 0, folder_);
         const bool folder = files_->isDir(source);
         const quint64 hash = ArchiveDetails::hashOf(files_->fileName(source), folderHash_);
@@ -227,7 +260,13 @@ void DetailsModel::fillRowCache(int count) const {
         rowRef_[size_t(row)] = folder ? quint32(details_->folderCountByHash(hash).value_or(0))
                                       : details_->entryIndexByHash(hash);
     }
-    rowCacheValid_ = true;
+    rowCacheFilled_ = end;
+    rowCacheValid_ = end == count;
+    return rowCacheValid_;
+}
+
+void DetailsModel::fillRowCache(int count) const {
+    fillRowCacheSlice(count, count);
 }
 
 void DetailsModel::rebuild() {

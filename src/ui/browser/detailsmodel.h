@@ -74,10 +74,16 @@ private:
     // folder: how many entries it holds). Made at the first sort by a details column and kept
     // until the file model's rows change, so that further sorts read neither the file model
     // nor the details' index.
+    // It is filled a slice at a time while the window is idle, shortly after the rows last
+    // changed, so that even the first sort finds it made; a sort before then fills the rest.
     void fillRowCache(int count) const;
+    bool fillRowCacheSlice(int count, int rows) const;
+    void forgetRowCache();
     mutable std::vector<quint32> rowRef_;
     mutable std::vector<quint8> rowFolder_;
+    mutable int rowCacheFilled_ = 0;
     mutable bool rowCacheValid_ = false;
+    QTimer* rowCacheFiller_ = nullptr;
 
     QFileSystemModel* files_;
     std::shared_ptr<const ArchiveDetails> details_;
