@@ -13,6 +13,7 @@
 #ifdef Q_OS_UNIX
 #include <atomic>
 #include <cerrno>
+#include <chrono>
 #include <condition_variable>
 #include <cstring>
 #include <deque>
@@ -195,10 +196,14 @@ public:
         return *deleter;
     }
 
-    void add(const QStringList& folders) {
+    // `notBefore`: the deleting waits that long (at start-up, so that the window is built and
+    // shown with the disk to itself).
+    void add(const QStringList& folders,
+             std::chrono::milliseconds notBefore = std::chrono::milliseconds(0)) {
         std::lock_guard<std::mutex> lock(mutex_);
         for (const QString& folder : folders)
             queue_.push_back(folder);
+        startAt_ = std::max(startAt_, std::chrono::steady_clock::now() + notBefore);
         if (!running_) {
             running_ = true;
             std::thread([this] { work(); }).detach();
@@ -239,6 +244,9 @@ private:
 
     void waitWhileHeld() {
         std::unique_lock<std::mutex> lock(mutex_);
+        // Not a spin: the thread sleeps until the time has come or a hold is released.
+        while (std::chrono::steady_clock::now() < startAt_)
+            resumed_.wait_until(lock, startAt_);
         resumed_.wait(lock, [this] { return holds_ == 0; });
     }
 
@@ -276,6 +284,7 @@ private:
     std::deque<QString> queue_;
     bool running_ = false;
     int holds_ = 0;
+    std::chrono::steady_clock::time_point startAt_;
 };
 
 } // namespace
@@ -288,20 +297,32 @@ BackgroundDeletesHeld::~BackgroundDeletesHeld() {
     AsideDeleter::instance().release();
 }
 
-bool MoveAsideAndDelete(const QString& folder) {
-    const QFileInfo info(folder);
-    if (!info.isDir() || info.isSymLink())
-        return true;
+namespace {
+
+// Renames `folder` beside itself for deleting; empty when it could not be moved.
+QString MoveAside(const QString& folder) {
     // Folders are moved aside from more than one thread (the listing's worker, the window's).
     static std::atomic<int> generation = 0;
     const QString aside =
         folder +
         QStringLiteral(".old-%1-%2").arg(QCoreApplication::applicationPid()).arg(++generation);
-    if (QDir().rename(folder, aside)) {
+    if (QDir().rename(folder, aside))
+        return aside;
+    qCDebug(lcFiles) << "could not move" << folder << "aside";
+    return QString();
+}
+
+} // namespace
+
+bool MoveAsideAndDelete(const QString& folder) {
+    const QFileInfo info(folder);
+    if (!info.isDir() || info.isSymLink())
+        return true;
+    const QString aside = MoveAside(folder);
+    if (!aside.isEmpty()) {
         AsideDeleter::instance().add({aside});
         return true;
     }
-    qCDebug(lcFiles) << "could not move" << folder << "aside; deleting it here";
     return QDir(folder).removeRecursively();
 }
 
@@ -328,10 +349,19 @@ void CleanWorkFolder() {
 #endif
         leftovers << old.absoluteFilePath();
     }
+    // Deleting starts a little later: the window is built and shown first.
+    constexpr std::chrono::milliseconds kAfterStartUp(3000);
+    if (info.isDir()) {
+        const QString aside = MoveAside(work);
+        if (aside.isEmpty()) {
+            if (!QDir(work).removeRecursively())
+                qCDebug(lcFiles) << "could not delete the work folder completely" << work;
+        } else {
+            leftovers << aside;
+        }
+    }
     if (!leftovers.isEmpty())
-        AsideDeleter::instance().add(leftovers);
-    if (info.isDir() && !MoveAsideAndDelete(work))
-        qCDebug(lcFiles) << "could not delete the work folder completely" << work;
+        AsideDeleter::instance().add(leftovers, kAfterStartUp);
 }
 
 void MakeDir(const QString& path) {
