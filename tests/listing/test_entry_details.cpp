@@ -139,9 +139,9 @@ TEST(ArchiveDetails, RoomForTheEntriesOfALogIsMadeAtOnceAndMoreStillFit) {
     ArchiveDetails details;
     details.reserve(2);
     for (int i = 0; i < 40; ++i)
-        details.add(QStringLiteral("f%1.txt").arg(i),
-                    ParseDetailLine(QStringLiteral("%1  01-Jan-2020  01:02:03  ---A  00000001")
-                                        .arg(i)));
+        details.add(
+            QStringLiteral("f%1.txt").arg(i),
+            ParseDetailLine(QStringLiteral("%1  01-Jan-2020  01:02:03  ---A  00000001").arg(i)));
     // A path listed twice keeps its last line.
     details.add(u"f7.txt", ParseDetailLine(u"777"));
     details.finish();
