@@ -1,5 +1,9 @@
 #include "processcontrol.h"
 
+#if defined(__GLIBC__)
+#include <malloc.h>
+#endif
+
 #include "launcherserver.h"
 #include "logging.h"
 #include "prompter.h"
@@ -107,6 +111,13 @@ std::map<int, std::function<void()>>& TerminationWork() {
     return work;
 }
 } // namespace
+
+void ReturnFreedMemory() {
+#if defined(__GLIBC__)
+    if (::malloc_trim(0) == 0)
+        qCDebug(lcRunner) << "no freed memory could be returned";
+#endif
+}
 
 int AddTerminationWork(std::function<void()> work) {
     static int next = 0;

@@ -29,6 +29,10 @@ int EndAllJobs();
 
 // Work that must be done when a termination signal ends the program, once its jobs have been
 // ended (a stopped extraction removes the file it left half-written). The id removes it.
+// Hands the memory freed since (a big listing replaced by another) back to the system, where
+// the C library allows it; a no-op elsewhere.
+void ReturnFreedMemory();
+
 int AddTerminationWork(std::function<void()> work);
 void RemoveTerminationWork(int id);
 // Runs the work added, each once, newest first (the signal handler calls it).

@@ -2,6 +2,8 @@
 // meanwhile), a folder is shown, a file of an archive is extracted and run.
 #include "frmapri.h"
 
+#include "core/processcontrol.h"
+
 #include "filebrowser.h"
 
 #include "core/desktop.h"
@@ -142,6 +144,8 @@ void frmApri::OpenItem(const QString& path) {
     if (const auto totals = lister_.Info()) {
         Uha();
         showTotals(*totals);
+        // The previous listing's details and buffers are gone now: their memory goes back.
+        ReturnFreedMemory();
     }
 }
 
