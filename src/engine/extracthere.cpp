@@ -99,10 +99,12 @@ PlacedExtraction PlaceExtraction(const QString& staging, const QString& archiveP
     const QString from = asItIs ? QDir(staging).filePath(top.first()) : staging;
     const QString wanted = asItIs ? top.first() : ArchiveBaseName(archivePath);
     const bool isFile = asItIs && !QFileInfo(from).isDir();
-    for (int n = 1; n <= kMostNumbers; ++n) {
-        const QString to = QDir(folder).filePath(numbered(wanted, n, isFile));
-        if (exists(to))
-            continue;
+    // A name taken between the look and the move is never replaced: the next free one is tried.
+    for (int attempt = 0; attempt < kMostNumbers; ++attempt) {
+        const QString name = FreeName(folder, wanted, isFile);
+        if (name.isEmpty())
+            break;
+        const QString to = QDir(folder).filePath(name);
         int error = 0;
         if (moveWithoutReplacing(from, to, &error)) {
             result.ok = true;

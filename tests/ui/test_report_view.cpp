@@ -173,6 +173,24 @@ TEST_F(ReportView, SearchResultsShowTheSameDetails) {
     EXPECT_EQ(results->model()->index(0, 5).data().toString(), "B0C0F839");
 }
 
+// A folder of the file system shown by a details model with `details`, in names' order.
+struct FolderDetails {
+    FolderDetails(std::shared_ptr<ArchiveDetails> details, const QString& folder) {
+        files.setRootPath(folder);
+        files.sort(0);
+        model.setDetails(std::move(details), folder);
+        model.setFolder(files.index(folder));
+    }
+    QStringList column(int c) const {
+        QStringList t;
+        for (int r = 0; r < model.rowCount(); ++r)
+            t << model.index(r, c).data().toString();
+        return t;
+    }
+    QFileSystemModel files;
+    DetailsModel model{&files};
+};
+
 TEST(DetailsModelRows, OddDetailsShowWhatReadsAndSortBeforeEverythingKnown) {
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
     auto restore = qScopeGuard([] { QLocale::setDefault(QLocale::c()); });
@@ -186,19 +204,10 @@ TEST(DetailsModelRows, OddDetailsShowWhatReadsAndSortBeforeEverythingKnown) {
     details->add(u"plain.txt",
                  ParseDetailLine(u"  3000000  22-Nov-2026  14:28:18  R--A  00000001"));
     details->finish();
-    QFileSystemModel files;
-    files.setRootPath(tree.path());
-    files.sort(0);
-    DetailsModel model(&files);
-    model.setDetails(details, tree.path());
-    model.setFolder(files.index(tree.path()));
+    FolderDetails shown(details, tree.path());
+    DetailsModel& model = shown.model;
     ASSERT_TRUE(waitFor([&] { return model.rowCount() == 4; }));
-    auto texts = [&](int c) {
-        QStringList t;
-        for (int r = 0; r < model.rowCount(); ++r)
-            t << model.index(r, c).data().toString();
-        return t;
-    };
+    auto texts = [&](int c) { return shown.column(c); };
     ASSERT_TRUE(waitFor([&] { return texts(0).first() == "big.bin"; }));
     EXPECT_EQ(texts(0), QStringList({"big.bin", "nodate.txt", "plain.txt", "unknown.txt"}));
     EXPECT_EQ(texts(1), QStringList({"", "12 bytes", "2.9 MB", ""}));
@@ -224,18 +233,9 @@ TEST(DetailsModelRows, AnEntryThatArrivesAfterASortTakesItsPlaceInTheNextOne) {
     details->add(u"c.txt", ParseDetailLine(u"  20  22-Nov-2026  14:28:18  ---A  00000003"));
     details->add(u"late.txt", ParseDetailLine(u"  5  22-Nov-2026  14:28:18  ---A  00000004"));
     details->finish();
-    QFileSystemModel files;
-    files.setRootPath(tree.path());
-    files.sort(0);
-    DetailsModel model(&files);
-    model.setDetails(details, tree.path());
-    model.setFolder(files.index(tree.path()));
-    auto names = [&] {
-        QStringList t;
-        for (int r = 0; r < model.rowCount(); ++r)
-            t << model.index(r, 0).data().toString();
-        return t;
-    };
+    FolderDetails shown(details, tree.path());
+    DetailsModel& model = shown.model;
+    auto names = [&] { return shown.column(DetailsModel::Name); };
     ASSERT_TRUE(waitFor([&] { return model.rowCount() == 3; }));
     model.sort(DetailsModel::Size);
     EXPECT_EQ(names(), QStringList({"b.txt", "c.txt", "a.txt"}));

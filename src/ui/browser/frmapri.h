@@ -202,7 +202,6 @@ private:
     QMimeData* makeEntryDrag();
     QList<QUrl> extractForDrag(const DragRequest& request,
                                const std::function<void(const QList<QUrl>&)>& deliver);
-    void discardDragFolder(const QString& folder);
     // The folder that holds the last drag's extracted entries.
     QString dragStaging_;
 

@@ -10,6 +10,7 @@
 
 #include "core/logging.h"
 #include "core/places.h"
+#include "engine/extracthere.h"
 #include "engine/grammar.h"
 #include "ui/jobs/frmprogress.h"
 
@@ -46,7 +47,7 @@ QList<QUrl> frmApri::extractForDrag(const DragRequest& request,
                                     const std::function<void(const QList<QUrl>&)>& deliver) {
     // Only the last drag's files are kept (its target may still be copying them).
     if (!dragStaging_.isEmpty())
-        discardDragFolder(dragStaging_);
+        DiscardExtractStaging(dragStaging_);
     dragStaging_.clear();
     QTemporaryDir made(PathStyle::host().join(WorkFolder(), QStringLiteral("drag-XXXXXX")));
     if (!made.isValid()) {
@@ -72,7 +73,7 @@ QList<QUrl> frmApri::extractForDrag(const DragRequest& request,
     if (!WriteExtractJobScript(WorkFile(names::ExtractScript), options, ProgramFolder(), TempRoot(),
                                PathStyle::host(), &refused)) {
         prompter_->critical(refused);
-        discardDragFolder(staging);
+        DiscardExtractStaging(staging);
         return {};
     }
     // The outcome is worked out as soon as the window unloads: a target that asked again
@@ -81,7 +82,7 @@ QList<QUrl> frmApri::extractForDrag(const DragRequest& request,
     RunJobWindow(JobKind::Extract, *this, request.archive, [&](bool succeeded) {
         if (!succeeded) {
             // Failed or stopped: what the engine wrote goes, and the target is given nothing.
-            discardDragFolder(staging);
+            DiscardExtractStaging(staging);
         } else {
             dragStaging_ = staging;
             for (const QString& relative : request.shown) {
@@ -95,11 +96,6 @@ QList<QUrl> frmApri::extractForDrag(const DragRequest& request,
         deliver(urls);
     });
     return urls;
-}
-
-void frmApri::discardDragFolder(const QString& folder) {
-    if (!QDir(folder).removeRecursively())
-        qCDebug(lcFiles) << "could not remove the drag's folder" << folder;
 }
 
 QString frmApri::mirrorRelativePath(const QString& path) const {
