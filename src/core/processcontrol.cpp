@@ -119,6 +119,15 @@ void ReturnFreedMemory() {
 #endif
 }
 
+void KeepBigBlocksReturnable() {
+#if defined(__GLIBC__)
+    // Setting the limit also stops the library from moving it.
+    constexpr int kBigBlockBytes = 256 * 1024;
+    if (::mallopt(M_MMAP_THRESHOLD, kBigBlockBytes) != 1)
+        qCDebug(lcRunner) << "the C library refused the limit for mapped blocks";
+#endif
+}
+
 int AddTerminationWork(std::function<void()> work) {
     static int next = 0;
     TerminationWork().emplace(++next, std::move(work));

@@ -27,12 +27,18 @@ bool IsJobGroup(qint64 sessionId);
 // (used when the program itself is ended). The number of sessions signalled.
 int EndAllJobs();
 
-// Work that must be done when a termination signal ends the program, once its jobs have been
-// ended (a stopped extraction removes the file it left half-written). The id removes it.
 // Hands the memory freed since (a big listing replaced by another) back to the system, where
 // the C library allows it; a no-op elsewhere.
 void ReturnFreedMemory();
+// Makes every block of 256 KiB or more a mapping of its own, handed back to the system as soon
+// as it is freed. By default the C library raises that limit to the size of each such block
+// freed, so the second listing of a big archive puts its tables in the heap, where the holes
+// they leave once freed stay resident (a few MiB per listing). Called again, it does nothing
+// more; a no-op where the C library has no such setting.
+void KeepBigBlocksReturnable();
 
+// Work that must be done when a termination signal ends the program, once its jobs have been
+// ended (a stopped extraction removes the file it left half-written). The id removes it.
 int AddTerminationWork(std::function<void()> work);
 void RemoveTerminationWork(int id);
 // Runs the work added, each once, newest first (the signal handler calls it).

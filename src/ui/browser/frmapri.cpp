@@ -48,6 +48,9 @@ frmApri::frmApri(QWidget* parent)
     : QMainWindow(parent), messagePrompter_(this), prompter_(&messagePrompter_),
       lister_(messagePrompter_, switch_) {
     setObjectName(QStringLiteral("frmApri"));
+    // The window lists archives of any size, one after another: their big tables must go back
+    // to the system when the next listing replaces them.
+    KeepBigBlocksReturnable();
     baseTitle_ = ApplicationTitle();
     setWindowTitle(baseTitle_);
     // Files and folders dropped onto the window are added or opened.
