@@ -239,37 +239,61 @@ ListingPass ReadListingLog(const QString& logPath, const EngineCodec& codec,
     pass.opened = true;
     ListingLineReader reader(pass, treeFolder, entries);
     reader.reserveDetails(ArchiveDetails::mostEntriesIn(file.size()));
-    QByteArray line;
+    // A line begun in one chunk and ended in a later one; every other line is decoded straight
+    // from the chunk it lies in.
+    QByteArray carried;
     bool lastWasCr = false;
-    auto takeLine = [&](const QByteArray& bytes) { reader.take(DecodeEngineText(bytes, codec)); };
+    auto takeLine = [&](const char* data, qsizetype size) {
+        reader.take(DecodeEngineText(data, std::min(size, kLongestLine), codec));
+    };
+    auto carry = [&](const char* data, qsizetype size) {
+        carried.append(data, std::min(size, kLongestLine - carried.size()));
+    };
 
-    QByteArray chunk;
+    // One buffer for every chunk: a new one each time would be mapped and faulted in again.
+    QByteArray chunk(kChunk, Qt::Uninitialized);
     for (;;) {
-        chunk = file.read(kChunk);
-        if (chunk.isEmpty())
+        const qint64 got = file.read(chunk.data(), kChunk);
+        if (got <= 0)
             break;
         if (stop && stop->load()) {
             pass.treeProblem = QStringLiteral("the reading was stopped");
             return pass;
         }
-        for (const char c : chunk) {
-            if (c == '\n' && lastWasCr) {
-                lastWasCr = false;
-                continue; // the LF of a CR LF
+        const char* p = chunk.constData();
+        const char* const end = p + got;
+        if (lastWasCr && *p == '\n')
+            ++p; // the LF of a CR LF cut by the chunk's edge
+        lastWasCr = false;
+        while (p < end) {
+            const char* lineEnd = p;
+            while (lineEnd < end && *lineEnd != '\r' && *lineEnd != '\n')
+                ++lineEnd;
+            if (lineEnd == end) {
+                carry(p, end - p);
+                break;
             }
-            lastWasCr = c == '\r';
-            if (c == '\r' || c == '\n') {
-                takeLine(line);
-                line.clear();
-            } else if (line.size() < kLongestLine) {
-                line.append(c);
+            if (carried.isEmpty()) {
+                takeLine(p, lineEnd - p);
+            } else {
+                carry(p, lineEnd - p);
+                takeLine(carried.constData(), carried.size());
+                carried.truncate(0);
+            }
+            // CR LF, CR and LF each end a line.
+            lastWasCr = *lineEnd == '\r';
+            p = lineEnd + 1;
+            if (lastWasCr && p < end) {
+                if (*p == '\n')
+                    ++p;
+                lastWasCr = false;
             }
         }
     }
     if (file.error() != QFileDevice::NoError)
         qCDebug(lcListing) << "reading the listing log failed:" << file.errorString();
-    if (!line.isEmpty())
-        takeLine(line);
+    if (!carried.isEmpty())
+        takeLine(carried.constData(), carried.size());
 
     reader.finish();
     return pass;

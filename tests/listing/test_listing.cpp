@@ -374,3 +374,96 @@ TEST(ReadListingLog, AnEndlessLineIsCutAndDoesNotGrowTheMemory) {
     EXPECT_EQ(pass.error.size(), 64 * 1024 - 6);
     EXPECT_FALSE(pass.treeComplete);
 }
+
+namespace {
+
+// What a pass over a log gave, as text: lines read, error, tree, totals, and each entry's
+// details, so that two passes compare in one assertion.
+QStringList Summary(const ListingPass& pass, const QString& tree) {
+    QStringList out{QString::number(pass.lines), pass.error,
+                    pass.treeComplete ? QStringLiteral("complete") : pass.treeProblem};
+    if (pass.totals)
+        out << pass.totals->fileCountText << pass.totals->normalSizeMB << pass.totals->modeText;
+    for (const QString& file : filesBelow(tree)) {
+        QString path = file;
+        path.replace(QLatin1Char('/'), QLatin1Char('\\'));
+        const auto d = pass.details ? pass.details->entry(path) : std::nullopt;
+        out << file + (d ? QStringLiteral(" %1 %2 %3 %4 %5")
+                               .arg(d->size.value_or(0))
+                               .arg(d->date.value_or(0))
+                               .arg(d->time.value_or(0))
+                               .arg(d->attributes, d->crcText())
+                         : QStringLiteral(" no details"));
+    }
+    return out;
+}
+
+ListingPass ReadBytesAsLog(const QTemporaryDir& dir, const QByteArray& bytes, const QString& tree) {
+    const QString log = dir.filePath("edge.log");
+    QFile f(log);
+    if (!f.open(QIODevice::WriteOnly | QIODevice::Truncate) || f.write(bytes) != bytes.size())
+        return ListingPass();
+    f.close();
+    return ReadListingLog(log, EngineCodec::Cp437(), tree);
+}
+
+} // namespace
+
+TEST(ReadListingLog, LinesCutByTheEdgeOfARead) {
+    // The log is read 256 KiB at a time. The first line of the header (read by no rule) is
+    // padded so that the edge of the first read falls at each place that matters: between the
+    // CR and the LF of every line end, just before and just after it, and in the middle of every
+    // line. Every pass must give what the log gives read whole.
+    QFile f(sample("list-alz3.log"));
+    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
+    const QByteArray body = f.readAll();
+    ASSERT_TRUE(body.startsWith("\r\n"));
+    QTemporaryDir dir;
+    const QStringList whole = Summary(
+        ReadListingLog(sample("list-alz3.log"), EngineCodec::Cp437(), dir.filePath("whole")),
+        dir.filePath("whole"));
+    ASSERT_EQ(whole.size(), 6 + 8) << whole.join('\n').toStdString();
+
+    constexpr qsizetype kRead = 256 * 1024;
+    std::vector<qsizetype> edges; // offsets into `body` where the first read is to end
+    qsizetype lineStart = 0;
+    for (qsizetype i = 0; i < body.size(); ++i) {
+        if (body[i] != '\r')
+            continue;
+        edges.insert(edges.end(), {i, i + 1, i + 2, (lineStart + i) / 2});
+        lineStart = i + 2;
+    }
+    int run = 0;
+    for (const qsizetype edge : edges) {
+        // "x" * pad, then the body: the read ends `edge` bytes into the body.
+        const qsizetype pad = kRead - edge;
+        ASSERT_GT(pad, 0);
+        const QString tree = dir.filePath(QStringLiteral("tree%1").arg(run++));
+        const QStringList got =
+            Summary(ReadBytesAsLog(dir, QByteArray(pad, 'x') + body, tree), tree);
+        EXPECT_EQ(got, whole) << "read ending " << edge << " bytes into the log";
+    }
+}
+
+TEST(ReadListingLog, ALoneCrOrALoneLfEndsALineAsCrLfDoes) {
+    QFile f(sample("list-alz3.log"));
+    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
+    const QByteArray body = f.readAll();
+    QTemporaryDir dir;
+    const QStringList whole =
+        Summary(ReadBytesAsLog(dir, body, dir.filePath("crlf")), dir.filePath("crlf"));
+    QByteArray lf = body;
+    lf.replace("\r\n", "\n");
+    EXPECT_EQ(Summary(ReadBytesAsLog(dir, lf, dir.filePath("lf")), dir.filePath("lf")), whole);
+    QByteArray cr = body;
+    cr.replace("\r\n", "\r");
+    EXPECT_EQ(Summary(ReadBytesAsLog(dir, cr, dir.filePath("cr")), dir.filePath("cr")), whole);
+    // The log ends with a rule line and an empty line. Without the empty line and the rule's
+    // line end, the rule still counts as a line.
+    ASSERT_TRUE(body.endsWith("=\r\n\r\n"));
+    const QByteArray unended = body.chopped(4);
+    QStringList expected = whole;
+    expected[0] = QString::number(whole[0].toInt() - 1);
+    EXPECT_EQ(Summary(ReadBytesAsLog(dir, unended, dir.filePath("open")), dir.filePath("open")),
+              expected);
+}
