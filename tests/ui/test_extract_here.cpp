@@ -6,6 +6,7 @@
 
 #include <QLockFile>
 #include <QProcess>
+#include <QScreen>
 #include <unistd.h>
 
 namespace quovara::testing {
@@ -139,6 +140,17 @@ TEST_F(ExtractHere, AFileThatIsNotAnArchiveIsRefusedByName) {
     EXPECT_EQ(prompter_.shown, QStringList({"critical: " + named(here_ + "/notes.txt",
                                                                  extract_here::NotAnArchive)}));
     EXPECT_EQ(entries(here_), QStringList({"notes.txt"}));
+}
+
+TEST_F(ExtractHere, ItsPromptsAreCentredOnTheScreenNotOnTheHiddenWindow) {
+    // The window is bigger than the screen and in its corner, as a hidden main window may be.
+    const QRect area = window_.screen()->availableGeometry();
+    window_.setGeometry(QRect(area.topLeft(), area.size() + QSize(300, 200)));
+    writeFile(here_ + "/notes.txt", "just text");
+    EXPECT_EQ(window_.ExtractHere({here_ + "/notes.txt"}), 1);
+    EXPECT_FALSE(window_.isVisible());
+    EXPECT_TRUE(area.contains(window_.geometry())) << window_.geometry().width();
+    EXPECT_LE((window_.geometry().center() - area.center()).manhattanLength(), 2);
 }
 
 TEST_F(ExtractHere, ABrokenArchiveShowsTheEnginesErrorWithItsNameAndLeavesNothing) {

@@ -34,7 +34,9 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
+#include <QScreen>
 #include <QShortcut>
+#include <QStyle>
 #include <QTimer>
 #include <QToolButton>
 #include <QTreeView>
@@ -199,6 +201,13 @@ bool frmApri::prepare() {
 
 int frmApri::ExtractHere(const QStringList& archives) {
     setKeptHidden(true);
+    // Hidden, the window still places the run's prompts and messages, which are centred on it:
+    // it takes the middle of the screen, no bigger than the screen.
+    if (const QScreen* s = screen()) {
+        const QRect area = s->availableGeometry();
+        setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter,
+                                        size().boundedTo(area.size()), area));
+    }
     if (!prepare())
         return 1;
     commandLineJob_ = true;
