@@ -70,7 +70,31 @@ def main():
     missing = [e for e in EXPECTED if not any(r == e[0] and n == e[1] for r, n, _ in seen)]
     for role, name in missing:
         print(f"MISSING: {role} {name!r}")
+    # The file list inside the archive: one item per entry, named by its name (the archive
+    # holds the folder "docs" alone at its top).
+    items = list_items(app)
+    if items != ["docs"]:
+        print(f"WRONG: the file list reads {items!r}, not ['docs']")
+        return 1
     return 1 if missing else 0
+
+
+def list_items(node, depth=0):
+    """The names of the items of the shown list named "Files", or None."""
+    try:
+        if node.getRoleName() == "list" and node.name == "Files" and \
+                node.getState().contains(pyatspi.STATE_SHOWING):
+            return [node.getChildAtIndex(i).name for i in range(node.childCount)]
+        if depth > 25:
+            return None
+        for i in range(node.childCount):
+            child = node.getChildAtIndex(i)
+            found = list_items(child, depth + 1) if child is not None else None
+            if found is not None:
+                return found
+    except Exception:
+        return None
+    return None
 
 
 if __name__ == "__main__":

@@ -5,6 +5,7 @@
 #include "core/places.h"
 
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QApplication>
 #include <QDropEvent>
 #include <QFileSystemModel>
@@ -12,6 +13,7 @@
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QTest>
 #include <QToolButton>
 #include <QToolTip>
@@ -241,10 +243,10 @@ TEST_F(MainWindow, TheFileListAndTheTaskPaneShowWhereTheFocusIs) {
     // The file list, given the focus, marks an item as the current one without selecting it.
     // The item current before, in the folder that held the archive, is not on the screen now.
     QAbstractItemView* list = window_.fileView()->currentView();
-    auto* files = static_cast<QFileSystemModel*>(list->model());
     window_.fileView()->setFolder(places_.path());
-    ASSERT_TRUE(waitFor([&] { return files->index(archive).isValid(); }));
-    list->selectionModel()->setCurrentIndex(files->index(archive), QItemSelectionModel::NoUpdate);
+    ASSERT_TRUE(waitFor([&] { return window_.fileView()->indexOf(archive).isValid(); }));
+    list->selectionModel()->setCurrentIndex(window_.fileView()->indexOf(archive),
+                                            QItemSelectionModel::NoUpdate);
     window_.OpenItem(archive);
     ASSERT_TRUE(archiveLayout());
     ASSERT_TRUE(waitFor([&] { return list->model()->rowCount(list->rootIndex()) > 0; }));
@@ -326,4 +328,43 @@ TEST_F(MainWindow, AtSixHundredFortyByFourHundredTwentyNothingIsCut) {
     EXPECT_TRUE(more->isVisible());
     EXPECT_FALSE(toolbar->OverflowButtons().isEmpty());
     EXPECT_LE(more->mapTo(&window_, QPoint(more->width(), 0)).x(), window_.width());
+}
+
+TEST_F(MainWindow, AScreenReaderMeetsEachEntryOfTheListAsOneItemNamedByItsName) {
+    ASSERT_TRUE(window_.Form_Load(makeArchive(kSix, "plain.uha")));
+    ASSERT_TRUE(archiveLayout());
+    show();
+    QAbstractItemView* list = window_.fileView()->currentView();
+    ASSERT_EQ(list->objectName(), "FileViewList");
+    ASSERT_TRUE(waitFor([&] { return list->model()->rowCount(list->rootIndex()) == 2; }));
+    QStringList shown;
+    for (int row = 0; row < 2; ++row)
+        shown << list->model()->index(row, 0, list->rootIndex()).data().toString();
+    EXPECT_EQ(QSet<QString>(shown.begin(), shown.end()), QSet<QString>({"a", "root.txt"}));
+
+    QAccessibleInterface* access = QAccessible::queryAccessibleInterface(list);
+    ASSERT_NE(access, nullptr);
+    // One item per entry, all of them: not the first row's size, type and date as items.
+    ASSERT_EQ(access->childCount(), 2);
+    QStringList heard;
+    for (int i = 0; i < access->childCount(); ++i)
+        heard << access->child(i)->text(QAccessible::Name);
+    EXPECT_EQ(heard, shown);
+
+    // Into a folder: its entries, and only those.
+    const QString inside = window_.fileView()->folder() + "/a";
+    clickItem(inside, true);
+    ASSERT_TRUE(waitFor([&] {
+        return window_.fileView()->folder() == inside &&
+               list->model()->rowCount(list->rootIndex()) == 2;
+    }));
+    // A screen reader is told of the new rows and reads them again (offscreen, nothing tells
+    // the list's interface: it is made anew).
+    QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(access));
+    access = QAccessible::queryAccessibleInterface(list);
+    ASSERT_NE(access, nullptr);
+    heard.clear();
+    for (int i = 0; i < access->childCount(); ++i)
+        heard << access->child(i)->text(QAccessible::Name);
+    EXPECT_EQ(QSet<QString>(heard.begin(), heard.end()), QSet<QString>({"b", "d.txt"}));
 }

@@ -4,6 +4,7 @@
 #include "entrydrag.h"
 #include "fileicons.h"
 #include "focusframe.h"
+#include "folderlistmodel.h"
 
 #include "ui/common/handcursor.h"
 
@@ -33,6 +34,8 @@ FileBrowser::FileBrowser(QWidget* parent) : QWidget(parent) {
     model_->setFilter(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::System);
     model_->setReadOnly(true);
 
+    entries_ = new FolderListModel(this);
+    entries_->setSourceModel(model_);
     auto* list = new BrowserListView(this);
     list->dragStarter = [this, list] { return startContentDrag(list); };
     list_ = list;
@@ -49,7 +52,7 @@ FileBrowser::FileBrowser(QWidget* parent) : QWidget(parent) {
     tree_->sortByColumn(0, Qt::AscendingOrder);
     for (QAbstractItemView* v :
          {static_cast<QAbstractItemView*>(list_), static_cast<QAbstractItemView*>(tree_)}) {
-        v->setModel(model_);
+        v->setModel(v == list_ ? static_cast<QAbstractItemModel*>(entries_) : model_);
         v->setItemDelegate(new FocusFrameDelegate(v));
         v->setSelectionMode(QAbstractItemView::SingleSelection);
         v->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -100,12 +103,16 @@ void FileBrowser::watchSelection(QAbstractItemView* view) {
 }
 
 QModelIndex FileBrowser::sourceOf(const QModelIndex& index) const {
-    return index.model() == details_ ? details_->toSource(index) : index;
+    if (index.model() == details_)
+        return details_->toSource(index);
+    return index.model() == entries_ ? entries_->mapToSource(index) : index;
 }
 
 QModelIndex FileBrowser::viewIndexOf(const QAbstractItemView* view,
                                      const QModelIndex& source) const {
-    return view->model() == details_ ? details_->fromSource(source) : source;
+    if (view->model() == details_)
+        return details_->fromSource(source);
+    return view->model() == entries_ ? entries_->mapFromSource(source) : source;
 }
 
 QModelIndex FileBrowser::indexOf(const QString& path) const {
@@ -170,7 +177,7 @@ void FileBrowser::showFolder(const QString& path) {
     folder_ = path;
     pendingSelection_.clear();
     const QModelIndex root = model_->setRootPath(path);
-    list_->setRootIndex(root);
+    entries_->setFolder(root);
     if (showsArchiveDetails())
         details_->setFolder(root);
     else

@@ -21,6 +21,7 @@ namespace quovara {
 
 class ArchiveDetails;
 class DetailsModel;
+class FolderListModel;
 
 class FileBrowser : public QWidget {
     Q_OBJECT
@@ -99,6 +100,8 @@ private:
 
     QFileSystemModel* model_;
     DetailsModel* details_;
+    // What the list shows: the folder's entries, one item each.
+    FolderListModel* entries_;
     // The file model is in names' order (the details take their name order from it).
     bool namesInOrder_ = true;
     QStackedWidget* stack_;
