@@ -27,6 +27,15 @@ struct Tree {
     }
 };
 
+// The list over the tree, checked by Qt's model tester at every change.
+class FolderList : public ::testing::Test {
+protected:
+    FolderList() { list.setSourceModel(&tree.model); }
+    Tree tree;
+    FolderListModel list;
+    QAbstractItemModelTester tester{&list, QAbstractItemModelTester::FailureReportingMode::Fatal};
+};
+
 QStringList Names(const QAbstractItemModel& m) {
     QStringList out;
     for (int row = 0; row < m.rowCount(); ++row)
@@ -34,11 +43,7 @@ QStringList Names(const QAbstractItemModel& m) {
     return out;
 }
 
-TEST(FolderListModel, TheFoldersRowsAreTheTopLevelInOneColumn) {
-    Tree tree;
-    FolderListModel list;
-    QAbstractItemModelTester tester(&list, QAbstractItemModelTester::FailureReportingMode::Fatal);
-    list.setSourceModel(&tree.model);
+TEST_F(FolderList, TheFoldersRowsAreTheTopLevelInOneColumn) {
     EXPECT_EQ(list.rowCount(), 0); // no folder yet
     list.setFolder(tree.top->index());
     EXPECT_EQ(Names(list), QStringList({"b", "a", "c"}));
@@ -54,11 +59,7 @@ TEST(FolderListModel, TheFoldersRowsAreTheTopLevelInOneColumn) {
     EXPECT_EQ(Names(list), QStringList({"x"}));
 }
 
-TEST(FolderListModel, InsertsRemovalsAndChangesInTheFolderAreFollowed) {
-    Tree tree;
-    FolderListModel list;
-    QAbstractItemModelTester tester(&list, QAbstractItemModelTester::FailureReportingMode::Fatal);
-    list.setSourceModel(&tree.model);
+TEST_F(FolderList, InsertsRemovalsAndChangesInTheFolderAreFollowed) {
     list.setFolder(tree.top->index());
     tree.top->appendRow(new QStandardItem("d"));
     tree.other->appendRow(new QStandardItem("y")); // elsewhere: nothing changes here
@@ -69,11 +70,7 @@ TEST(FolderListModel, InsertsRemovalsAndChangesInTheFolderAreFollowed) {
     EXPECT_EQ(Names(list), QStringList({"a2", "c", "d"}));
 }
 
-TEST(FolderListModel, ANewOrderKeepsPersistentRowsOnTheirItems) {
-    Tree tree;
-    FolderListModel list;
-    QAbstractItemModelTester tester(&list, QAbstractItemModelTester::FailureReportingMode::Fatal);
-    list.setSourceModel(&tree.model);
+TEST_F(FolderList, ANewOrderKeepsPersistentRowsOnTheirItems) {
     list.setFolder(tree.top->index());
     const QPersistentModelIndex a(list.index(1, 0));
     ASSERT_EQ(a.data().toString(), "a");
@@ -83,11 +80,7 @@ TEST(FolderListModel, ANewOrderKeepsPersistentRowsOnTheirItems) {
     EXPECT_EQ(a.data().toString(), "a");
 }
 
-TEST(FolderListModel, WhenTheFolderGoesTheListIsEmpty) {
-    Tree tree;
-    FolderListModel list;
-    QAbstractItemModelTester tester(&list, QAbstractItemModelTester::FailureReportingMode::Fatal);
-    list.setSourceModel(&tree.model);
+TEST_F(FolderList, WhenTheFolderGoesTheListIsEmpty) {
     list.setFolder(tree.top->index());
     const QPersistentModelIndex b(list.index(0, 0));
     tree.model.removeRow(0); // "top" and all it holds
