@@ -276,10 +276,6 @@ std::optional<EntryDetails> ArchiveDetails::entryByHash(quint64 hash) const {
     return unpack(entries_[slot->second]);
 }
 
-quint64 ArchiveDetails::sortKeyByHash(quint64 hash, int column) const {
-    return sortKeyAt(entryIndexByHash(hash), column);
-}
-
 quint32 ArchiveDetails::entryIndexByHash(quint64 hash) const {
     const Slot* slot = finished_ ? find(index_, hash) : nullptr;
     return slot ? slot->second : kNoEntry;

@@ -74,11 +74,10 @@ public:
     // The look-ups by a hash made with hashOf.
     std::optional<EntryDetails> entryByHash(quint64 hash) const;
     std::optional<int> folderCountByHash(quint64 hash) const;
-    // What an entry sorts by in a column: 1 size, 2 date and time, 3 attributes, 4 CRC-32.
-    // Something unknown (or no such entry) is 0 and sorts before everything known.
-    quint64 sortKeyByHash(quint64 hash, int column) const;
-    // The same in two steps, for a caller that sorts one set of entries more than once: the
-    // entry's place (kNoEntry when there is none), then its key in a column.
+    // What an entry sorts by, in two steps, for a caller that sorts one set of entries more
+    // than once: the entry's place (kNoEntry when there is none), then its key in a column
+    // (1 size, 2 date and time, 3 attributes, 4 CRC-32). Something unknown (or no such entry)
+    // is 0 and sorts before everything known.
     static constexpr quint32 kNoEntry = 0xffffffffu;
     quint32 entryIndexByHash(quint64 hash) const;
     quint64 sortKeyAt(quint32 entry, int column) const;

@@ -16,6 +16,8 @@
 #include <QFileInfo>
 #include <QSet>
 
+#include <algorithm>
+
 #ifdef Q_OS_UNIX
 #include <cerrno>
 #include <cstring>
@@ -266,9 +268,8 @@ ListingPass ReadListingLog(const QString& logPath, const EngineCodec& codec,
             ++p; // the LF of a CR LF cut by the chunk's edge
         lastWasCr = false;
         while (p < end) {
-            const char* lineEnd = p;
-            while (lineEnd < end && *lineEnd != '\r' && *lineEnd != '\n')
-                ++lineEnd;
+            const char* lineEnd =
+                std::find_if(p, end, [](char c) { return c == '\r' || c == '\n'; });
             if (lineEnd == end) {
                 carry(p, end - p);
                 break;

@@ -49,8 +49,6 @@ bool isDrive(const std::string& c) {
     return c.size() == 2 && c[1] == ':' && std::isalpha(static_cast<unsigned char>(c[0]));
 }
 
-// The parts of a stored or given path that may name a place under a target folder: empty,
-// "." and ".." parts and a leading drive are dropped, so nothing can climb out.
 std::vector<std::string> safeParts(const std::string& s) {
     std::vector<std::string> out;
     auto parts = splitPath(s);
@@ -79,8 +77,6 @@ bool hasWildcard(const std::string& s) {
     return s.find_first_of("*?") != std::string::npos;
 }
 
-// Case-insensitive whole-string match with "*" (any run, separators included) and "?" (one
-// character, however many bytes it takes in UTF-8).
 bool wildMatch(const std::string& pattern, const std::string& text) {
     const std::u32string p = folded(pattern), s = folded(text);
     std::size_t pi = 0, si = 0, star = std::u32string::npos, resume = 0;
@@ -103,8 +99,6 @@ bool wildMatch(const std::string& pattern, const std::string& text) {
     return pi == p.size();
 }
 
-// A pattern with a folder part is matched against the whole stored name, one without
-// against the file name only. As on DOS, a trailing ".*" also matches names without a dot.
 bool nameMatches(const std::string& pattern, const std::string& stored) {
     std::string pat = replaced(trim(pattern), '/', '\\');
     while (pat.rfind(".\\", 0) == 0)

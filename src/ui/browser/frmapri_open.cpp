@@ -2,14 +2,13 @@
 // meanwhile), a folder is shown, a file of an archive is extracted and run.
 #include "frmapri.h"
 
-#include "core/processcontrol.h"
-
 #include "filebrowser.h"
 
 #include "core/desktop.h"
 #include "core/jobscript.h"
 #include "core/logging.h"
 #include "core/places.h"
+#include "core/processcontrol.h"
 #include "core/runner.h"
 #include "core/vbtext.h"
 #include "engine/grammar.h"
