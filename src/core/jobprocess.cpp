@@ -1,6 +1,7 @@
 #include "jobprocess.h"
 
 #include "codepage.h"
+#include "confinement.h"
 #include "enginefiles.h"
 #include "enginelocale.h"
 #include "jobscript.h"
@@ -182,6 +183,15 @@ bool JobProcess::start(const QString& scriptPath, const QString& workingFolder) 
 
     QStringList args = job.arguments.mid(1);
     const bool windowsProgram = IsWindowsExecutable(engine);
+    // An extraction writes only below its destination (see confinement.h): the target folder,
+    // or the folder the job runs in when it names none.
+    const bool extraction = IsExtractionJob(job.arguments);
+    QString destination;
+    if (extraction) {
+        const QString target = ExtractionTarget(job.arguments);
+        destination = QDir::cleanPath(
+            target.isEmpty() ? folder : QFileInfo(QDir(folder), target).absoluteFilePath());
+    }
     if (windowsProgram) {
         const QString launcher = LauncherPath();
         if (launcher.isEmpty())
@@ -193,6 +203,27 @@ bool JobProcess::start(const QString& scriptPath, const QString& workingFolder) 
             return refuse(prefixError);
         // The server stays warm across the jobs of the session.
         LauncherServer::EnsureRunning(launcher);
+        if (extraction) {
+            // The destination is the root of a drive of its own: the engine is given that root
+            // as its target, and Windows path rules stop ".." there.
+            QString driveError;
+            if (!drive_.make(LauncherPrefixFolder(), destination, &driveError))
+                return refuse(QStringLiteral("the extraction cannot be confined to its "
+                                             "destination: %1")
+                                  .arg(driveError));
+            driveFolder_ = destination;
+            driveRoot_ = drive_.root();
+            bool targetGiven = false;
+            for (QString& a : args) {
+                if (a.size() > 2 && a.startsWith(QLatin1String("-t"), Qt::CaseInsensitive) &&
+                    !targetGiven) {
+                    a = QStringLiteral("-t") + drive_.root();
+                    targetGiven = true;
+                }
+            }
+            if (!targetGiven)
+                args.insert(1, QStringLiteral("-t") + drive_.root());
+        }
         for (QString& a : args) {
             if (a.startsWith(QLatin1Char('@')) && a.size() > 1) {
                 // The engine cannot open host paths: it gets a translated copy of the list.
@@ -227,6 +258,19 @@ bool JobProcess::start(const QString& scriptPath, const QString& workingFolder) 
     process_->setProcessEnvironment(env);
     process_->setStandardOutputFile(QProcess::nullDevice());
     process_->setStandardInputFile(QProcess::nullDevice());
+#ifdef Q_OS_UNIX
+    // A native engine is confined by the kernel instead: it may create, write and remove only
+    // below the destination.
+    int confinement = -1;
+    if (extraction && !windowsProgram) {
+        QString why;
+        confinement = MakeWriteConfinement(destination, &why);
+        if (confinement < 0)
+            qCDebug(lcRunner) << "extraction not confined:" << why;
+        else
+            driveFolder_ = destination;
+    }
+#endif
     connect(process_, &QProcess::readyReadStandardError, this, [this] {
         qCDebug(lcRunner).noquote() << "engine:" << process_->readAllStandardError().trimmed();
     });
@@ -265,7 +309,7 @@ bool JobProcess::start(const QString& scriptPath, const QString& workingFolder) 
         closeTerminal();
     }
     const std::string slave = slaveName.toStdString();
-    process_->setChildProcessModifier([slave, outFd] {
+    process_->setChildProcessModifier([slave, outFd, confinement] {
         // Runs in the child between fork and exec: async-signal-safe calls only.
         ::setsid();
         if (!slave.empty()) {
@@ -280,6 +324,10 @@ bool JobProcess::start(const QString& scriptPath, const QString& workingFolder) 
         if (outFd >= 0)
             ::dup2(outFd, STDOUT_FILENO);
         ::setpriority(PRIO_PROCESS, 0, 19);
+        // Last, once the terminal and the output are open: from here on nothing above the
+        // destination can be written. A confinement that cannot be applied ends the child.
+        if (confinement >= 0 && !ApplyWriteConfinement(confinement))
+            ::_exit(126);
     });
 #endif
 
@@ -289,6 +337,8 @@ bool JobProcess::start(const QString& scriptPath, const QString& workingFolder) 
         qCDebug(lcRunner) << "job ended with" << code
                           << (status == QProcess::CrashExit ? "(crashed)" : "");
         closeTerminal();
+        // The job's drive goes with it: the drive's letter stands for nothing once it ended.
+        drive_.remove();
         emit finished(code);
     });
     qCDebug(lcRunner) << "starting" << program_ << MaskedArguments(arguments_) << "in" << folder;
@@ -297,6 +347,8 @@ bool JobProcess::start(const QString& scriptPath, const QString& workingFolder) 
 #ifdef Q_OS_UNIX
     if (outFd >= 0)
         ::close(outFd);
+    if (confinement >= 0)
+        ::close(confinement);
 #endif
     if (!started) {
         closeTerminal();
@@ -338,6 +390,17 @@ void JobProcess::kill() {
         qCDebug(lcRunner) << "could not end the job's process group" << group_;
 #endif
     process_->kill();
+}
+
+QString JobProcess::withDriveShownAsFolder(const QString& engineText) const {
+    if (driveRoot_.isEmpty() || !engineText.contains(driveRoot_, Qt::CaseInsensitive))
+        return engineText;
+    // "Q:\a\b.txt" is the destination's "a\b.txt": in the launcher's form, which the text's
+    // other paths share, so that one translation shows them all as host paths.
+    QString folder = ToLauncherPath(driveFolder_);
+    if (!folder.endsWith(QLatin1Char('\\')))
+        folder += QLatin1Char('\\');
+    return QString(engineText).replace(driveRoot_, folder, Qt::CaseInsensitive);
 }
 
 void JobProcess::closeTerminal() {

@@ -5,6 +5,7 @@
 // pseudo-terminal as its console.
 #pragma once
 
+#include "confinement.h"
 #include "scriptexec.h"
 
 #include <QObject>
@@ -41,6 +42,13 @@ public:
     // The program and arguments actually started (after launcher translation), for tests and logs.
     QString program() const { return program_; }
     QStringList arguments() const { return arguments_; }
+    // An extraction under the launcher: the root of the drive its destination was given as
+    // ("Q:\"), and that destination (host path); empty otherwise. The destination is also
+    // set for a native engine confined to it.
+    QString driveRoot() const { return driveRoot_; }
+    QString confinedTo() const { return driveFolder_; }
+    // Engine text with the job's drive turned back into the destination's host path.
+    QString withDriveShownAsFolder(const QString& engineText) const;
 
     // Ends the job at once, the engine's whole process group with it (used when the window
     // that owns the job closes).
@@ -61,6 +69,9 @@ private:
     QString error_;
     // The translated copy of a list file handed to an engine under the launcher.
     QString listCopy_;
+    LauncherDrive drive_;
+    QString driveRoot_;
+    QString driveFolder_;
     QString program_;
     QStringList arguments_;
 };

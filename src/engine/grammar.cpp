@@ -188,6 +188,8 @@ CommandPieces ExtractCommandPieces(const ExtractOptions& o, const QString& progr
         for (const QString& pattern : SplitPatterns(o.exclude))
             pieces << ExcludeFragment(pattern);
     }
+    for (const QString& name : o.leftOut)
+        pieces << ExcludeFragment(name);
     if (o.choice == FileChoice::FileList)
         pieces << ListFileFragment(o.listFile);
     pieces << RedirectFragment(tempRoot, style);
@@ -218,7 +220,8 @@ CommandPieces TestCommandPieces(const QString& programFolder, const QString& tem
 
 CommandPieces SingleItemCommandPieces(const QString& programFolder, const QString& tempRoot,
                                       const QString& password, const QString& archive,
-                                      const QString& item, PathStyle style) {
+                                      const QString& item, PathStyle style,
+                                      const QStringList& leftOut) {
     CommandPieces pieces;
     pieces << quotedEngine(programFolder, style, fragment::EngineNameUpper) +
                   Fragment(fragment::SingleItemExtract) + Fragment("\"") +
@@ -228,6 +231,8 @@ CommandPieces SingleItemCommandPieces(const QString& programFolder, const QStrin
     if (!password.isEmpty())
         pieces << PasswordFragment(password);
     pieces << quoted(archive, "archive") + Fragment(" ") + quoted(item, "item");
+    for (const QString& name : leftOut)
+        pieces << ExcludeFragment(name);
     return pieces;
 }
 

@@ -131,6 +131,9 @@ struct ExtractOptions {
     QString listFile;
     bool excludeTicked = false;
     QString exclude;
+    // Stored names that must never reach the engine's extraction (their names are unsafe):
+    // each is excluded by name, after the user's own exclusions.
+    QStringList leftOut;
 };
 
 // The command pieces of an Add line (engine to redirection), in order. `methods` is the
@@ -151,10 +154,11 @@ CommandPieces TestCommandPieces(const QString& programFolder, const QString& tem
                                 const QString& archive, PathStyle style);
 // The single-item line: '"' + engine ("UHARC.exe") + '"' + " e  -o+ -t" + '"' + WorkFolder +
 // '"' + " -y+ ", the password fragment when a password is known, then the quoted archive, a
-// blank and the quoted item. No redirection.
+// blank and the quoted item, then an exclusion for each name of `leftOut`. No redirection.
 CommandPieces SingleItemCommandPieces(const QString& programFolder, const QString& tempRoot,
                                       const QString& password, const QString& archive,
-                                      const QString& item, PathStyle style);
+                                      const QString& item, PathStyle style,
+                                      const QStringList& leftOut = {});
 
 // Writes the Add or Extract job script ("@echo off", "cls", "set uharc_opt= -d2", then the line
 // without a line end). False when it is refused or cannot be written; `error` then says why.

@@ -9,6 +9,7 @@
 #include "core/vbtext.h"
 #include "engine/grammar.h"
 #include "engine/mirrorwriter.h"
+#include "engine/unsafenames.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -135,8 +136,11 @@ class ListingLineReader {
 public:
     ListingLineReader(ListingPass& pass, const QString& treeFolder,
                       std::atomic<qint64>* entries = nullptr)
-        : pass_(pass), writer_(treeFolder), separator_(ListingSeparator()), entries_(entries) {
-        if (!writer_.rootOk())
+        : pass_(pass), separator_(ListingSeparator()), entries_(entries) {
+        if (treeFolder.isEmpty())
+            return; // names only: no tree is made
+        writer_.emplace(treeFolder);
+        if (!writer_->rootOk())
             pass_.treeProblem =
                 QStringLiteral("it cannot create the folder view %1").arg(treeFolder);
     }
@@ -174,15 +178,25 @@ public:
         // A log that holds an engine error lists nothing: its lines are no entries, and the
         // count of entries read stays honest (nothing is read while a password is asked for).
         if (pass_.treeProblem.isEmpty() && pass_.error.isEmpty()) {
-            pendingShown_ = writer_.placeEntry(name);
-            if (!writer_.failure().isEmpty())
-                pass_.treeProblem = writer_.failure();
+            ++pass_.entryCount;
+            if (writer_) {
+                pendingShown_ = writer_->placeEntry(name);
+                if (!writer_->failure().isEmpty())
+                    pass_.treeProblem = writer_->failure();
+            } else {
+                // Names only: the details are kept under the stored name.
+                pendingShown_ = name;
+                if (IsUnsafeEntryName(name))
+                    unsafe_ << name;
+            }
             if (entries_)
                 entries_->fetch_add(1, std::memory_order_relaxed);
         }
     }
 
     void finish() {
+        // Known as far as the log goes, also when it is cut short.
+        pass_.unsafeNames = writer_ ? writer_->unsafeNames() : unsafe_;
         if (!separatorSeen_) {
             qCDebug(lcListing) << "listing ends before its separator line";
             if (pass_.treeProblem.isEmpty())
@@ -190,7 +204,8 @@ public:
             return;
         }
         pass_.treeComplete = pass_.treeProblem.isEmpty();
-        pass_.aliases = writer_.aliases();
+        if (writer_)
+            pass_.aliases = writer_->aliases();
         details_->finish();
         pass_.details = std::move(details_);
         QStringList tail(9);
@@ -200,7 +215,9 @@ public:
 
 private:
     ListingPass& pass_;
-    MirrorWriter writer_;
+    std::optional<MirrorWriter> writer_;
+    // The unsafe names seen when no tree is made.
+    QStringList unsafe_;
     const QString separator_;
     std::atomic<qint64>* entries_;
     std::shared_ptr<ArchiveDetails> details_ = std::make_shared<ArchiveDetails>();
@@ -404,6 +421,10 @@ void ArchiveLister::Batch() {
     entries_ = 0;
     const EngineCodec codec = ActiveEngineCodec();
     RunBeside([&] {
+        if (namesOnly_) {
+            pass_ = ReadListingLog(log, codec, QString(), &stop_, &entries_);
+            return;
+        }
         if (!EmptyFolderQuickly(staging))
             qCDebug(lcListing) << "could not empty" << staging;
         const BackgroundDeletesHeld quiet;
@@ -499,6 +520,8 @@ ListStatus ArchiveLister::FileInArchivio(const QString& selectedPath) {
                     problem = QStringLiteral("it cannot replace the previous folder view");
                 else {
                     shownAliases_ = pass_.aliases;
+                    shownUnsafe_ = pass_.unsafeNames;
+                    shownEntries_ = pass_.entryCount;
                     shownDetails_ = pass_.details;
                 }
             }
@@ -509,9 +532,16 @@ ListStatus ArchiveLister::FileInArchivio(const QString& selectedPath) {
                 listing_.status = ListStatus::Failed;
                 listing_.password.clear();
                 UndoEngineSwitch(switch_, ProgramFolder());
-            } else if (!shownAliases_.isEmpty()) {
-                // Shown, but not every name as stored: the user is told.
-                prompter_->information(AliasesMessage(selectedPath, shownAliases_.count()));
+            } else {
+                // Shown, but not every name as stored: the user is told, once. Entries whose
+                // names would climb out of a folder are said apart from the shortened names.
+                const QStringList& unsafe = pass_.unsafeNames;
+                if (!unsafe.isEmpty())
+                    prompter_->information(
+                        UnsafeEntriesMessage(selectedPath, unsafe, unsafe.size()));
+                const qsizetype renamed = shownAliases_.count() - unsafe.size();
+                if (renamed > 0)
+                    prompter_->information(AliasesMessage(selectedPath, renamed));
             }
             return listing_.status;
         }

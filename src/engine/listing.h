@@ -6,6 +6,7 @@
 
 #include "entrydetails.h"
 #include "mirroraliases.h"
+#include "namecheck.h"
 #include "versionswitch.h"
 
 #include "core/codepage.h"
@@ -98,12 +99,20 @@ struct ListingPass {
     QString treeProblem;
     std::optional<ArchiveTotals> totals;
     qint64 lines = 0;
-    // Entries shown under another name than stored (the file system could not hold theirs).
+    // Entries shown under another name than stored (the file system could not hold theirs, or
+    // they are unsafe).
     MirrorAliases aliases;
+    // The stored names that would climb out of a destination (IsUnsafeEntryName), in the
+    // listing's order; they are never extracted.
+    QStringList unsafeNames;
+    // How many entries the listing holds.
+    qint64 entryCount = 0;
     // Every placed entry's details, under the path it is shown at; set once the separator is
     // reached.
     std::shared_ptr<const ArchiveDetails> details;
 };
+// With an empty `treeFolder` no tree is made: the pass only reads the names (for the unsafe
+// ones), the details and the totals.
 // `stop` (when given) is looked at between lines: once it is set, the pass ends, incomplete.
 // `entries` (when given) counts the entries placed so far, for a progress display; both may be
 // read from another thread than the one running the pass.
@@ -166,6 +175,14 @@ public:
 
     // The names of the tree shown now that differ from their stored names.
     const MirrorAliases& shownAliases() const { return shownAliases_; }
+    // The stored names of the tree shown now that are unsafe (never extracted).
+    const QStringList& shownUnsafeNames() const { return shownUnsafe_; }
+    // The entries of the tree shown now: how many, and the unsafe ones.
+    ArchiveNames shownNames() const { return {shownEntries_ >= 0, shownEntries_, shownUnsafe_}; }
+
+    // A lister that reads names only: Batch() makes no tree (for an archive that is about to
+    // be extracted without being shown).
+    void setNamesOnly(bool namesOnly) { namesOnly_ = namesOnly; }
     // The details of the entries of the tree shown now (null before the first listing).
     std::shared_ptr<const ArchiveDetails> shownDetails() const { return shownDetails_; }
 
@@ -182,6 +199,9 @@ private:
     QString startError_;
     ListingPass pass_;
     MirrorAliases shownAliases_;
+    QStringList shownUnsafe_;
+    qint64 shownEntries_ = -1;
+    bool namesOnly_ = false;
     std::shared_ptr<const ArchiveDetails> shownDetails_;
     bool cancelled_ = false;
     std::atomic<bool> stop_{false};

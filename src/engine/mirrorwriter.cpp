@@ -2,6 +2,7 @@
 
 #include "core/logging.h"
 #include "engine/listing.h"
+#include "engine/unsafenames.h"
 
 #include <QDir>
 #include <QFile>
@@ -37,6 +38,16 @@ bool nameRefused(int error) {
 
 constexpr int kMostTries = 1000;
 
+// Another name for an unsafe entry's shown name: numbered (or shortened) in its last part, so
+// that "..⧵x" becomes "..⧵x (2)" and "⧵tmp⧵a.txt" "⧵tmp⧵a (2).txt".
+QString numberedUnsafe(const QString& shown, int n) {
+    const qsizetype cut = shown.lastIndexOf(QChar(0x29F5));
+    if (cut < 0)
+        return AliasName(shown, n);
+    const QString numbered = shown.left(cut + 1) + AliasName(shown.mid(cut + 1), n);
+    return numbered.toUtf8().size() <= kLongestNameBytes ? numbered : AliasName(shown, n);
+}
+
 } // namespace
 
 MirrorWriter::MirrorWriter(const QString& root) : root_(QDir::cleanPath(root)) {
@@ -53,6 +64,8 @@ bool MirrorWriter::usable(const QString& component) {
 }
 
 QString MirrorWriter::placeEntry(const QString& name) {
+    if (IsUnsafeEntryName(name))
+        return placeUnsafe(name);
     QString folder = sGivePath(name);
     if (Tipo(folder) == 1)
         folder = folder.mid(2);
@@ -60,6 +73,41 @@ QString MirrorWriter::placeEntry(const QString& name) {
         folder.clear(); // an entry at a drive's root ("C:\a.txt") lands at the root
     const QString shown = placeholder(makeFolder(folder), sGiveFile(name));
     return shown.isEmpty() ? shown : joined(lastShown_, shown);
+}
+
+QString MirrorWriter::placeUnsafe(const QString& name) {
+    unsafe_ << name;
+    const QByteArray root = makeFolder(QString());
+    if (root.isEmpty())
+        return QString();
+    const QString wanted = UnsafeShownName(name);
+#ifdef Q_OS_UNIX
+    const int dir = folderHandle(root);
+    // Always a placeholder of its own at the top of the tree, never one that stands already.
+    for (int n = wanted.toUtf8().size() > kLongestNameBytes ? 1 : 0; n <= kMostTries; ++n) {
+        const QString shown = n == 0 ? wanted : numberedUnsafe(wanted, n);
+        const int fd = ::openat(dir, QFile::encodeName(shown).constData(),
+                                O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0644);
+        if (fd >= 0) {
+            ::close(fd);
+            aliases_.add(shown, name);
+            qCDebug(lcListing) << "unsafe entry shown as" << shown << "for" << name;
+            return shown;
+        }
+        if (!nameRefused(errno)) {
+            fail(errno);
+            return QString();
+        }
+    }
+    return QString();
+#else
+    const QString shown = wanted;
+    QFile f(QFile::decodeName(root + '/' + QFile::encodeName(shown)));
+    if (!f.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        return QString();
+    aliases_.add(shown, name);
+    return shown;
+#endif
 }
 
 QByteArray MirrorWriter::makeFolder(const QString& folder) {

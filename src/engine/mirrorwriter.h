@@ -11,6 +11,7 @@
 #include <QHash>
 #include <QSet>
 #include <QString>
+#include <QStringList>
 
 namespace quovara {
 
@@ -26,6 +27,9 @@ public:
     const QString& failure() const { return failure_; }
     // The names shown otherwise than stored.
     const MirrorAliases& aliases() const { return aliases_; }
+    // The stored names of the entries placed so far whose names are unsafe (IsUnsafeEntryName),
+    // in the order of the listing. Each is shown at the top of the tree under a safe name.
+    const QStringList& unsafeNames() const { return unsafe_; }
 
     // Places the entry `name` (its stored name, "\" or "/" between folders): its folders, then
     // its placeholder. A drive and a drive's root are dropped. Returns the path the entry is
@@ -40,6 +44,7 @@ public:
     QString placeholder(const QByteArray& folder, const QString& file);
 
 private:
+    QString placeUnsafe(const QString& name);
     static bool usable(const QString& component);
     // 0 when `path` is a real folder now (made or found), else the error: EEXIST when something
     // else (a file, a link) stands there.
@@ -61,6 +66,7 @@ private:
     // A renamed folder part: "<shown parent>\<stored part>" → its name in the tree.
     QHash<QString, QString> folderAliases_;
     MirrorAliases aliases_;
+    QStringList unsafe_;
     int folderFd_ = -1;
 };
 

@@ -1,5 +1,6 @@
 #include "core/jobprocess.h"
 #include "core/jobscript.h"
+#include "core/launcherprefix.h"
 #include "core/launcherserver.h"
 #include "core/places.h"
 #include "core/processcontrol.h"
@@ -160,8 +161,9 @@ TEST_F(Runner, WindowsEngineRunsThroughTheLauncherWithATerminal) {
     const QString otherCase = places.programFolder() + "/Uharc.exe";
     const QString list = places.path() + "/list.txt";
     writeFile(list, "/a/one.txt\n");
+    const QString out = places.path() + "/out/dir";
     WriteJobScript(script(names::ExtractScript), Preamble::Job,
-                   {"\"" + otherCase + "\" ", "x ", "-t\"/out/dir\"", " -o+ ", "\"/arch/a.uha\"",
+                   {"\"" + otherCase + "\" ", "x ", "-t\"" + out + "\"", " -o+ ", "\"/arch/a.uha\"",
                     " !\"*.bak\"", " @\"" + list + "\"", " > " + das()});
     EXPECT_TRUE(RunAndWait(script(names::ExtractScript), 0, places.path()));
     qunsetenv("QUOVARA_WINE");
@@ -169,7 +171,11 @@ TEST_F(Runner, WindowsEngineRunsThroughTheLauncherWithATerminal) {
     ASSERT_GE(lines.size(), 8);
     EXPECT_EQ(lines[0], engine());
     EXPECT_EQ(lines[1], "x");
-    EXPECT_EQ(lines[2], "-tZ:\\out\\dir");
+    // An extraction's target is the root of a drive of its own, linked to the destination for
+    // the job and gone after it.
+    EXPECT_EQ(lines[2], "-tY:\\");
+    EXPECT_FALSE(QFileInfo(LauncherPrefixFolder() + "/dosdevices/y:").isSymLink());
+    EXPECT_TRUE(QFileInfo(out).isDir());
     EXPECT_EQ(lines[3], "-o+");
     EXPECT_EQ(lines[4], "Z:\\arch\\a.uha");
     EXPECT_EQ(lines[5], "!*.bak");

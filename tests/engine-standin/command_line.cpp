@@ -57,7 +57,13 @@ void parseSwitch(const std::string& a, Options& o) {
             setError(o, "Invalid dictionary size");
         else
             o.dictionaryKB = kb;
-    } else if (l.rfind("-pw", 0) == 0)
+    } else if (is({"-pr"}))
+        o.paths = 'r';
+    else if (is({"-pf"}))
+        o.paths = 'f';
+    else if (is({"-pn"}))
+        o.paths = 0;
+    else if (l.rfind("-pw", 0) == 0)
         o.password = toAnsi(a.substr(3));
     else if (l.rfind("-lg", 0) == 0) {
         o.hasLog = true;

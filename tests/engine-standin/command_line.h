@@ -19,6 +19,10 @@ struct Options {
     std::string password;
     int overwrite = -1; // -1: not given
     std::string target;
+    // Path switches of an add, as the engine has them: 0 the default (the path as given, its
+    // root, drive, "." and ".." parts removed), 'r' (-pr: relative, ".." kept), 'f' (-pf: full,
+    // a drive kept).
+    char paths = 0;
     bool yes = false;
     int display = 1;
     bool hasLog = false;

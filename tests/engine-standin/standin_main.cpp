@@ -197,6 +197,109 @@ std::string displayTarget(const std::string& target) {
     return t;
 }
 
+// A drive at the start of a path part: "C:" or "Z:..".
+bool startsWithDrive(const std::string& part) {
+    return part.size() >= 2 && part[1] == ':' &&
+           ((part[0] >= 'A' && part[0] <= 'Z') || (part[0] >= 'a' && part[0] <= 'z'));
+}
+
+// Under the launcher (the stand-in launcher sets WINEPREFIX), a path such as "Q:\a\..\b" is
+// followed as Windows follows it: ".." never climbs above the drive's root, and the drive is
+// the folder its link in the prefix's "dosdevices" names (Z: is the root of the file system).
+bool windowsDrivePath(const std::string& path) {
+    return !std::getenv("WINEPREFIX") ? false
+                                      : path.size() >= 2 && startsWithDrive(path.substr(0, 2)) &&
+                                            (path.size() == 2 || path[2] == '\\');
+}
+
+fs::path driveFolder(char letter) {
+    letter = static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
+    if (letter == 'z')
+        return "/";
+    const fs::path link =
+        fs::path(std::getenv("WINEPREFIX")) / "dosdevices" / (std::string(1, letter) + ":");
+    std::error_code ec;
+    const fs::path target = fs::read_symlink(link, ec);
+    if (ec)
+        return "/nonexistent-drive";
+    return target.is_absolute() ? target : link.parent_path() / target;
+}
+
+fs::path followWindowsPath(const std::string& drivePath, const std::vector<std::string>& more) {
+    std::vector<std::string> parts;
+    auto add = [&parts](const std::string& p) {
+        if (p.empty() || p == ".")
+            return;
+        if (p == "..") {
+            if (!parts.empty())
+                parts.pop_back(); // never above the drive's root
+            return;
+        }
+        parts.push_back(p);
+    };
+    const auto given = splitPath(drivePath.substr(2));
+    for (const auto& p : given)
+        add(p);
+    for (const auto& p : more)
+        add(p);
+    fs::path out = driveFolder(drivePath[0]);
+    for (const auto& p : parts)
+        out /= p;
+    return out;
+}
+
+// Where the engine writes an entry: where its stored name points, ".." included, as the real
+// engine does (an archive is untrusted; the program must keep such names from the engine).
+// With a target, a stored drive is dropped with the ".." parts after it, and a name that
+// starts with a separator cannot be written; without one, both name places of their own.
+struct Place {
+    fs::path path;
+    std::string shown;
+    bool cannotWrite = false;
+    bool nothing = false;
+};
+
+Place placeOf(const std::string& stored, const Options& o, bool withPaths) {
+    Place place;
+    auto parts = splitPath(stored);
+    const bool rooted = parts.size() > 1 && parts.front().empty();
+    std::string drive;
+    if (!parts.empty() && startsWithDrive(parts.front())) {
+        drive = parts.front().substr(0, 2);
+        parts.front() = parts.front().substr(2);
+    }
+    std::vector<std::string> kept;
+    for (const auto& p : parts) {
+        if (p.empty() || p == "." || (p == ".." && !drive.empty() && !o.target.empty()))
+            continue;
+        kept.push_back(p);
+    }
+    if (!withPaths && !kept.empty())
+        kept = {kept.back()};
+    if (kept.empty()) {
+        place.nothing = true;
+        return place;
+    }
+    place.shown = (o.target.empty() ? "" : displayTarget(o.target) + "\\") + join(kept, "\\");
+    if (!o.target.empty() && rooted && drive.empty() && withPaths) {
+        place.cannotWrite = true;
+        return place;
+    }
+    std::string base = o.target;
+    if (base.empty() && !drive.empty())
+        base = drive + "\\";
+    else if (base.empty() && rooted && withPaths)
+        base = std::getenv("WINEPREFIX") ? "Z:\\" : "/";
+    if (windowsDrivePath(base)) {
+        place.path = followWindowsPath(base, kept);
+        return place;
+    }
+    place.path = base.empty() ? fs::path(".") : hostPath(base);
+    for (const auto& p : kept)
+        place.path /= p;
+    return place;
+}
+
 [[noreturn]] void commandTestOrExtract(Output& out, const Options& o) {
     const bool extract = o.command != 't';
     const bool withPaths = o.command == 'x';
@@ -219,17 +322,13 @@ std::string displayTarget(const std::string& target) {
     out.line(kDashes);
 
     const bool overwrite = o.overwrite < 0 ? o.yes : o.overwrite == 1;
-    const fs::path base = o.target.empty() ? fs::path(".") : hostPath(o.target);
-    const std::string shownBase = o.target.empty() ? "" : displayTarget(o.target) + "\\";
     const int delay = perFileDelayMs();
     const auto start = std::chrono::steady_clock::now();
     std::uint64_t done = 0;
     const Entry* failed = nullptr; // a CRC failure is reported while the next file starts
     for (const Entry* e : sel) {
-        auto parts = safeParts(e->name);
-        if (!withPaths && !parts.empty())
-            parts = {parts.back()};
-        std::string shown = extract ? shownBase + join(parts, "\\") : e->name;
+        const Place place = placeOf(e->name, o, withPaths);
+        std::string shown = extract ? place.shown : e->name;
         if (o.display >= 2)
             out.progress(jobProgressLine(verb, shown, percentDone(done, total)));
         faultPoint(out);
@@ -237,11 +336,11 @@ std::string displayTarget(const std::string& target) {
             out.fail("CRC-failure (file \"" + failed->name + "\")", o.display >= 2);
         sleepPerFile(delay);
         done += e->size;
-        fs::path dest = base;
-        for (const auto& p : parts)
-            dest /= p;
+        const fs::path dest = place.path;
         std::error_code ec;
-        if (extract && (parts.empty() || (!overwrite && fs::exists(dest, ec)))) {
+        if (extract && place.cannotWrite)
+            out.fail("Can't write file", o.display >= 2);
+        if (extract && (place.nothing || (!overwrite && fs::exists(dest, ec)))) {
             if (o.display >= 2)
                 out.fileLine(jobFileLine("Skipping", shown));
             continue;
@@ -310,8 +409,21 @@ std::string shownPrefix(const std::string& folder) {
     return s.empty() || s.back() == '\\' ? s : s + "\\";
 }
 
-std::string storedPrefix(const std::string& folder) {
-    auto parts = safeParts(folder);
+// The folder part of a stored name. With -pr the ".." parts stay and with -pf the drive too,
+// as the engine keeps them: an archive made so names places outside any folder.
+std::string storedPrefix(const std::string& folder, char paths) {
+    std::vector<std::string> parts;
+    if (paths == 0) {
+        parts = safeParts(folder);
+    } else {
+        const auto all = splitPath(folder);
+        for (std::size_t i = 0; i < all.size(); ++i) {
+            const auto& p = all[i];
+            if (p.empty() || p == "." || (i == 0 && isDrive(p) && paths != 'f'))
+                continue;
+            parts.push_back(p);
+        }
+    }
     return parts.empty() ? "" : join(parts, "\\") + "\\";
 }
 
@@ -363,7 +475,7 @@ std::vector<Source> collectSources(const Options& o) {
             dir = pos == std::string::npos ? "" : (pos == 0 ? "/" : s.substr(0, pos));
             pattern = pos == std::string::npos ? s : s.substr(pos + 1);
         }
-        const std::string prefix = storedPrefix(dir);
+        const std::string prefix = storedPrefix(dir, o.paths);
         const std::string shown = shownPrefix(dir);
         if (!hasWildcard(pattern)) {
             fs::path p = hostPath(s);

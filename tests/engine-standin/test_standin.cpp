@@ -503,29 +503,58 @@ TEST_F(StandinTest, DamagedDataGivesCrcFailureInTestAndExtract) {
     EXPECT_EQ(l.exitCode, 0);
 }
 
-TEST_F(StandinTest, DotDotNamesNeverLeaveTheTarget) {
+// As the real engine does: an entry is written where its stored name points, ".." included,
+// and the job reports success. A drive stored in a name is dropped under a target, and a name
+// that starts with a separator cannot be written there. Keeping such names from the engine is
+// the program's work.
+TEST_F(StandinTest, NamesAreFollowedWhereTheyPointAsTheEngineFollowsThem) {
     QByteArray arc = handMadeArchive({{"..\\..\\evil.txt", "e"},
                                       {"C:\\abs\\x.txt", "x"},
-                                      {"\\root.txt", "r"},
                                       {"a\\..\\..\\b\\up.txt", "u"},
                                       {"../slash.txt", "s"}});
     writeFile(path("work/h.uha"), arc);
     EngineRun x = run6({"x", "-y+", "-ttarget", "h.uha"}, path("work"));
     ASSERT_EQ(x.exitCode, 0) << x.out.toStdString();
-    EXPECT_EQ(readFile(path("work/target/evil.txt")), "e");
+    EXPECT_TRUE(x.out.contains("All files OK")) << x.out.toStdString();
+    EXPECT_EQ(readFile(path("evil.txt")), "e");
     EXPECT_EQ(readFile(path("work/target/abs/x.txt")), "x");
-    EXPECT_EQ(readFile(path("work/target/root.txt")), "r");
-    EXPECT_EQ(readFile(path("work/target/a/b/up.txt")), "u");
-    EXPECT_EQ(readFile(path("work/target/slash.txt")), "s");
-    EXPECT_FALSE(QFile::exists(path("evil.txt")));
-    EXPECT_FALSE(QFile::exists(path("work/evil.txt")));
-    EXPECT_FALSE(QFile::exists(path("b/up.txt")));
-    EXPECT_FALSE(QFile::exists(path("slash.txt")));
+    EXPECT_EQ(readFile(path("work/b/up.txt")), "u");
+    EXPECT_EQ(readFile(path("work/slash.txt")), "s");
+    // The flat command keeps the last part only.
     QDir().mkpath(path("work/in"));
     EngineRun e2 = run6({"e", "-y+", "../h.uha"}, path("work/in"));
     ASSERT_EQ(e2.exitCode, 0) << e2.out.toStdString();
     EXPECT_EQ(readFile(path("work/in/evil.txt")), "e");
-    EXPECT_EQ(QDir(path("work")).entryList(QDir::Files), QStringList{"h.uha"});
+    // A name that starts with a separator cannot be written under a target.
+    writeFile(path("work/r.uha"), handMadeArchive({{"\\root.txt", "r"}}));
+    EngineRun r = run6({"x", "-y+", "-ttarget", "r.uha"}, path("work"));
+    EXPECT_EQ(r.exitCode, 255);
+    EXPECT_TRUE(r.out.contains("ERROR: Can't write file")) << r.out.toStdString();
+}
+
+// Under the launcher, a target that is a drive's root ("Q:\") is followed as Windows follows
+// it: the drive is the folder its link in the prefix names, and ".." stops at its root.
+TEST_F(StandinTest, UnderTheLauncherDotDotStopsAtTheRootOfTheTargetsDrive) {
+    writeFile(path("work/h.uha"), handMadeArchive({{"..\\..\\evil.txt", "e"},
+                                                   {"a\\..\\..\\..\\b\\up.txt", "u"},
+                                                   {"C:\\abs\\x.txt", "x"}}));
+    QDir().mkpath(path("prefix/dosdevices"));
+    QDir().mkpath(path("work/dest"));
+    ASSERT_TRUE(QFile::link(path("work/dest"), path("prefix/dosdevices/q:")));
+    QProcess p;
+    QProcessEnvironment env = cleanEnvironment();
+    env.insert("WINEPREFIX", path("prefix"));
+    p.setProcessEnvironment(env);
+    p.setWorkingDirectory(path("work"));
+    p.start(STANDIN_ENGINE_06, {"x", "-y+", "-tQ:\\", "h.uha"});
+    ASSERT_TRUE(p.waitForFinished(30000));
+    EXPECT_EQ(p.exitCode(), 0) << p.readAllStandardOutput().toStdString();
+    EXPECT_EQ(readFile(path("work/dest/evil.txt")), "e");
+    EXPECT_EQ(readFile(path("work/dest/b/up.txt")), "u");
+    EXPECT_EQ(readFile(path("work/dest/abs/x.txt")), "x");
+    EXPECT_FALSE(QFile::exists(path("evil.txt")));
+    EXPECT_EQ(QDir(path("work")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+              QStringList({"dest", "h.uha"}));
 }
 
 TEST_F(StandinTest, TemporaryArchiveExistsWhileAddingAndIsRenamedAtTheEnd) {

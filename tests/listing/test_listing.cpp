@@ -207,11 +207,13 @@ TEST(BuildMirrorTree, AwkwardNamesStayInsideTheScratchFolder) {
     QDir(dir.path()).mkdir("outside");
     const QString scratch = dir.filePath("outside/scratch");
     ASSERT_TRUE(BuildMirrorTree(sampleLines("list-awkward-names.log"), scratch));
-    EXPECT_EQ(
-        filesBelow(scratch),
-        QStringList({"a/escape4.txt", "caf\u00e9/r\u00e9sum\u00e9.txt", "deep/double/x.txt",
-                     "docs/a.txt", "escape1.txt", "etc/escape3.txt", "folder/dup.txt",
-                     "folder/escape2.txt", "lead.txt", "root.txt", "spaced/name with blanks.txt"}));
+    EXPECT_EQ(filesBelow(scratch),
+              QStringList({"..\u29f5..\u29f5escape1.txt", "C\ua789\u29f5docs\u29f5a.txt",
+                           "a\u29f5..\u29f5..\u29f5escape4.txt", "caf\u00e9/r\u00e9sum\u00e9.txt",
+                           "deep/double/x.txt", "folder/dup.txt",
+                           "folder\u29f5..\u29f5..\u29f5..\u29f5escape2.txt", "root.txt",
+                           "spaced/name with blanks.txt", "\u29f5etc\u29f5escape3.txt",
+                           "\u29f5lead.txt"}));
     // Nothing beside the scratch folder, and the separator artefact is gone.
     EXPECT_EQ(QDir(dir.filePath("outside")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
               QStringList({"scratch"}));
@@ -242,7 +244,7 @@ TEST(BuildMirrorTree, LogEndingBeforeTheSeparatorFails) {
     EXPECT_FALSE(BuildMirrorTree({}, dir.filePath("s")));
 }
 
-TEST(BuildMirrorTree, DriveEntriesLoseTheirDriveAndRootEntriesLandAtTheTop) {
+TEST(BuildMirrorTree, DriveEntriesAreShownAtTheTopUnderASafeName) {
     QTemporaryDir dir;
     QStringList lines;
     for (int i = 0; i < 9; ++i)
@@ -257,10 +259,11 @@ TEST(BuildMirrorTree, DriveEntriesLoseTheirDriveAndRootEntriesLandAtTheTop) {
           << "d" << QString(79, '-') << "1 files   0"
           << "";
     ASSERT_TRUE(BuildMirrorTree(lines, dir.filePath("s")));
-    EXPECT_EQ(filesBelow(dir.filePath("s")), QStringList({"docs/a.txt", "top.txt", "x/same.txt"}));
+    EXPECT_EQ(filesBelow(dir.filePath("s")),
+              QStringList({"C\ua789\u29f5docs\u29f5a.txt", "top.txt", "x/same.txt"}));
 }
 
-TEST(BuildMirrorTree, AnEntryAtADrivesRootLandsAtTheTop) {
+TEST(BuildMirrorTree, AnEntryWithADriveLandsAtTheTopAndNoFolderIsNamedAfterTheDrive) {
     QTemporaryDir dir;
     QStringList lines(9);
     lines << "C:\\a.txt"
@@ -269,7 +272,8 @@ TEST(BuildMirrorTree, AnEntryAtADrivesRootLandsAtTheTop) {
           << "d" << QString(79, '-') << "2 files   0"
           << "";
     ASSERT_TRUE(BuildMirrorTree(lines, dir.filePath("s")));
-    EXPECT_EQ(filesBelow(dir.filePath("s")), QStringList({"a.txt", "sub/b.txt"}));
+    EXPECT_EQ(filesBelow(dir.filePath("s")),
+              QStringList({"C\ua789\u29f5a.txt", "D\ua789\u29f5sub\u29f5b.txt"}));
     EXPECT_FALSE(QFileInfo::exists(dir.filePath("s/C:")));
 }
 

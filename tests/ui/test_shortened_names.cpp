@@ -31,7 +31,9 @@ protected:
         archive_ = places_.path() + "/clash.uha";
         writeFile(archive_, "an archive");
     }
-    QString record() const { return places_.path() + "/record.txt"; }
+    // In the work folder, where a single item is extracted: an extraction may write nothing
+    // outside its destination, the engine's record included.
+    QString record() const { return WorkFolder() + "/record.txt"; }
 
     ScopedEnv log_{"QV_LOG", QUOVARA_LISTING_DATA "/list-file-folder-clash.log"};
     ScopedEnv record_{"QV_RECORD", QByteArray()};

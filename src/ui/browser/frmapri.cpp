@@ -155,6 +155,7 @@ frmApri::frmApri(QWidget* parent)
                 if (!current.isValid())
                     return;
                 const SearchHit& hit = results_->hit(current.row());
+                rootedSearchItem_ = hit.archiveFolder.isEmpty();
                 selectedItem_ = lister_.shownAliases().storedOf(hit.archiveFolder +
                                                                 QLatin1Char('\\') + hit.name);
             });
@@ -387,8 +388,10 @@ void frmApri::onSelectionChanged() {
     if (Barra->isHidden())
         return;
     const QString path = FileView1->selectedPath();
-    if (!path.isEmpty())
+    if (!path.isEmpty()) {
+        rootedSearchItem_ = false;
         selectedItem_ = archiveItemOf(path);
+    }
 }
 
 void frmApri::onExecute(const QString& path) {
@@ -396,12 +399,16 @@ void frmApri::onExecute(const QString& path) {
         OpenItem(path);
         return;
     }
+    rootedSearchItem_ = false;
     selectedItem_ = archiveItemOf(path);
     ExtractAndRun();
 }
 
 QString frmApri::selectedStoredName() const {
-    return selectedItem_.startsWith(QLatin1Char('\\')) ? selectedItem_.mid(1) : selectedItem_;
+    // Only the search's own "\" goes: a stored name that begins with one keeps it (and is
+    // unsafe).
+    return rootedSearchItem_ && selectedItem_.startsWith(QLatin1Char('\\')) ? selectedItem_.mid(1)
+                                                                            : selectedItem_;
 }
 
 QStringList frmApri::selectedStoredNames() const {
@@ -412,7 +419,7 @@ QStringList frmApri::selectedStoredNames() const {
     for (const QString& path : FileView1->selectedPaths()) {
         const QString item = archiveItemOf(path);
         if (!item.isEmpty())
-            names << (item.startsWith(QLatin1Char('\\')) ? item.mid(1) : item);
+            names << item;
     }
     return names;
 }

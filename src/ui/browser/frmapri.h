@@ -7,6 +7,7 @@
 #include "findfile.h"
 #include "searchresults.h"
 
+#include "engine/grammar.h"
 #include "engine/listing.h"
 #include "ui/common/messageprompter.h"
 
@@ -95,7 +96,7 @@ public:
     EngineSwitchState& engineSwitch() { return switch_; }
     const QString& selectedItem() const { return selectedItem_; }
     // The selected item as the engine stores it: a search result at the archive's root has a
-    // selectedItem that begins with "\", which no stored name does.
+    // selectedItem that begins with "\", which is not part of its stored name.
     QString selectedStoredName() const;
     // Every selected entry as the engine stores it (the entry menu's "Extract…" takes them all).
     QStringList selectedStoredNames() const;
@@ -188,6 +189,17 @@ private:
     void stopSearch();
     bool writeTestScript();
     QString archiveItemOf(const QString& path) const;
+
+    // Unsafe names (frmapri_safenames.cpp): the names of `archive` as an extraction needs them;
+    // `options.leftOut` filled, false (the user told) when nothing safe is left; the end of the
+    // job's note of what was left out; a refusal of one unsafe entry asked for by name.
+    ArchiveNames namesForExtraction(const QString& archive, const QString& password);
+    bool leaveOutUnsafe(ExtractOptions& options, const ArchiveNames& names);
+    void reportLeftOut();
+    bool refuseUnsafeItem(const QString& stored);
+    QStringList leftOutReport_;
+    // The selected item is a search result at the archive's root ("" + its stored name).
+    bool rootedSearchItem_ = false;
     // `path` of the mirror tree relative to its root (host separators).
     QString mirrorRelativePath(const QString& path) const;
 
@@ -198,6 +210,7 @@ private:
         QString password;
         QStringList patterns; // as the engine stores them, a folder as "name\*.*"
         QStringList shown;    // the dragged items relative to the mirror tree's root
+        ArchiveNames names;   // the archive's entries (the unsafe ones are left out)
     };
     QMimeData* makeEntryDrag();
     QList<QUrl> extractForDrag(const DragRequest& request,

@@ -25,9 +25,7 @@ QMimeData* frmApri::makeEntryDrag() {
     QStringList patterns;
     QStringList shown;
     for (const QString& path : FileView1->selectedPaths()) {
-        QString item = archiveItemOf(path);
-        if (item.startsWith(QLatin1Char('\\')))
-            item.remove(0, 1);
+        const QString item = archiveItemOf(path);
         if (item.isEmpty())
             continue;
         patterns << item;
@@ -36,7 +34,8 @@ QMimeData* frmApri::makeEntryDrag() {
     if (patterns.isEmpty())
         return nullptr;
     // The archive as it is now: the drop comes later, and the window may have moved on.
-    DragRequest request{lister_.listing().archivePath, lister_.listing().password, patterns, shown};
+    DragRequest request{lister_.listing().archivePath, lister_.listing().password, patterns, shown,
+                        lister_.shownNames()};
     QPointer<frmApri> self(this);
     return new EntryDragData([self, request](const EntryDragData::Deliver& deliver) {
         return self ? self->extractForDrag(request, deliver) : QList<QUrl>();
@@ -57,6 +56,20 @@ QList<QUrl> frmApri::extractForDrag(const DragRequest& request,
     made.setAutoRemove(false);
     const QString staging = made.path();
 
+    // An unsafe entry is never extracted: dragged by itself it is refused by name.
+    QStringList patterns;
+    QStringList shown;
+    for (qsizetype i = 0; i < request.patterns.size(); ++i) {
+        if (refuseUnsafeItem(request.patterns[i]))
+            continue;
+        patterns << request.patterns[i];
+        shown << request.shown[i];
+    }
+    if (patterns.isEmpty()) {
+        DiscardExtractStaging(staging);
+        return {};
+    }
+
     ExtractOptions options;
     options.fullPath = true;
     options.destination = QDir::toNativeSeparators(staging);
@@ -65,10 +78,13 @@ QList<QUrl> frmApri::extractForDrag(const DragRequest& request,
     options.passwordTicked = !request.password.isEmpty();
     options.choice = FileChoice::FileTypes;
     // The patterns are separated by commas: a comma in a name is matched by "?" instead.
-    QStringList patterns = request.patterns;
     for (QString& pattern : patterns)
         pattern.replace(QLatin1Char(','), QLatin1Char('?'));
     options.fileTypes = patterns.join(QLatin1Char(','));
+    if (!leaveOutUnsafe(options, request.names)) {
+        DiscardExtractStaging(staging);
+        return {};
+    }
     QString refused;
     if (!WriteExtractJobScript(WorkFile(names::ExtractScript), options, ProgramFolder(), TempRoot(),
                                PathStyle::host(), &refused)) {
@@ -85,7 +101,7 @@ QList<QUrl> frmApri::extractForDrag(const DragRequest& request,
             DiscardExtractStaging(staging);
         } else {
             dragStaging_ = staging;
-            for (const QString& relative : request.shown) {
+            for (const QString& relative : shown) {
                 const QString extracted = PathStyle::host().join(staging, relative);
                 if (QFileInfo::exists(extracted))
                     urls << QUrl::fromLocalFile(extracted);
@@ -95,6 +111,7 @@ QList<QUrl> frmApri::extractForDrag(const DragRequest& request,
         }
         deliver(urls);
     });
+    reportLeftOut();
     return urls;
 }
 

@@ -20,15 +20,31 @@ void frmApri::showExtractDialog(bool forSelectedItem) {
         archive, prompter(),
         [this](const QString& job) {
             RunJobWindow(JobKind::Extract, *this, job);
+            reportLeftOut();
             // A job asked for on the command line ends the program: the main window that the
             // progress window brings back stays hidden.
             if (commandLineJob())
                 hide();
         },
         this);
+    // No unsafe entry reaches the engine, whatever the choices of the dialog.
+    dialog.setNameGuard([this](ExtractOptions& options) {
+        return leaveOutUnsafe(options, namesForExtraction(options.archive, options.passwordTicked
+                                                                               ? options.password
+                                                                               : QString()));
+    });
     // Several selected entries become the patterns of "Only These Files", one after another.
-    if (forSelectedItem)
-        dialog.presetItem(selectedStoredNames().join(QLatin1Char(',')));
+    if (forSelectedItem) {
+        // An unsafe entry is refused by name; the others are preset.
+        QStringList items;
+        for (const QString& name : selectedStoredNames()) {
+            if (!refuseUnsafeItem(name))
+                items << name;
+        }
+        if (items.isEmpty())
+            return;
+        dialog.presetItem(items.join(QLatin1Char(',')));
+    }
     dialog.exec();
 }
 

@@ -12,6 +12,8 @@
 #include "core/runner.h"
 #include "core/vbtext.h"
 #include "engine/grammar.h"
+#include "engine/namecheck.h"
+#include "engine/unsafenames.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -151,11 +153,22 @@ void frmApri::OpenItem(const QString& path) {
 void frmApri::ExtractAndRun() {
     const QString script = WorkFile(names::SingleScript);
     const ArchiveListing& l = lister_.listing();
+    const QString item = selectedStoredName();
+    if (refuseUnsafeItem(item))
+        return;
+    // A file's name may also be the last part of an unsafe entry, and a folder may hold one:
+    // every unsafe entry is excluded by name.
+    const QStringList unsafe = lister_.shownUnsafeNames();
+    if (!LeftOutFits(unsafe)) {
+        prompter_->exclamation(TooManyUnsafeMessage(unsafe.size()));
+        return;
+    }
+    leftOutReport_ =
+        item.endsWith(QLatin1String("\\*.*")) ? UnsafeNamesTaken(unsafe, {item}) : QStringList();
     QString refused;
     if (!WriteJobScript(script, Preamble::Job,
                         SingleItemCommandPieces(ProgramFolder(), TempRoot(), l.password,
-                                                l.archivePath, selectedStoredName(),
-                                                PathStyle::host()),
+                                                l.archivePath, item, PathStyle::host(), unsafe),
                         LastLine::NoLineEnd, &refused)) {
         prompter_->critical(refused);
         return;
@@ -164,10 +177,10 @@ void frmApri::ExtractAndRun() {
     QString error;
     if (!RunAndWait(script, 0, WorkFolder(), {}, &error))
         qCDebug(lcRunner) << "single-item job not started:" << error;
-    ShellOpenReport(*prompter_,
-                    PathStyle::host().join(WorkFolder(), sGiveFile(selectedStoredName())),
-                    QString(), QString(), 0);
+    ShellOpenReport(*prompter_, PathStyle::host().join(WorkFolder(), sGiveFile(item)), QString(),
+                    QString(), 0);
     setStatus(apri::Ready, apri::SelectAction);
+    reportLeftOut();
 }
 
 } // namespace quovara

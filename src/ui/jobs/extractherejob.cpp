@@ -8,6 +8,7 @@
 #include "engine/extracthere.h"
 #include "engine/grammar.h"
 #include "engine/listing.h"
+#include "engine/unsafenames.h"
 #include "ui/browser/frmapri.h"
 
 #include <QDir>
@@ -81,8 +82,15 @@ bool ListForPassword(ArchiveLister& lister, ArchiveNamedPrompter& prompter, cons
     }
 }
 
-// Extracts one archive; true when what it holds stands beside it.
-bool ExtractOne(frmApri& main, Prompter& outer, const QString& given) {
+enum class Outcome {
+    Extracted,
+    // Extracted, but entries with unsafe names were left out (the user was told which).
+    PartlyExtracted,
+    NotExtracted,
+};
+
+// Extracts one archive.
+Outcome ExtractOne(frmApri& main, Prompter& outer, const QString& given) {
     const QString path = QFileInfo(given).absoluteFilePath();
     ArchiveNamedPrompter prompter(outer, path);
     main.setPrompter(&prompter);
@@ -94,18 +102,18 @@ bool ExtractOne(frmApri& main, Prompter& outer, const QString& given) {
 
     if (!QFileInfo(path).isFile()) {
         prompter.critical(QString::fromLatin1(extract_here::NotFound));
-        return false;
+        return Outcome::NotExtracted;
     }
     if (QFileInfo(path).suffix().compare(QLatin1String("uha"), Qt::CaseInsensitive) != 0) {
         prompter.critical(QString::fromLatin1(extract_here::NotAnArchive));
-        return false;
+        return Outcome::NotExtracted;
     }
     // Nothing is written unless the archive's folder takes a new folder.
     QString problem;
     const QString staging = MakeExtractStaging(path, &problem);
     if (staging.isEmpty()) {
         prompter.critical(QString::fromLatin1(extract_here::CannotWrite).arg(problem));
-        return false;
+        return Outcome::NotExtracted;
     }
     // Ended by a signal meanwhile, the program still removes the staging folder (after the
     // progress window, whose own work was added later and runs first, has ended the engine).
@@ -115,7 +123,20 @@ bool ExtractOne(frmApri& main, Prompter& outer, const QString& given) {
     } guard{AddTerminationWork([staging] { DiscardExtractStaging(staging); })};
     if (!ListForPassword(main.lister(), prompter, path)) {
         DiscardExtractStaging(staging);
-        return false;
+        return Outcome::NotExtracted;
+    }
+    // Entries whose names would climb out of the folder are never extracted.
+    const ListingPass& pass = main.lister().lastPass();
+    const QStringList unsafe = pass.unsafeNames;
+    if (!unsafe.isEmpty() && unsafe.size() >= pass.entryCount) {
+        prompter.critical(NothingSafeMessage(unsafe));
+        DiscardExtractStaging(staging);
+        return Outcome::NotExtracted;
+    }
+    if (!LeftOutFits(unsafe)) {
+        prompter.critical(TooManyUnsafeMessage(unsafe.size()));
+        DiscardExtractStaging(staging);
+        return Outcome::NotExtracted;
     }
     ExtractOptions options;
     options.fullPath = true;
@@ -123,25 +144,30 @@ bool ExtractOne(frmApri& main, Prompter& outer, const QString& given) {
     options.archive = QDir::toNativeSeparators(path);
     options.password = main.lister().listing().password;
     options.passwordTicked = !options.password.isEmpty();
+    options.leftOut = unsafe;
     QString refused;
     if (!WriteExtractJobScript(WorkFile(names::ExtractScript), options, ProgramFolder(), TempRoot(),
                                PathStyle::host(), &refused)) {
         prompter.critical(refused);
         DiscardExtractStaging(staging);
-        return false;
+        return Outcome::NotExtracted;
     }
     if (!RunJobWindow(JobKind::Extract, main, path)) {
         // Failed or stopped: the window has said why; nothing it wrote is kept.
         DiscardExtractStaging(staging);
-        return false;
+        return Outcome::NotExtracted;
     }
     const PlacedExtraction placed = PlaceExtraction(staging, path);
     if (!placed.ok) {
         prompter.critical(QString::fromLatin1(extract_here::NotPlaced).arg(placed.problem));
-        return false;
+        return Outcome::NotExtracted;
     }
     qCDebug(lcExtractHere) << path << "extracted to" << placed.placedPath;
-    return true;
+    if (!unsafe.isEmpty()) {
+        prompter.critical(LeftOutMessage(unsafe));
+        return Outcome::PartlyExtracted;
+    }
+    return Outcome::Extracted;
 }
 
 } // namespace
@@ -149,13 +175,16 @@ bool ExtractOne(frmApri& main, Prompter& outer, const QString& given) {
 int RunExtractHere(frmApri& main, const QStringList& archives) {
     Prompter& outer = main.prompter();
     QStringList failed;
+    bool partly = false;
     for (const QString& archive : archives) {
-        if (!ExtractOne(main, outer, archive))
+        const Outcome outcome = ExtractOne(main, outer, archive);
+        if (outcome == Outcome::NotExtracted)
             failed << QDir::toNativeSeparators(QFileInfo(archive).absoluteFilePath());
+        partly = partly || outcome == Outcome::PartlyExtracted;
     }
     if (!failed.isEmpty() && archives.size() > 1)
         outer.critical(QString::fromLatin1(extract_here::Summary).arg(failed.join(u'\n')));
-    return failed.isEmpty() ? 0 : 1;
+    return failed.isEmpty() && !partly ? 0 : 1;
 }
 
 } // namespace quovara

@@ -2,6 +2,7 @@
 
 #include "core/places.h"
 #include "core/prompter.h"
+#include "engine/unsafenames.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -262,6 +263,12 @@ void frmAggiungi::Command3_Click() {
     SourcePath = selection_ ? selection_() : QString();
     if (ArchivePath.isEmpty()) {
         prompter_.information(text(aggiungi::NoArchiveName));
+        return;
+    }
+    // A name holding "\\" or ":" would be stored as another path.
+    if (const QString problem = AddSourceProblem(SourcePath, Check1->isChecked());
+        !problem.isEmpty()) {
+        prompter_.critical(problem);
         return;
     }
     const QString script = WorkFile(names::AddScript);

@@ -245,8 +245,11 @@ void frmEstrai::Command2_Click() {
     if (Destination.endsWith(PathStyle::host().sep))
         Destination.chop(1);
     const QString script = WorkFile(names::ExtractScript);
+    ExtractOptions job = options();
+    if (guard_ && !guard_(job))
+        return;
     QString refused;
-    if (!WriteExtractJobScript(script, options(), ProgramFolder(), TempRoot(), PathStyle::host(),
+    if (!WriteExtractJobScript(script, job, ProgramFolder(), TempRoot(), PathStyle::host(),
                                &refused)) {
         qCDebug(lcExtractDialog) << "extract script not written:" << script;
         prompter_.critical(refused);

@@ -57,6 +57,11 @@ protected:
 public:
     // The pre-set for one item of the archive: "Only These Files" chosen with the item as the
     // pattern.
+    // Called at OK with the job's options before its script is written: it adds what must be
+    // left out (options.leftOut) and may refuse the job (false: nothing is written, the dialog
+    // stays open).
+    using NameGuard = std::function<bool(ExtractOptions&)>;
+    void setNameGuard(NameGuard guard) { guard_ = std::move(guard); }
     void presetItem(const QString& item);
 
     // Selects `folder` in the folder tree (as a click on it would).
@@ -83,6 +88,7 @@ private:
 
     Prompter& prompter_;
     JobHandOver handOver_;
+    NameGuard guard_;
 
     QString ArchivePath;
     QString Destination;

@@ -258,7 +258,10 @@ QString frmProgress::lastEngineWords() const {
 }
 
 QString frmProgress::shown(const QString& engineText) const {
-    return underLauncher_ ? HostPathsInText(engineText) : engineText;
+    if (!underLauncher_)
+        return engineText;
+    // An extraction's drive is shown as the user's folder it stands for.
+    return HostPathsInText(job_ ? job_->withDriveShownAsFolder(engineText) : engineText);
 }
 
 void frmProgress::restartWithSwitchedEngine() {

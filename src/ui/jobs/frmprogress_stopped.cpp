@@ -51,8 +51,10 @@ QString frmProgress::cleanUpStoppedExtract() {
                 job.overwrite = true;
         }
     }
-    const ExtractTrail trail =
-        ReadExtractTrail(SplitConsoleLines(console, ActiveEngineCodecs().text));
+    ExtractTrail trail = ReadExtractTrail(SplitConsoleLines(console, ActiveEngineCodecs().text));
+    // The engine named the file on its drive of its own: it is the destination's.
+    if (job_)
+        trail.writing = job_->withDriveShownAsFolder(trail.writing);
     const StoppedExtract result = CleanUpStoppedExtract(trail, job);
     const QString report = StoppedExtractMessage(result);
     qCDebug(lcJobWindow).noquote() << report;
