@@ -56,6 +56,8 @@ protected:
 
 public:
     QStringList addSources;
+    // The window's own Extract dialog, for the tests that drive it.
+    void realExtractDialog(bool forSelectedItem) { frmApri::showExtractDialog(forSelectedItem); }
 
 protected:
     void showExtractDialog(bool forSelectedItem) override {

@@ -7,10 +7,15 @@
 #include "core/launcherserver.h"
 #include "engine/unsafenames.h"
 #include "mainwindow_fixture.h"
+#include "ui/common/foldertree.h"
 #include "ui/jobs/extractherejob.h"
 
+#include <QApplication>
+#include <QCheckBox>
+#include <QDialog>
 #include <QDirIterator>
 #include <QPushButton>
+#include <QTimer>
 
 using namespace quovara;
 using namespace quovara::testing;
@@ -153,6 +158,42 @@ TEST_F(UnsafeEntries, TheWindowShowsThemUnderSafeNamesAndRefusesToRunOne) {
     EXPECT_EQ(readAll(WorkFolder() + "/good.txt"), "good");
     EXPECT_EQ(opened_.last(), WorkFolder() + "/good.txt");
     expectNothingOutside(here_ + "/nowhere");
+}
+
+TEST_F(UnsafeEntries, TheExtractWindowExtractsTheGoodEntriesWithTheirPathsAndNamesTheBadOnes) {
+    const QString archive = crafted("mix.uha");
+    ASSERT_TRUE(window_.Form_Load(archive));
+    show();
+    prompter_.shown.clear();
+    const QString out = places_.path() + "/x/out";
+    QDir().mkpath(out);
+    // The dialog opens modally: it is driven from the event loop, as a user would.
+    QTimer poll;
+    poll.setInterval(20);
+    QObject::connect(&poll, &QTimer::timeout, [&] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (!dialog || dialog->objectName() != "frmEstrai" || !dialog->isVisible())
+            return;
+        poll.stop();
+        auto* tree = dialog->findChild<FolderTree*>("FolderView1");
+        ASSERT_TRUE(tree->selectPath(out, 2000));
+        QTest::mouseClick(dialog->findChild<QCheckBox*>("Check3"), Qt::LeftButton);
+        QTest::mouseClick(dialog->findChild<QPushButton*>("Command2"), Qt::LeftButton);
+    });
+    poll.start();
+    window_.realExtractDialog(false);
+    EXPECT_EQ(entries(out), QStringList({"good.txt", "sub"}));
+    EXPECT_EQ(readAll(out + "/sub/inner.txt"), "inner");
+    EXPECT_EQ(prompter_.shown.value(0),
+              "information: " + LeftOutMessage({"bs\\..\\..\\bs.txt", "..\\..\\evil1.txt"}));
+    EXPECT_TRUE(filesNamed(places_.path(), "evil1.txt").isEmpty());
+    EXPECT_TRUE(filesNamed(places_.path(), "bs.txt").isEmpty());
+    // Asked for by itself from the entry's selection, an unsafe entry is refused by name.
+    prompter_.shown.clear();
+    clickItem(ScratchFolder() + QString::fromUtf8("/..⧵..⧵evil1.txt"));
+    window_.realExtractDialog(true);
+    EXPECT_EQ(prompter_.shown,
+              QStringList({"exclamation: " + UnsafeItemMessage("..\\..\\evil1.txt")}));
 }
 
 // The engine as a Windows program under the stand-in launcher: its destination is the root of
