@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QList>
@@ -69,6 +70,19 @@ inline QString makeArchiveOf(const QString& engine, const QString& folder, const
     if (!p.waitForFinished(30000) || p.exitStatus() != QProcess::NormalExit || p.exitCode() != 0)
         return QString();
     return archive;
+}
+
+// Every file and folder below `root`, relative, "/" between parts, sorted.
+inline QStringList entriesBelow(const QString& root) {
+    QStringList all;
+    QDirIterator it(root, QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden,
+                    QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        const QString path = it.next();
+        all << QDir(root).relativeFilePath(path) + (it.fileInfo().isDir() ? "/" : "");
+    }
+    all.sort();
+    return all;
 }
 
 inline QByteArray readAll(const QString& path) {

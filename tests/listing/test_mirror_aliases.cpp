@@ -15,19 +15,6 @@ using namespace quovara::testing;
 
 namespace {
 
-// Every file and folder below `root`, relative, "/" between parts, sorted.
-QStringList treeOf(const QString& root) {
-    QStringList all;
-    QDirIterator it(root, QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden,
-                    QDirIterator::Subdirectories);
-    while (it.hasNext()) {
-        const QString path = it.next();
-        all << QDir(root).relativeFilePath(path) + (it.fileInfo().isDir() ? "/" : "");
-    }
-    all.sort();
-    return all;
-}
-
 ListingPass passOf(const QByteArray& log, const QString& tree) {
     QTemporaryDir dir;
     writeFile(dir.filePath("log"), log);
@@ -72,7 +59,7 @@ TEST(MirrorAliases, AFileAndAFolderOfOneNameBothStand) {
     const ListingPass pass =
         passOf(readAll(QUOVARA_LISTING_DATA "/list-file-folder-clash.log"), tree);
     EXPECT_TRUE(pass.treeComplete) << pass.treeProblem.toStdString();
-    EXPECT_EQ(treeOf(tree),
+    EXPECT_EQ(entriesBelow(tree),
               QStringList({"clash/", "clash/x", "clash/x (2)/", "clash/x (2)/y.txt"}));
     EXPECT_EQ(pass.aliases.count(), 1);
     EXPECT_EQ(pass.aliases.storedOf("clash\\x (2)\\y.txt"), "clash\\x\\y.txt");
@@ -82,7 +69,7 @@ TEST(MirrorAliases, AFileAndAFolderOfOneNameBothStand) {
     const QString tree2 = dir.filePath("tree2");
     const ListingPass other = passOf(ListingLogOf({"d\\x\\y.txt", "d\\x"}), tree2);
     EXPECT_TRUE(other.treeComplete);
-    EXPECT_EQ(treeOf(tree2), QStringList({"d/", "d/x (2)", "d/x/", "d/x/y.txt"}));
+    EXPECT_EQ(entriesBelow(tree2), QStringList({"d/", "d/x (2)", "d/x/", "d/x/y.txt"}));
     EXPECT_EQ(other.aliases.storedOf("d\\x (2)"), "d\\x");
 }
 
@@ -98,7 +85,7 @@ TEST(MirrorAliases, NamesLongerThanTheSystemTakesAreShownShortenedAndTheRestIsUn
     EXPECT_TRUE(pass.treeComplete) << pass.treeProblem.toStdString();
     const QString shortFile = AliasName(QString::fromUtf8(longFile), 1);
     const QString shortFolder = AliasName(QString::fromUtf8(longFolder), 1);
-    EXPECT_EQ(treeOf(tree),
+    EXPECT_EQ(entriesBelow(tree),
               QStringList({"a/", "a/" + shortFile, "a/" + AliasName(QString::fromUtf8(longFile), 2),
                            "a/plain.txt", shortFolder + "/", shortFolder + "/in.txt",
                            shortFolder + "/two.txt"}));
@@ -115,6 +102,6 @@ TEST(MirrorAliases, AnEntryNameNeverLeavesTheTreeWhateverItsAlias) {
     const ListingPass pass =
         passOf(ListingLogOf({"..\\..\\" + QByteArray(300, 'e'), "x", "x\\..\\..\\y"}), tree);
     EXPECT_TRUE(pass.treeComplete);
-    for (const QString& f : treeOf(dir.path()))
+    for (const QString& f : entriesBelow(dir.path()))
         EXPECT_TRUE(f.startsWith("tree")) << f.toStdString();
 }

@@ -16,18 +16,6 @@ using namespace quovara::testing;
 
 namespace {
 
-QStringList treeOf(const QString& root) {
-    QStringList all;
-    QDirIterator it(root, QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden,
-                    QDirIterator::Subdirectories);
-    while (it.hasNext()) {
-        const QString path = it.next();
-        all << QDir(root).relativeFilePath(path) + (it.fileInfo().isDir() ? "/" : "");
-    }
-    all.sort();
-    return all;
-}
-
 // A listing log in the engine's layout holding `names`.
 QByteArray logOf(const QStringList& names) {
     QByteArray log =
@@ -64,13 +52,13 @@ TEST_F(UnsafeListing, TheRealEnginesDotDotArchiveIsShownAtTheTopUnderASafeName) 
         pass(readAll(QStringLiteral(QUOVARA_LISTING_DATA) + "/list-traversal-dotdot.log"),
              EngineCodec::Cp437());
     ASSERT_TRUE(p.treeComplete) << p.treeProblem.toStdString();
-    EXPECT_EQ(treeOf(tree_), QStringList({QString::fromUtf8("..⧵..⧵evil1.txt")}));
+    EXPECT_EQ(entriesBelow(tree_), QStringList({QString::fromUtf8("..⧵..⧵evil1.txt")}));
     EXPECT_EQ(p.unsafeNames, QStringList({"..\\..\\evil1.txt"}));
     EXPECT_EQ(p.entryCount, 1);
     EXPECT_EQ(p.aliases.storedOf(QString::fromUtf8("..⧵..⧵evil1.txt")), "..\\..\\evil1.txt");
     // Nothing was made above the tree.
     EXPECT_EQ(
-        treeOf(dir_.filePath("above")),
+        entriesBelow(dir_.filePath("above")),
         QStringList({"below/", "below/tree/", QString::fromUtf8("below/tree/..⧵..⧵evil1.txt")}));
     // Its details are kept under the name it is shown at.
     ASSERT_TRUE(p.details);
@@ -82,7 +70,7 @@ TEST_F(UnsafeListing, TheRealEnginesDriveArchiveIsShownAtTheTopUnderASafeName) {
         pass(readAll(QStringLiteral(QUOVARA_LISTING_DATA) + "/list-traversal-drive.log"),
              EngineCodec::Cp437());
     ASSERT_TRUE(p.treeComplete);
-    EXPECT_EQ(treeOf(tree_), QStringList({QString::fromUtf8("C꞉⧵evil3.txt")}));
+    EXPECT_EQ(entriesBelow(tree_), QStringList({QString::fromUtf8("C꞉⧵evil3.txt")}));
     EXPECT_EQ(p.unsafeNames, QStringList({"C:\\evil3.txt"}));
 }
 
@@ -90,7 +78,7 @@ TEST_F(UnsafeListing, SafeEntriesKeepTheirPlacesAndTakenNamesAreNumbered) {
     const ListingPass p = pass(logOf({"good.txt", "sub\\inner.txt", "a\\..\\..\\stage\\evil.txt",
                                       "\\tmp\\evil.txt", "/tmp/evil.txt", "..\\x", "..\\x"}));
     ASSERT_TRUE(p.treeComplete);
-    EXPECT_EQ(treeOf(tree_),
+    EXPECT_EQ(entriesBelow(tree_),
               QStringList({QString::fromUtf8("..⧵x"), QString::fromUtf8("..⧵x (2)"),
                            QString::fromUtf8("a⧵..⧵..⧵stage⧵evil.txt"), "good.txt", "sub/",
                            "sub/inner.txt", QString::fromUtf8("⧵tmp⧵evil (2).txt"),
