@@ -26,13 +26,13 @@ bool IsExtractionJob(const QStringList& arguments) {
     return command == QLatin1String("e") || command == QLatin1String("x");
 }
 
-QString ExtractionTarget(const QStringList& arguments) {
+qsizetype ExtractionTargetIndex(const QStringList& arguments) {
     for (qsizetype i = 2; i < arguments.size(); ++i) {
         const QString& a = arguments.at(i);
         if (a.size() > 2 && a.startsWith(QLatin1String("-t"), Qt::CaseInsensitive))
-            return a.mid(2);
+            return i;
     }
-    return QString();
+    return -1;
 }
 
 LauncherDrive::~LauncherDrive() {

@@ -18,8 +18,9 @@ namespace quovara {
 // True when the job's arguments (engine first) are an extraction: the command "e" or "x".
 bool IsExtractionJob(const QStringList& arguments);
 
-// The folder an extraction's arguments name with "-t" (the text after it); empty when none.
-QString ExtractionTarget(const QStringList& arguments);
+// Where among the job's arguments (engine first) an extraction names its target folder with
+// "-t"; -1 when it names none.
+qsizetype ExtractionTargetIndex(const QStringList& arguments);
 
 class LauncherDrive {
 public:
@@ -34,8 +35,6 @@ public:
     bool make(const QString& prefix, const QString& folder, QString* error);
     // "Q:\" once made.
     QString root() const;
-    // The link's path in the prefix (empty when none was made).
-    const QString& linkPath() const { return link_; }
     // Removes the link (never what it points to).
     void remove();
 

@@ -186,11 +186,13 @@ bool JobProcess::start(const QString& scriptPath, const QString& workingFolder) 
     // An extraction writes only below its destination (see confinement.h): the target folder,
     // or the folder the job runs in when it names none.
     const bool extraction = IsExtractionJob(job.arguments);
+    const qsizetype targetAt = extraction ? ExtractionTargetIndex(job.arguments) : -1;
     QString destination;
     if (extraction) {
-        const QString target = ExtractionTarget(job.arguments);
         destination = QDir::cleanPath(
-            target.isEmpty() ? folder : QFileInfo(QDir(folder), target).absoluteFilePath());
+            targetAt < 0
+                ? folder
+                : QFileInfo(QDir(folder), job.arguments.at(targetAt).mid(2)).absoluteFilePath());
     }
     if (windowsProgram) {
         const QString launcher = LauncherPath();
@@ -213,16 +215,12 @@ bool JobProcess::start(const QString& scriptPath, const QString& workingFolder) 
                                   .arg(driveError));
             driveFolder_ = destination;
             driveRoot_ = drive_.root();
-            bool targetGiven = false;
-            for (QString& a : args) {
-                if (a.size() > 2 && a.startsWith(QLatin1String("-t"), Qt::CaseInsensitive) &&
-                    !targetGiven) {
-                    a = QStringLiteral("-t") + drive_.root();
-                    targetGiven = true;
-                }
-            }
-            if (!targetGiven)
-                args.insert(1, QStringLiteral("-t") + drive_.root());
+            // `args` lack the engine: each argument stands one place earlier.
+            const QString driveTarget = QStringLiteral("-t") + driveRoot_;
+            if (targetAt < 0)
+                args.insert(1, driveTarget);
+            else
+                args[targetAt - 1] = driveTarget;
         }
         for (QString& a : args) {
             if (a.startsWith(QLatin1Char('@')) && a.size() > 1) {
@@ -267,8 +265,6 @@ bool JobProcess::start(const QString& scriptPath, const QString& workingFolder) 
         confinement = MakeWriteConfinement(destination, &why);
         if (confinement < 0)
             qCDebug(lcRunner) << "extraction not confined:" << why;
-        else
-            driveFolder_ = destination;
     }
 #endif
     connect(process_, &QProcess::readyReadStandardError, this, [this] {

@@ -42,12 +42,8 @@ public:
     // The program and arguments actually started (after launcher translation), for tests and logs.
     QString program() const { return program_; }
     QStringList arguments() const { return arguments_; }
-    // An extraction under the launcher: the root of the drive its destination was given as
-    // ("Q:\"), and that destination (host path); empty otherwise. The destination is also
-    // set for a native engine confined to it.
-    QString driveRoot() const { return driveRoot_; }
-    QString confinedTo() const { return driveFolder_; }
-    // Engine text with the job's drive turned back into the destination's host path.
+    // Engine text with the drive of an extraction under the launcher ("Q:\") turned back into
+    // the destination it stands for (host path); other text as it is.
     QString withDriveShownAsFolder(const QString& engineText) const;
 
     // Ends the job at once, the engine's whole process group with it (used when the window
@@ -69,6 +65,8 @@ private:
     QString error_;
     // The translated copy of a list file handed to an engine under the launcher.
     QString listCopy_;
+    // An extraction under the launcher: its drive (removed when the job ends), the drive's
+    // root as the engine was given it, and the destination it stands for.
     LauncherDrive drive_;
     QString driveRoot_;
     QString driveFolder_;

@@ -175,8 +175,6 @@ public:
 
     // The names of the tree shown now that differ from their stored names.
     const MirrorAliases& shownAliases() const { return shownAliases_; }
-    // The stored names of the tree shown now that are unsafe (never extracted).
-    const QStringList& shownUnsafeNames() const { return shownUnsafe_; }
     // The entries of the tree shown now: how many, and the unsafe ones.
     ArchiveNames shownNames() const { return {shownEntries_ >= 0, shownEntries_, shownUnsafe_}; }
 

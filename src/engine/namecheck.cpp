@@ -1,6 +1,7 @@
 #include "namecheck.h"
 
 #include "listing.h"
+#include "unsafenames.h"
 
 #include "core/logging.h"
 #include "core/prompter.h"
@@ -60,6 +61,16 @@ ArchiveNames ReadArchiveNames(const QString& archive, const QString& password,
     qCDebug(lcListing) << "names of" << archive << (names.known ? "read:" : "not read:")
                        << names.entries << "entries," << names.unsafe.size() << "unsafe";
     return names;
+}
+
+QString UnsafeExtractionProblem(const ArchiveNames& names) {
+    if (names.unsafe.isEmpty())
+        return QString();
+    if (names.known && names.unsafe.size() >= names.entries)
+        return NothingSafeMessage(names.unsafe);
+    if (!LeftOutFits(names.unsafe))
+        return TooManyUnsafeMessage(names.unsafe.size());
+    return QString();
 }
 
 QStringList UnsafeNamesTaken(const QStringList& names, const QStringList& patterns) {

@@ -24,6 +24,11 @@ struct ArchiveNames {
 ArchiveNames ReadArchiveNames(const QString& archive, const QString& password,
                               EngineSwitchState& engineSwitch);
 
+// Why an extraction of an archive with these names must not run, in words for the user; empty
+// when it may (leaving the unsafe names out): every entry is unsafe, or the exclusions of the
+// unsafe ones do not fit on the engine's command line.
+QString UnsafeExtractionProblem(const ArchiveNames& names);
+
 // The unsafe names among `names` that the extraction patterns would take: a pattern with a "\"
 // is matched against the whole stored name, any other against its last part ("*" and "?",
 // without regard to case; "a\*.*" takes everything below "a"). No pattern takes them all.

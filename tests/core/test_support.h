@@ -72,6 +72,12 @@ inline QString makeArchiveOf(const QString& engine, const QString& folder, const
     return archive;
 }
 
+// What `folder` holds directly (hidden entries too), by name.
+inline QStringList folderEntries(const QString& folder) {
+    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot,
+                                  QDir::Name);
+}
+
 // Every file and folder below `root`, relative, "/" between parts, sorted.
 inline QStringList entriesBelow(const QString& root) {
     QStringList all;

@@ -12,11 +12,6 @@
 namespace quovara::testing {
 namespace {
 
-QStringList entries(const QString& folder) {
-    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot,
-                                  QDir::Name);
-}
-
 class ExtractHere : public MainWindow {
 protected:
     void SetUp() override {
@@ -55,7 +50,7 @@ protected:
 TEST_F(ExtractHere, AnArchiveOfOneFolderIsExtractedAsItIs) {
     const QString archive = oneFolder();
     EXPECT_EQ(window_.ExtractHere({archive}), 0);
-    EXPECT_EQ(entries(here_), QStringList({"Holiday", "holiday.uha"}));
+    EXPECT_EQ(folderEntries(here_), QStringList({"Holiday", "holiday.uha"}));
     EXPECT_EQ(readAll(here_ + "/Holiday/2026/sea.txt"), "sea");
     EXPECT_EQ(readAll(here_ + "/Holiday/beach.txt"), "beach");
     EXPECT_TRUE(prompter_.shown.isEmpty()) << prompter_.shown.join('|').toStdString();
@@ -66,15 +61,15 @@ TEST_F(ExtractHere, AnArchiveOfOneFolderIsExtractedAsItIs) {
 TEST_F(ExtractHere, AnArchiveOfOneFileIsExtractedAsItIs) {
     const QString archive = oneFile();
     EXPECT_EQ(window_.ExtractHere({archive}), 0);
-    EXPECT_EQ(entries(here_), QStringList({"report.txt", "report.uha"}));
+    EXPECT_EQ(folderEntries(here_), QStringList({"report.txt", "report.uha"}));
     EXPECT_EQ(readAll(here_ + "/report.txt"), "the report");
 }
 
 TEST_F(ExtractHere, AnArchiveOfManyEntriesGetsAFolderNamedAfterIt) {
     const QString archive = archiveOf(src_, "plain.uha");
     EXPECT_EQ(window_.ExtractHere({archive}), 0);
-    EXPECT_EQ(entries(here_), QStringList({"plain", "plain.uha"}));
-    EXPECT_EQ(entries(here_ + "/plain"), QStringList({"a", "root.txt"}));
+    EXPECT_EQ(folderEntries(here_), QStringList({"plain", "plain.uha"}));
+    EXPECT_EQ(folderEntries(here_ + "/plain"), QStringList({"a", "root.txt"}));
     EXPECT_EQ(readAll(here_ + "/plain/a/b/dd.txt"), "dd in a\\b");
 }
 
@@ -86,10 +81,10 @@ TEST_F(ExtractHere, TakenNamesAreNeverWrittenIntoButNumbered) {
     writeFile(here_ + "/Holiday/beach.txt", "my own beach");
     writeFile(here_ + "/report.txt", "my report");
     EXPECT_EQ(window_.ExtractHere({many, folder, file}), 0);
-    EXPECT_EQ(entries(here_),
+    EXPECT_EQ(folderEntries(here_),
               QStringList({"Holiday", "Holiday (2)", "holiday.uha", "plain", "plain (2)",
                            "plain.uha", "report (2).txt", "report.txt", "report.uha"}));
-    EXPECT_EQ(entries(here_ + "/plain"), QStringList({"mine.txt"}));
+    EXPECT_EQ(folderEntries(here_ + "/plain"), QStringList({"mine.txt"}));
     EXPECT_EQ(readAll(here_ + "/Holiday/beach.txt"), "my own beach");
     EXPECT_EQ(readAll(here_ + "/Holiday (2)/beach.txt"), "beach");
     EXPECT_EQ(readAll(here_ + "/report.txt"), "my report");
@@ -105,7 +100,7 @@ TEST_F(ExtractHere, NamesInEveryLanguageRoundTrip) {
     const QString archive = archiveOf(from, "Zdjęcia Фото 写真.uha");
     EXPECT_EQ(window_.ExtractHere({archive}), 0);
     const QString out = here_ + "/Zdjęcia Фото 写真";
-    EXPECT_EQ(entries(out), QStringList({"Zażółć gęślą jaźń.txt", "Привет", "日本語"}));
+    EXPECT_EQ(folderEntries(out), QStringList({"Zażółć gęślą jaźń.txt", "Привет", "日本語"}));
     EXPECT_EQ(readAll(out + "/日本語/ファイル.txt"), "ja");
     EXPECT_EQ(readAll(out + "/Привет/мир.txt"), "ru");
 }
@@ -131,7 +126,7 @@ TEST_F(ExtractHere, ACancelledPasswordPromptWritesNothing) {
     EXPECT_EQ(prompter_.shown,
               QStringList({"prompt: " + named(archive, "Insert Password"),
                            "critical: " + named(archive, extract_here::NoPassword)}));
-    EXPECT_EQ(entries(here_), QStringList({"protected.uha"}));
+    EXPECT_EQ(folderEntries(here_), QStringList({"protected.uha"}));
 }
 
 TEST_F(ExtractHere, AFileThatIsNotAnArchiveIsRefusedByName) {
@@ -139,7 +134,7 @@ TEST_F(ExtractHere, AFileThatIsNotAnArchiveIsRefusedByName) {
     EXPECT_EQ(window_.ExtractHere({here_ + "/notes.txt"}), 1);
     EXPECT_EQ(prompter_.shown, QStringList({"critical: " + named(here_ + "/notes.txt",
                                                                  extract_here::NotAnArchive)}));
-    EXPECT_EQ(entries(here_), QStringList({"notes.txt"}));
+    EXPECT_EQ(folderEntries(here_), QStringList({"notes.txt"}));
 }
 
 TEST_F(ExtractHere, ItsPromptsAreCentredOnTheScreenNotOnTheHiddenWindow) {
@@ -159,7 +154,7 @@ TEST_F(ExtractHere, ABrokenArchiveShowsTheEnginesErrorWithItsNameAndLeavesNothin
     ASSERT_FALSE(prompter_.shown.isEmpty());
     EXPECT_TRUE(prompter_.shown.first().startsWith("critical: broken.uha:\n"))
         << prompter_.shown.join('|').toStdString();
-    EXPECT_EQ(entries(here_), QStringList({"broken.uha"}));
+    EXPECT_EQ(folderEntries(here_), QStringList({"broken.uha"}));
 }
 
 TEST_F(ExtractHere, AFolderThatCannotBeWrittenToIsSaidAndNothingIsWritten) {
@@ -183,7 +178,7 @@ TEST_F(ExtractHere, AFolderThatCannotBeWrittenToIsSaidAndNothingIsWritten) {
         QFile::setPermissions(locked, QFile::ReadOwner | QFile::ExeOwner);
     }
     const int status = window_.ExtractHere({locked + "/report.uha"});
-    const QStringList inside = entries(locked);
+    const QStringList inside = folderEntries(locked);
     if (mounted)
         QProcess::execute("umount", {locked});
     else
@@ -224,7 +219,7 @@ TEST_F(ExtractHere, WhileAQuovaraWindowIsOpenItSaysSoAndExtractsNothing) {
     ASSERT_TRUE(other.tryLock(0));
     EXPECT_EQ(window_.ExtractHere({archive}), 1);
     EXPECT_EQ(prompter_.shown, QStringList({"exclamation: Quovara is already running"}));
-    EXPECT_EQ(entries(here_), QStringList({"report.uha"}));
+    EXPECT_EQ(folderEntries(here_), QStringList({"report.uha"}));
 }
 
 } // namespace

@@ -26,11 +26,6 @@ namespace {
 
 const QString kWine = QStringLiteral(QUOVARA_WINE_STANDIN);
 
-QStringList entries(const QString& folder) {
-    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot,
-                                  QDir::Name);
-}
-
 // Every file below `root` whose name is `name`, relative to `root`; the empty placeholders of
 // the program's own folder view (in its work folder, "tmp/") are not files of the archive.
 QStringList filesNamed(const QString& root, const QString& name) {
@@ -103,8 +98,8 @@ protected:
 TEST_F(UnsafeEntries, ExtractHereExtractsTheGoodEntriesNamesTheBadOnesAndEndsWithStatusOne) {
     const QString archive = crafted("mix.uha");
     EXPECT_EQ(window_.ExtractHere({archive}), 1);
-    EXPECT_EQ(entries(here_), QStringList({"mix", "mix.uha"}));
-    EXPECT_EQ(entries(here_ + "/mix"), QStringList({"good.txt", "sub"}));
+    EXPECT_EQ(folderEntries(here_), QStringList({"mix", "mix.uha"}));
+    EXPECT_EQ(folderEntries(here_ + "/mix"), QStringList({"good.txt", "sub"}));
     EXPECT_EQ(readAll(here_ + "/mix/sub/inner.txt"), "inner");
     EXPECT_EQ(prompter_.shown,
               QStringList({"critical: " +
@@ -118,7 +113,7 @@ TEST_F(UnsafeEntries, ExtractHereExtractsTheGoodEntriesNamesTheBadOnesAndEndsWit
 TEST_F(UnsafeEntries, AnArchiveOfOnlyUnsafeEntriesWritesNothingAndSaysSo) {
     const QString archive = crafted("only.uha", false, false);
     EXPECT_EQ(window_.ExtractHere({archive}), 1);
-    EXPECT_EQ(entries(here_), QStringList({"only.uha"}));
+    EXPECT_EQ(folderEntries(here_), QStringList({"only.uha"}));
     EXPECT_EQ(prompter_.shown,
               QStringList({"critical: " +
                            named(archive, "Nothing was extracted: every entry of the archive has "
@@ -138,7 +133,7 @@ TEST_F(UnsafeEntries, WithTheCheckOffANativeEngineIsStillKeptInsideItsDestinatio
     // The engine tries to write above the folder it extracts into and is refused by the
     // kernel: the job fails, and nothing stands outside.
     EXPECT_EQ(window_.ExtractHere({archive}), 1);
-    EXPECT_EQ(entries(here_), QStringList({"mix.uha"}));
+    EXPECT_EQ(folderEntries(here_), QStringList({"mix.uha"}));
     EXPECT_TRUE(filesNamed(places_.path(), "evil1.txt").isEmpty());
     EXPECT_TRUE(filesNamed(places_.path(), "bs.txt").isEmpty());
 }
@@ -151,7 +146,7 @@ TEST_F(UnsafeEntries, TheWindowShowsThemUnderSafeNamesAndRefusesToRunOne) {
     EXPECT_EQ(prompter_.shown[0],
               "information: " +
                   UnsafeEntriesMessage(archive, {"bs\\..\\..\\bs.txt", "..\\..\\evil1.txt"}, 2));
-    EXPECT_EQ(entries(ScratchFolder()),
+    EXPECT_EQ(folderEntries(ScratchFolder()),
               QStringList({QString::fromUtf8("..⧵..⧵evil1.txt"),
                            QString::fromUtf8("bs⧵..⧵..⧵bs.txt"), "good.txt", "sub"}));
     // A double click on an unsafe entry is refused by name; nothing runs.
@@ -189,7 +184,7 @@ TEST_F(UnsafeEntries, TheExtractWindowExtractsTheGoodEntriesWithTheirPathsAndNam
     });
     poll.start();
     window_.realExtractDialog(false);
-    EXPECT_EQ(entries(out), QStringList({"good.txt", "sub"}));
+    EXPECT_EQ(folderEntries(out), QStringList({"good.txt", "sub"}));
     EXPECT_EQ(readAll(out + "/sub/inner.txt"), "inner");
     EXPECT_EQ(prompter_.shown.value(0),
               "information: " + LeftOutMessage({"bs\\..\\..\\bs.txt", "..\\..\\evil1.txt"}));
@@ -225,8 +220,8 @@ TEST_F(UnsafeEntriesUnderTheLauncher, WithTheCheckOffEveryWriteStaysInsideTheDes
     SetUnsafeNameCheckForTesting(false);
     EXPECT_EQ(window_.ExtractHere({archive}), 0) << prompter_.shown.join("|").toStdString();
     // "..\..\evil1.txt" stopped at the drive's root: the destination itself.
-    EXPECT_EQ(entries(here_), QStringList({"mix", "mix.uha"}));
-    EXPECT_EQ(entries(here_ + "/mix"), QStringList({"evil1.txt", "good.txt", "sub"}));
+    EXPECT_EQ(folderEntries(here_), QStringList({"mix", "mix.uha"}));
+    EXPECT_EQ(folderEntries(here_ + "/mix"), QStringList({"evil1.txt", "good.txt", "sub"}));
     EXPECT_EQ(filesNamed(places_.path(), "evil1.txt"), QStringList({"x/y/here/mix/evil1.txt"}));
     // The drive was the job's alone: no link is left in the prefix, and nothing went to C:.
     EXPECT_EQ(QDir(LauncherPrefixFolder() + "/dosdevices")
@@ -240,7 +235,7 @@ TEST_F(UnsafeEntriesUnderTheLauncher, TheGoodEntriesAreExtractedAndTheBadOnesNam
     qputenv("QUOVARA_WINESERVER", (places_.path() + "/wineserver").toUtf8());
     const QString archive = crafted("mix.uha", true, false);
     EXPECT_EQ(window_.ExtractHere({archive}), 1);
-    EXPECT_EQ(entries(here_ + "/mix"), QStringList({"good.txt", "sub"}));
+    EXPECT_EQ(folderEntries(here_ + "/mix"), QStringList({"good.txt", "sub"}));
     EXPECT_EQ(prompter_.shown.size(), 1);
     EXPECT_TRUE(prompter_.shown.value(0).contains("..\\..\\evil1.txt"));
     EXPECT_TRUE(filesNamed(places_.path(), "evil1.txt").isEmpty());

@@ -198,7 +198,7 @@ private:
     void reportLeftOut();
     bool refuseUnsafeItem(const QString& stored);
     QStringList leftOutReport_;
-    // The selected item is a search result at the archive's root ("" + its stored name).
+    // The selected item is a search result at the archive's root (a "\" before its stored name).
     bool rootedSearchItem_ = false;
     // `path` of the mirror tree relative to its root (host separators).
     QString mirrorRelativePath(const QString& path) const;

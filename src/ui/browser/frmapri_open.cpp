@@ -13,7 +13,6 @@
 #include "core/vbtext.h"
 #include "engine/grammar.h"
 #include "engine/namecheck.h"
-#include "engine/unsafenames.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -158,11 +157,12 @@ void frmApri::ExtractAndRun() {
         return;
     // A file's name may also be the last part of an unsafe entry, and a folder may hold one:
     // every unsafe entry is excluded by name.
-    const QStringList unsafe = lister_.shownUnsafeNames();
-    if (!LeftOutFits(unsafe)) {
-        prompter_->exclamation(TooManyUnsafeMessage(unsafe.size()));
+    const ArchiveNames names = lister_.shownNames();
+    if (const QString problem = UnsafeExtractionProblem(names); !problem.isEmpty()) {
+        prompter_->exclamation(problem);
         return;
     }
+    const QStringList& unsafe = names.unsafe;
     leftOutReport_ =
         item.endsWith(QLatin1String("\\*.*")) ? UnsafeNamesTaken(unsafe, {item}) : QStringList();
     QString refused;

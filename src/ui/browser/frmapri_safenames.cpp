@@ -25,12 +25,8 @@ bool frmApri::leaveOutUnsafe(ExtractOptions& options, const ArchiveNames& names)
     leftOutReport_.clear();
     if (names.unsafe.isEmpty())
         return true;
-    if (names.known && names.unsafe.size() >= names.entries) {
-        prompter_->exclamation(NothingSafeMessage(names.unsafe));
-        return false;
-    }
-    if (!LeftOutFits(names.unsafe)) {
-        prompter_->exclamation(TooManyUnsafeMessage(names.unsafe.size()));
+    if (const QString problem = UnsafeExtractionProblem(names); !problem.isEmpty()) {
+        prompter_->exclamation(problem);
         return false;
     }
     const QStringList patterns =

@@ -8,6 +8,7 @@
 #include "engine/extracthere.h"
 #include "engine/grammar.h"
 #include "engine/listing.h"
+#include "engine/namecheck.h"
 #include "engine/unsafenames.h"
 #include "ui/browser/frmapri.h"
 
@@ -128,13 +129,9 @@ Outcome ExtractOne(frmApri& main, Prompter& outer, const QString& given) {
     // Entries whose names would climb out of the folder are never extracted.
     const ListingPass& pass = main.lister().lastPass();
     const QStringList unsafe = pass.unsafeNames;
-    if (!unsafe.isEmpty() && unsafe.size() >= pass.entryCount) {
-        prompter.critical(NothingSafeMessage(unsafe));
-        DiscardExtractStaging(staging);
-        return Outcome::NotExtracted;
-    }
-    if (!LeftOutFits(unsafe)) {
-        prompter.critical(TooManyUnsafeMessage(unsafe.size()));
+    if (const QString problem = UnsafeExtractionProblem({true, pass.entryCount, unsafe});
+        !problem.isEmpty()) {
+        prompter.critical(problem);
         DiscardExtractStaging(staging);
         return Outcome::NotExtracted;
     }
