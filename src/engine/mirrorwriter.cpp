@@ -39,9 +39,9 @@ bool nameRefused(int error) {
 constexpr int kMostTries = 1000;
 
 // Another name for an unsafe entry's shown name: numbered (or shortened) in its last part, so
-// that "..⧵x" becomes "..⧵x (2)" and "⧵tmp⧵a.txt" "⧵tmp⧵a (2).txt".
+// that "..∖x" becomes "..∖x (2)" and "∖tmp∖a.txt" "∖tmp∖a (2).txt".
 QString numberedUnsafe(const QString& shown, int n) {
-    const qsizetype cut = shown.lastIndexOf(QChar(0x29F5));
+    const qsizetype cut = shown.lastIndexOf(QChar(0x2216));
     if (cut < 0)
         return AliasName(shown, n);
     const QString numbered = shown.left(cut + 1) + AliasName(shown.mid(cut + 1), n);

@@ -49,7 +49,7 @@ QString UnsafeShownName(const QString& stored) {
     QString shown = stored;
     for (QChar& c : shown) {
         if (isSeparator(c))
-            c = QChar(0x29F5); // REVERSE SOLIDUS OPERATOR
+            c = QChar(0x2216); // SET MINUS, drawn like a backslash by common fonts
         else if (c == QLatin1Char(':'))
             c = QChar(0xA789); // MODIFIER LETTER COLON
         else if (c == QChar(0))
@@ -57,7 +57,7 @@ QString UnsafeShownName(const QString& stored) {
     }
     // ".." alone is a stored name of one part: shown with a mark so that it is a file name.
     if (shown == QLatin1String(".") || shown == QLatin1String(".."))
-        shown += QChar(0x29F5);
+        shown += QChar(0x2216);
     return shown;
 }
 
@@ -72,12 +72,15 @@ QString UnsafeNamesList(const QStringList& names, qsizetype count) {
 }
 
 QString UnsafeEntriesMessage(const QString& archive, const QStringList& names, qsizetype count) {
-    return QStringLiteral("The archive\n%1\nholds %2 whose names would climb out of any folder "
-                          "they are extracted into. They are shown, but will never be "
+    if (count == 1)
+        return QStringLiteral("The archive\n%1\nholds 1 entry whose name would climb out of any "
+                              "folder it is extracted into. It is shown, but will never be "
+                              "extracted:\n\n%2")
+            .arg(archive, UnsafeNamesList(names, count));
+    return QStringLiteral("The archive\n%1\nholds %2 entries whose names would climb out of any "
+                          "folder they are extracted into. They are shown, but will never be "
                           "extracted:\n\n%3")
-        .arg(archive,
-             count == 1 ? QStringLiteral("1 entry") : QStringLiteral("%1 entries").arg(count),
-             UnsafeNamesList(names, count));
+        .arg(archive, QString::number(count), UnsafeNamesList(names, count));
 }
 
 QString LeftOutMessage(const QStringList& names) {

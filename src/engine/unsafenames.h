@@ -21,7 +21,7 @@ bool IsUnsafeEntryName(const QString& stored);
 void SetUnsafeNameCheckForTesting(bool on);
 
 // The one-part name under which an unsafe entry is shown at the top of the mirror tree: its
-// stored name with "\" and "/" shown as "⧵" and ":" as "꞉", so that it reads like the stored
+// stored name with "\" and "/" shown as "∖" and ":" as "꞉", so that it reads like the stored
 // name and can never be taken for a path.
 QString UnsafeShownName(const QString& stored);
 

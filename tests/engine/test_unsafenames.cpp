@@ -89,10 +89,10 @@ TEST(IsUnsafeEntryName, TheTestSeamSwitchesTheCheckOff) {
 }
 
 TEST(UnsafeShownName, ReadsLikeTheStoredNameButIsOneSafePart) {
-    EXPECT_EQ(UnsafeShownName("..\\..\\evil1.txt"), QString::fromUtf8("..⧵..⧵evil1.txt"));
-    EXPECT_EQ(UnsafeShownName("C:\\evil3.txt"), QString::fromUtf8("C꞉⧵evil3.txt"));
-    EXPECT_EQ(UnsafeShownName("/tmp/x"), QString::fromUtf8("⧵tmp⧵x"));
-    EXPECT_EQ(UnsafeShownName(".."), QString::fromUtf8("..⧵"));
+    EXPECT_EQ(UnsafeShownName("..\\..\\evil1.txt"), QString::fromUtf8("..∖..∖evil1.txt"));
+    EXPECT_EQ(UnsafeShownName("C:\\evil3.txt"), QString::fromUtf8("C꞉∖evil3.txt"));
+    EXPECT_EQ(UnsafeShownName("/tmp/x"), QString::fromUtf8("∖tmp∖x"));
+    EXPECT_EQ(UnsafeShownName(".."), QString::fromUtf8("..∖"));
     for (const char* name : {"..\\..\\evil1.txt", "C:\\evil3.txt", "\\tmp\\x", "..", "a:b"}) {
         const QString shown = UnsafeShownName(QString::fromUtf8(name));
         EXPECT_FALSE(shown.contains('\\') || shown.contains('/') || shown.contains(':')) << name;
@@ -103,9 +103,13 @@ TEST(UnsafeShownName, ReadsLikeTheStoredNameButIsOneSafePart) {
 
 TEST(UnsafeMessages, NameTheFirstFewAndCountTheRest) {
     EXPECT_EQ(UnsafeEntriesMessage("/home/u/x.uha", {"..\\..\\evil1.txt"}, 1),
-              "The archive\n/home/u/x.uha\nholds 1 entry whose names would climb out of any "
-              "folder they are extracted into. They are shown, but will never be extracted:\n\n"
+              "The archive\n/home/u/x.uha\nholds 1 entry whose name would climb out of any "
+              "folder it is extracted into. It is shown, but will never be extracted:\n\n"
               "..\\..\\evil1.txt");
+    EXPECT_EQ(UnsafeEntriesMessage("/home/u/x.uha", {"..\\a", "C:\\b"}, 2),
+              "The archive\n/home/u/x.uha\nholds 2 entries whose names would climb out of any "
+              "folder they are extracted into. They are shown, but will never be extracted:\n\n"
+              "..\\a\nC:\\b");
     const QStringList seven{"..\\1", "..\\2", "..\\3", "..\\4", "..\\5", "..\\6", "..\\7"};
     EXPECT_EQ(UnsafeNamesList(seven, 7),
               QString::fromUtf8("..\\1\n..\\2\n..\\3\n..\\4\n..\\5\n… and 2 more"));

@@ -52,17 +52,17 @@ TEST_F(UnsafeListing, TheRealEnginesDotDotArchiveIsShownAtTheTopUnderASafeName) 
         pass(readAll(QStringLiteral(QUOVARA_LISTING_DATA) + "/list-traversal-dotdot.log"),
              EngineCodec::Cp437());
     ASSERT_TRUE(p.treeComplete) << p.treeProblem.toStdString();
-    EXPECT_EQ(entriesBelow(tree_), QStringList({QString::fromUtf8("..⧵..⧵evil1.txt")}));
+    EXPECT_EQ(entriesBelow(tree_), QStringList({QString::fromUtf8("..∖..∖evil1.txt")}));
     EXPECT_EQ(p.unsafeNames, QStringList({"..\\..\\evil1.txt"}));
     EXPECT_EQ(p.entryCount, 1);
-    EXPECT_EQ(p.aliases.storedOf(QString::fromUtf8("..⧵..⧵evil1.txt")), "..\\..\\evil1.txt");
+    EXPECT_EQ(p.aliases.storedOf(QString::fromUtf8("..∖..∖evil1.txt")), "..\\..\\evil1.txt");
     // Nothing was made above the tree.
     EXPECT_EQ(
         entriesBelow(dir_.filePath("above")),
-        QStringList({"below/", "below/tree/", QString::fromUtf8("below/tree/..⧵..⧵evil1.txt")}));
+        QStringList({"below/", "below/tree/", QString::fromUtf8("below/tree/..∖..∖evil1.txt")}));
     // Its details are kept under the name it is shown at.
     ASSERT_TRUE(p.details);
-    EXPECT_EQ(p.details->entry(QString::fromUtf8("..⧵..⧵evil1.txt")).value().size.value(), 14u);
+    EXPECT_EQ(p.details->entry(QString::fromUtf8("..∖..∖evil1.txt")).value().size.value(), 14u);
 }
 
 TEST_F(UnsafeListing, TheRealEnginesDriveArchiveIsShownAtTheTopUnderASafeName) {
@@ -70,7 +70,7 @@ TEST_F(UnsafeListing, TheRealEnginesDriveArchiveIsShownAtTheTopUnderASafeName) {
         pass(readAll(QStringLiteral(QUOVARA_LISTING_DATA) + "/list-traversal-drive.log"),
              EngineCodec::Cp437());
     ASSERT_TRUE(p.treeComplete);
-    EXPECT_EQ(entriesBelow(tree_), QStringList({QString::fromUtf8("C꞉⧵evil3.txt")}));
+    EXPECT_EQ(entriesBelow(tree_), QStringList({QString::fromUtf8("C꞉∖evil3.txt")}));
     EXPECT_EQ(p.unsafeNames, QStringList({"C:\\evil3.txt"}));
 }
 
@@ -79,15 +79,15 @@ TEST_F(UnsafeListing, SafeEntriesKeepTheirPlacesAndTakenNamesAreNumbered) {
                                       "\\tmp\\evil.txt", "/tmp/evil.txt", "..\\x", "..\\x"}));
     ASSERT_TRUE(p.treeComplete);
     EXPECT_EQ(entriesBelow(tree_),
-              QStringList({QString::fromUtf8("..⧵x"), QString::fromUtf8("..⧵x (2)"),
-                           QString::fromUtf8("a⧵..⧵..⧵stage⧵evil.txt"), "good.txt", "sub/",
-                           "sub/inner.txt", QString::fromUtf8("⧵tmp⧵evil (2).txt"),
-                           QString::fromUtf8("⧵tmp⧵evil.txt")}));
+              QStringList({QString::fromUtf8("..∖x"), QString::fromUtf8("..∖x (2)"),
+                           QString::fromUtf8("a∖..∖..∖stage∖evil.txt"), "good.txt", "sub/",
+                           "sub/inner.txt", QString::fromUtf8("∖tmp∖evil (2).txt"),
+                           QString::fromUtf8("∖tmp∖evil.txt")}));
     // "/" is read as "\" in a stored name, so the two "\tmp\evil.txt" are one name twice.
     EXPECT_EQ(p.unsafeNames, QStringList({"a\\..\\..\\stage\\evil.txt", "\\tmp\\evil.txt",
                                           "\\tmp\\evil.txt", "..\\x", "..\\x"}));
     EXPECT_EQ(p.entryCount, 7);
-    EXPECT_EQ(p.aliases.storedOf(QString::fromUtf8("..⧵x (2)")), "..\\x");
+    EXPECT_EQ(p.aliases.storedOf(QString::fromUtf8("..∖x (2)")), "..\\x");
     EXPECT_EQ(p.aliases.storedOf("sub\\inner.txt"), "sub\\inner.txt");
 }
 
