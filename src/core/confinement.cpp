@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 #ifdef Q_OS_LINUX
 #include <cerrno>
@@ -33,6 +34,44 @@ qsizetype ExtractionTargetIndex(const QStringList& arguments) {
             return i;
     }
     return -1;
+}
+
+QStringList StrayFoldersOfExclusions(const QStringList& arguments, const QString& destination) {
+    QStringList folders;
+    for (qsizetype i = 2; i < arguments.size(); ++i) {
+        const QString& a = arguments.at(i);
+        if (!a.startsWith(QLatin1Char('!')) || a.contains(QLatin1Char('*')) ||
+            a.contains(QLatin1Char('?')))
+            continue;
+        QStringList parts = a.mid(1).split(QRegularExpression(QStringLiteral("[\\\\/]")));
+        if (!parts.isEmpty() && parts.front().size() >= 2 && parts.front()[1] == QLatin1Char(':'))
+            parts.front() = parts.front().mid(2); // a drive is dropped under a target
+        parts.removeLast();                       // the file itself
+        // Every folder the path goes through is made, also one it climbs out of again.
+        QStringList at;
+        for (const QString& p : parts) {
+            if (p.isEmpty() || p == QLatin1String("."))
+                continue;
+            if (p == QLatin1String("..")) {
+                if (!at.isEmpty())
+                    at.removeLast(); // never above the root
+                continue;
+            }
+            at << p;
+            const QString folder = destination + QLatin1Char('/') + at.join(QLatin1Char('/'));
+            if (!folders.contains(folder) && !QFileInfo::exists(folder))
+                folders << folder;
+        }
+    }
+    return folders;
+}
+
+void RemoveStrayFolders(const QStringList& folders) {
+    for (auto it = folders.crbegin(); it != folders.crend(); ++it) {
+        // rmdir removes an empty folder only, and never follows a link.
+        if (QFileInfo(*it).isDir() && !QFileInfo(*it).isSymLink() && !QDir().rmdir(*it))
+            qCDebug(lcRunner) << "a folder the engine made is not empty, it stays:" << *it;
+    }
 }
 
 LauncherDrive::~LauncherDrive() {

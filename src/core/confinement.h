@@ -22,6 +22,15 @@ bool IsExtractionJob(const QStringList& arguments);
 // "-t"; -1 when it names none.
 qsizetype ExtractionTargetIndex(const QStringList& arguments);
 
+// The real engine makes the folders of an entry that an extraction excludes by name before it
+// skips the entry, so a left-out "a\..\..\stage\x.txt" leaves empty folders "a" and "stage"
+// in a destination that is a drive's root. These are the folders, followed with Windows rules
+// from `destination` as a root, that the excluded names of `arguments` (engine first; "!"
+// arguments without wildcards) would make and that do not stand yet, parents first.
+QStringList StrayFoldersOfExclusions(const QStringList& arguments, const QString& destination);
+// Removes those of `folders` that are still empty, children first; nothing else is touched.
+void RemoveStrayFolders(const QStringList& folders);
+
 class LauncherDrive {
 public:
     LauncherDrive() = default;

@@ -193,6 +193,7 @@ bool JobProcess::start(const QString& scriptPath, const QString& workingFolder) 
             targetAt < 0
                 ? folder
                 : QFileInfo(QDir(folder), job.arguments.at(targetAt).mid(2)).absoluteFilePath());
+        strayFolders_ = StrayFoldersOfExclusions(job.arguments, destination);
     }
     if (windowsProgram) {
         const QString launcher = LauncherPath();
@@ -333,8 +334,10 @@ bool JobProcess::start(const QString& scriptPath, const QString& workingFolder) 
         qCDebug(lcRunner) << "job ended with" << code
                           << (status == QProcess::CrashExit ? "(crashed)" : "");
         closeTerminal();
-        // The job's drive goes with it: the drive's letter stands for nothing once it ended.
+        // The job's drive goes with it: the drive's letter stands for nothing once it ended;
+        // so do the empty folders the engine made for entries it was told to leave out.
         drive_.remove();
+        RemoveStrayFolders(strayFolders_);
         emit finished(code);
     });
     qCDebug(lcRunner) << "starting" << program_ << MaskedArguments(arguments_) << "in" << folder;

@@ -70,6 +70,8 @@ private:
     LauncherDrive drive_;
     QString driveRoot_;
     QString driveFolder_;
+    // Folders an extraction's excluded entries would make that did not stand before it.
+    QStringList strayFolders_;
     QString program_;
     QStringList arguments_;
 };

@@ -322,6 +322,19 @@ Place placeOf(const std::string& stored, const Options& o, bool withPaths) {
     out.line(kDashes);
 
     const bool overwrite = o.overwrite < 0 ? o.yes : o.overwrite == 1;
+    // As the real engine does, an entry excluded by "!" still gets its folders made under the
+    // target before it is skipped ("x" only).
+    if (withPaths) {
+        for (const auto& e : a.entries) {
+            if ((o.names.empty() || anyMatches(o.names, e.name)) &&
+                anyMatches(o.excludes, e.name)) {
+                const Place place = placeOf(e.name, o, true);
+                std::error_code ec;
+                if (!place.nothing && !place.cannotWrite)
+                    fs::create_directories(place.path.parent_path(), ec);
+            }
+        }
+    }
     const int delay = perFileDelayMs();
     const auto start = std::chrono::steady_clock::now();
     std::uint64_t done = 0;

@@ -1,6 +1,7 @@
 // The one rule for stored names that would climb out of a destination, the names such entries
 // are shown under, and the texts that tell the user about them.
 #include "core/codepage.h"
+#include "core/confinement.h"
 #include "engine/grammar.h"
 #include "engine/namecheck.h"
 #include "engine/unsafenames.h"
@@ -189,4 +190,33 @@ TEST(AddSourceProblem, ANameHoldingABackslashOrAColonIsRefusedByName) {
     EXPECT_EQ(AddSourceProblem(root + "/ok", false), QString());
     QFile(root + "/a:b.txt").open(QIODevice::WriteOnly);
     EXPECT_FALSE(AddSourceProblem(root + "/a:b.txt", false).isEmpty());
+}
+
+TEST(StrayFolders, TheFoldersOfExcludedNamesThatDidNotStandAreRemovedWhenEmpty) {
+    QTemporaryDir dir;
+    const QString d = dir.path();
+    QDir().mkpath(d + "/sub");
+    const QStringList args{"uharc.exe",
+                           "x",
+                           "-tY:\\",
+                           "a.uha",
+                           "!*.bak",
+                           "!a\\..\\..\\..\\stage\\x.txt",
+                           "!sub\\deep\\y.txt",
+                           "!C:\\drive\\z.txt",
+                           "!..\\..\\top.txt"};
+    // Followed from the destination as a drive's root: ".." stops there, a drive is dropped;
+    // folders that stand already ("sub") and wildcard exclusions are left alone.
+    const QStringList stray = StrayFoldersOfExclusions(args, d);
+    EXPECT_EQ(stray, QStringList({d + "/a", d + "/stage", d + "/sub/deep", d + "/drive"}));
+    // The engine made them; one got a file meanwhile and stays.
+    for (const QString& f : stray)
+        QDir().mkpath(f);
+    QFile(d + "/stage/kept.txt").open(QIODevice::WriteOnly);
+    RemoveStrayFolders(stray);
+    EXPECT_FALSE(QFileInfo::exists(d + "/a"));
+    EXPECT_FALSE(QFileInfo::exists(d + "/sub/deep"));
+    EXPECT_FALSE(QFileInfo::exists(d + "/drive"));
+    EXPECT_TRUE(QFileInfo::exists(d + "/stage/kept.txt"));
+    EXPECT_TRUE(QFileInfo(d + "/sub").isDir());
 }

@@ -55,11 +55,18 @@ protected:
 
     // An archive in `here_` holding "..\..\evil1.txt", "good.txt", "sub\inner.txt" and, when
     // `backslashName`, "bs\..\..\bs.txt" (a Linux file whose name holds backslashes).
-    QString crafted(const QString& name, bool withGood = true, bool backslashName = true) {
+    QString crafted(const QString& name, bool withGood = true, bool backslashName = true,
+                    bool climbsAfterGoingIn = false) {
         const QString cwd = places_.path() + "/craft/a/b";
         QDir().mkpath(cwd);
         writeFile(cwd + "/../../evil1.txt", "payload evil1");
         QStringList names{"..\\..\\evil1.txt"};
+        if (climbsAfterGoingIn) {
+            // Stored as "in\..\..\..\stage\evil1.txt".
+            QDir().mkpath(cwd + "/in");
+            writeFile(places_.path() + "/craft/stage/evil1.txt", "payload evil1");
+            names << "in\\..\\..\\..\\stage\\evil1.txt";
+        }
         if (withGood) {
             writeFile(cwd + "/good.txt", "good");
             writeFile(cwd + "/sub/inner.txt", "inner");
@@ -76,6 +83,7 @@ protected:
         EXPECT_TRUE(p.waitForFinished(30000));
         EXPECT_EQ(p.exitCode(), 0) << p.readAllStandardOutput().toStdString();
         QFile::remove(places_.path() + "/craft/evil1.txt");
+        QDir(places_.path() + "/craft/stage").removeRecursively();
         return here_ + "/" + name;
     }
 
@@ -228,6 +236,17 @@ TEST_F(UnsafeEntriesUnderTheLauncher, WithTheCheckOffEveryWriteStaysInsideTheDes
                   .entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot),
               QStringList());
     EXPECT_TRUE(filesNamed(LauncherPrefixFolder(), "evil1.txt").isEmpty());
+    LauncherServer::Shutdown();
+}
+
+TEST_F(UnsafeEntriesUnderTheLauncher, TheEmptyFoldersTheEngineMakesForLeftOutEntriesAreRemoved) {
+    qputenv("QUOVARA_WINESERVER", (places_.path() + "/wineserver").toUtf8());
+    const QString archive = crafted("mix.uha", true, false, true);
+    // The engine makes "in" and "stage" (".." stops at the drive's root) before it skips the
+    // entry; they go again, and nothing else of the destination is touched.
+    EXPECT_EQ(window_.ExtractHere({archive}), 1);
+    EXPECT_EQ(folderEntries(here_ + "/mix"), QStringList({"good.txt", "sub"}));
+    EXPECT_TRUE(filesNamed(places_.path(), "evil1.txt").isEmpty());
     LauncherServer::Shutdown();
 }
 
