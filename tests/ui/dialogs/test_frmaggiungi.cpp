@@ -2,6 +2,7 @@
 // controls, and the exact bytes of the add script that OK writes.
 #include "dialog_test_support.h"
 
+#include "engine/unsafenames.h"
 #include "ui/jobs/frmaggiungi.h"
 
 #include <QApplication>
@@ -356,6 +357,25 @@ TEST_F(AddDialog, AnEmptyArchiveNameIsRefusedAndNothingIsWritten) {
     QTest::keyClicks(c<QLineEdit>("Text1"), places_.path() + "/typed.uha");
     ok();
     EXPECT_EQ(handedOver_, QStringList({places_.path() + "/typed.uha"}));
+}
+
+TEST_F(AddDialog, ANameHoldingABackslashOrAColonIsRefusedByNameAndNothingIsWritten) {
+    // A Linux name the engine would store as a path ("..\\..\\x.txt" climbs out when extracted).
+    const QString bad = src_ + "/sub/..\\..\\x.txt";
+    writeFile(bad, "x");
+    open(src_);
+    ok();
+    EXPECT_EQ(prompter_.shown, QStringList({"critical: " + AddSourceProblem(src_, true)}));
+    EXPECT_TRUE(prompter_.shown.value(0).contains(bad)) << prompter_.shown.value(0).toStdString();
+    EXPECT_FALSE(QFile::exists(WorkFile(names::AddScript)));
+    EXPECT_TRUE(handedOver_.isEmpty());
+    EXPECT_TRUE(dialog_->isVisible());
+    // Renamed, the folder is taken.
+    QFile::rename(bad, src_ + "/sub/x.txt");
+    prompter_.shown.clear();
+    ok();
+    EXPECT_TRUE(prompter_.shown.isEmpty());
+    EXPECT_EQ(handedOver_.size(), 1);
 }
 
 TEST_F(AddDialog, CancelWritesNothing) {
