@@ -27,6 +27,13 @@ bool IsExtractionJob(const QStringList& arguments) {
     return command == QLatin1String("e") || command == QLatin1String("x");
 }
 
+bool IsAddJob(const QStringList& arguments) {
+    if (arguments.size() < 2)
+        return false;
+    const QString command = arguments.at(1).toLower();
+    return command == QLatin1String("a") || command == QLatin1String("m");
+}
+
 qsizetype ExtractionTargetIndex(const QStringList& arguments) {
     for (qsizetype i = 2; i < arguments.size(); ++i) {
         const QString& a = arguments.at(i);

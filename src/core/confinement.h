@@ -18,6 +18,9 @@ namespace quovara {
 // True when the job's arguments (engine first) are an extraction: the command "e" or "x".
 bool IsExtractionJob(const QStringList& arguments);
 
+// True when the job's arguments (engine first) add to an archive: the command "a" or "m".
+bool IsAddJob(const QStringList& arguments);
+
 // Where among the job's arguments (engine first) an extraction names its target folder with
 // "-t"; -1 when it names none.
 qsizetype ExtractionTargetIndex(const QStringList& arguments);

@@ -261,6 +261,28 @@ EngineTextCodecs WindowsEngineCodecs(const QString& locale) {
     return c;
 }
 
+QString LocaleForLetters(const QString& letters) {
+    // One locale per family of code pages, the best-known language of each first.
+    static const char* const candidates[] = {
+        "de_DE.UTF-8", "pl_PL.UTF-8", "ru_RU.UTF-8", "el_GR.UTF-8", "tr_TR.UTF-8",
+        "he_IL.UTF-8", "ar_EG.UTF-8", "lt_LT.UTF-8", "vi_VN.UTF-8", "th_TH.UTF-8",
+        "ja_JP.UTF-8", "zh_CN.UTF-8", "ko_KR.UTF-8", "zh_TW.UTF-8",
+    };
+    QString fits;
+    for (const char* name : candidates) {
+        const QString locale = QString::fromLatin1(name);
+        const EngineTextCodecs c = WindowsEngineCodecs(locale);
+        if (!c.names.lacking(letters).isEmpty() || !c.text.lacking(letters).isEmpty())
+            continue;
+        // One the user can start with at once comes first.
+        if (LocaleInstalled(locale))
+            return locale;
+        if (fits.isEmpty())
+            fits = locale;
+    }
+    return fits;
+}
+
 EngineTextCodecs ActiveEngineCodecs() {
     const QString engine = ResolveEngineFile(ProgramFolder(), QStringLiteral("uharc.exe"));
     if (!engine.isEmpty() && IsWindowsExecutable(engine))

@@ -69,6 +69,11 @@ inline EngineCodec ActiveEngineCodec() {
 // The codecs of a Windows engine run under `locale`.
 EngineTextCodecs WindowsEngineCodecs(const QString& locale);
 
+// A locale under which a Windows engine takes every one of `letters` (read and kept), for
+// "--archive-locale": an installed one when one fits, else the first that fits; empty when
+// none of the known locales has them all.
+QString LocaleForLetters(const QString& letters);
+
 // "code page 866 (the locale ru_RU.UTF-8)" and the like, for messages.
 QString CodePageDescription(const EngineTextCodecs& codecs, bool ansi);
 

@@ -165,8 +165,11 @@ bool JobProcess::start(const QString& scriptPath, const QString& workingFolder) 
     const ParsedJob& job = written->job;
     if (!job.isValid())
         return refuse(QStringLiteral("the job script %1 names no command").arg(scriptPath));
-    const QString folder =
-        workingFolder.isEmpty() ? QFileInfo(scriptPath).absolutePath() : workingFolder;
+    // The script's own "cd /d" line comes first: the Add job runs in the folder that holds
+    // what it adds, so that the archive stores names relative to it.
+    const QString folder = !job.workingFolder.isEmpty() ? job.workingFolder
+                           : workingFolder.isEmpty()    ? QFileInfo(scriptPath).absolutePath()
+                                                        : workingFolder;
     QString engineError;
     const QString engine = engineOf(job.arguments.first(), engineError);
     if (engine.isEmpty())
@@ -206,6 +209,35 @@ bool JobProcess::start(const QString& scriptPath, const QString& workingFolder) 
             return refuse(prefixError);
         // The server stays warm across the jobs of the session.
         LauncherServer::EnsureRunning(launcher);
+        // An archive whose path the engine cannot take letter for letter is given under a
+        // plain name. The engine writes a new or updated archive beside its name (a temporary
+        // file renamed over it), so an Add gets the archive's folder as a drive of its own and
+        // names the archive as it is; every other job reads the archive through a link.
+        const qsizetype archiveAt = job.argumentFields.indexOf(QStringLiteral("archive"));
+        if (archiveAt > 0) {
+            const QString archive = QDir::cleanPath(
+                QFileInfo(QDir(folder), job.arguments.at(archiveAt)).absoluteFilePath());
+            const EngineTextCodecs codecs = WindowsEngineCodecs(EngineLocale());
+            if (!EngineCanTakePath(archive, codecs)) {
+                QString why;
+                if (IsAddJob(job.arguments)) {
+                    const QFileInfo info(archive);
+                    if (!drive_.make(LauncherPrefixFolder(), info.absolutePath(), &why))
+                        return refuse(QStringLiteral("the archive's folder cannot be given to the "
+                                                     "engine: %1")
+                                          .arg(why));
+                    driveFolder_ = info.absolutePath();
+                    driveRoot_ = drive_.root();
+                    args[archiveAt - 1] = driveRoot_ + info.fileName();
+                } else {
+                    if (!archiveLink_.make(WorkFolder(), archive, &why))
+                        return refuse(
+                            QStringLiteral("the archive cannot be given to the engine: %1")
+                                .arg(why));
+                    args[archiveAt - 1] = archiveLink_.path();
+                }
+            }
+        }
         if (extraction) {
             // The destination is the root of a drive of its own: the engine is given that root
             // as its target, and Windows path rules stop ".." there.
@@ -337,6 +369,7 @@ bool JobProcess::start(const QString& scriptPath, const QString& workingFolder) 
         // The job's drive goes with it: the drive's letter stands for nothing once it ended;
         // so do the empty folders the engine made for entries it was told to leave out.
         drive_.remove();
+        archiveLink_.remove();
         RemoveStrayFolders(strayFolders_);
         emit finished(code);
     });
@@ -392,6 +425,14 @@ void JobProcess::kill() {
 }
 
 QString JobProcess::withDriveShownAsFolder(const QString& engineText) const {
+    if (!archiveLink_.path().isEmpty()) {
+        // The link's name is ours; the user knows the archive.
+        const QString link = ToLauncherPath(archiveLink_.path());
+        if (engineText.contains(link, Qt::CaseInsensitive))
+            return withDriveShownAsFolder(
+                QString(engineText)
+                    .replace(link, ToLauncherPath(archiveLink_.archive()), Qt::CaseInsensitive));
+    }
     if (driveRoot_.isEmpty() || !engineText.contains(driveRoot_, Qt::CaseInsensitive))
         return engineText;
     // "Q:\a\b.txt" is the destination's "a\b.txt": in the launcher's form, which the text's

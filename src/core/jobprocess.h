@@ -6,6 +6,7 @@
 #pragma once
 
 #include "confinement.h"
+#include "launcherpaths.h"
 #include "scriptexec.h"
 
 #include <QObject>
@@ -42,8 +43,9 @@ public:
     // The program and arguments actually started (after launcher translation), for tests and logs.
     QString program() const { return program_; }
     QStringList arguments() const { return arguments_; }
-    // Engine text with the drive of an extraction under the launcher ("Q:\") turned back into
-    // the destination it stands for (host path); other text as it is.
+    // Engine text with what stood in for a path under the launcher (the drive "Q:\" of an
+    // extraction or of an archive's folder, the link to an archive) turned back into the path it
+    // stands for; other text as it is.
     QString withDriveShownAsFolder(const QString& engineText) const;
 
     // Ends the job at once, the engine's whole process group with it (used when the window
@@ -69,6 +71,8 @@ private:
     // root as the engine was given it, and the destination it stands for.
     LauncherDrive drive_;
     QString driveRoot_;
+    // The link an archive with a path the engine cannot take is read through.
+    ArchiveLink archiveLink_;
     QString driveFolder_;
     // Folders an extraction's excluded entries would make that did not stand before it.
     QStringList strayFolders_;

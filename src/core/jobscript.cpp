@@ -1,8 +1,10 @@
 #include "jobscript.h"
 
 #include "codepage.h"
+#include "confinement.h"
 #include "enginefiles.h"
 #include "enginelocale.h"
+#include "letternames.h"
 #include "logging.h"
 #include "places.h"
 
@@ -10,6 +12,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
+#include <algorithm>
 #include <ostream>
 
 #ifdef Q_OS_UNIX
@@ -117,9 +120,11 @@ public:
             inWord_ = true;
         }
     }
-    void value(const QString& text) {
+    void value(const QString& text, const QString& field) {
         word_.append(text);
         inWord_ = true;
+        if (wordField_.isEmpty())
+            wordField_ = field;
     }
     ParsedJob finish() {
         endWord();
@@ -135,13 +140,16 @@ private:
             redirect_ = false;
         } else {
             job_.arguments.append(word_);
+            job_.argumentFields.append(wordField_);
         }
         word_.clear();
+        wordField_.clear();
         inWord_ = false;
     }
 
     ParsedJob job_;
     QString word_;
+    QString wordField_;
     bool inWord_ = false;
     bool quoted_ = false;
     bool redirect_ = false;
@@ -166,6 +174,23 @@ QString fieldName(const ScriptPart& part) {
     return part.field.isEmpty() ? QStringLiteral("command line") : part.field;
 }
 
+// How much of a path the engine reads as it is written: the job runner hands it a plain
+// stand-in for the rest (launcherpaths.h, confinement.h).
+enum class PlainPath { None, Whole, FileName };
+PlainPath pathSeenPlain(const QString& field, const QStringList& job) {
+    // An archive is read through a link with a plain name; an Add gets the archive's folder as
+    // a drive and names the archive as it is.
+    if (field == QLatin1String("archive"))
+        return IsAddJob(job) ? PlainPath::FileName : PlainPath::Whole;
+    // An extraction's destination is a drive of its own.
+    if (field == QLatin1String("destination folder") && IsExtractionJob(job))
+        return PlainPath::Whole;
+    // A list file is copied into the work folder, and its names are checked as they are copied.
+    if (field == QLatin1String("list file"))
+        return PlainPath::Whole;
+    return PlainPath::None;
+}
+
 } // namespace
 
 ParsedJob SplitPieces(const CommandPieces& pieces) {
@@ -173,12 +198,14 @@ ParsedJob SplitPieces(const CommandPieces& pieces) {
     for (const Fragment& f : pieces.fragments()) {
         for (const ScriptPart& p : f.parts()) {
             if (p.isValue)
-                splitter.value(p.text);
+                splitter.value(p.text, p.field);
             else
                 splitter.fixed(p.text);
         }
     }
-    return splitter.finish();
+    ParsedJob job = splitter.finish();
+    job.workingFolder = pieces.workingFolder();
+    return job;
 }
 
 QByteArray ToScriptEncoding(const QString& text) {
@@ -195,6 +222,8 @@ QByteArray JobScriptBytes(Preamble preamble, const CommandPieces& commandPieces,
         out += "cls\r\n@echo off\r\n";
     else
         out += "@echo off\r\ncls\r\nset uharc_opt= -d2\r\n";
+    if (!commandPieces.workingFolder().isEmpty())
+        out += "cd /d \"" + ToScriptEncoding(commandPieces.workingFolder()) + "\"\r\n";
     for (const Fragment& f : commandPieces.fragments())
         out += ToScriptEncoding(f.text());
     if (last == LastLine::LineEnd)
@@ -234,25 +263,47 @@ QString ValueProblemForEngine(const QString& value, const QString& field, bool s
     else
         pages = QStringLiteral("code page %1 lacks")
                     .arg(lackAnsi.isEmpty() ? engine.pages.oem : engine.pages.ansi);
-    // The letters of a password are never shown.
+    // The letters of a password are never shown. Each letter is named too: a Cyrillic "о"
+    // looks like a Latin "o".
     QString letters;
     if (!secret) {
         QStringList each;
         for (qsizetype i = 0; i < missing.size(); ++i) {
             const qsizetype n = missing[i].isHighSurrogate() && i + 1 < missing.size() ? 2 : 1;
-            each << QLatin1Char('"') + missing.mid(i, n) + QLatin1Char('"');
+            const QString letter = missing.mid(i, n);
+            each << QStringLiteral("\"%1\" (%2)").arg(letter, UnicodeName(letter));
             i += n - 1;
         }
         letters = QStringLiteral(": ") + each.join(QStringLiteral(", "));
     }
-    return what + QStringLiteral(" letters that the engine cannot take under the locale %1%2 "
-                                 "(its %3 them). Nothing was run; rename it with other "
-                                 "letters, or start Quovara under a locale whose code pages "
-                                 "have them.")
-                      .arg(engine.locale, letters, pages);
+    const QString locale = secret ? QString() : LocaleForLetters(missing);
+    const QString goOn =
+        locale.isEmpty()
+            ? QStringLiteral("start Quovara with \"--archive-locale LOCALE\" naming a locale "
+                             "whose code pages have them.")
+            : QStringLiteral("start Quovara with \"--archive-locale %1\", a locale whose code "
+                             "pages have them.")
+                  .arg(locale);
+    return what +
+           QStringLiteral(" letters that the engine cannot take under the locale %1%2 "
+                          "(its %3 them). Nothing was run. To go on, %4 with other "
+                          "letters, or %5")
+               .arg(engine.locale, letters, pages,
+                    secret ? QStringLiteral("choose a password") : QStringLiteral("rename it"),
+                    goOn);
 }
 
 QString CommandPiecesProblem(const CommandPieces& commandPieces, const EngineTextCodecs& engine) {
+    const QStringList job = SplitPieces(commandPieces).arguments;
+    // The working folder reaches the engine as its current folder, never as text it reads, so
+    // only its line must stay one line.
+    if (holdsLineBreak(commandPieces.workingFolder()))
+        return QStringLiteral("The folder\n%1\nholds a line break, which a job script cannot "
+                              "carry. Nothing was run.")
+            .arg(QString(commandPieces.workingFolder())
+                     .replace(QLatin1Char('\r'), QStringLiteral("\\r"))
+                     .replace(QLatin1Char('\n'), QStringLiteral("\\n"))
+                     .replace(QChar(0), QStringLiteral("\\0")));
     for (const Fragment& f : commandPieces.fragments()) {
         for (const ScriptPart& p : f.parts()) {
             const bool secret = p.field == QLatin1String("password");
@@ -268,7 +319,17 @@ QString CommandPiecesProblem(const CommandPieces& commandPieces, const EngineTex
                                            .replace(QChar(0), QStringLiteral("\\0")));
             }
             if (engine.windows && p.isValue) {
-                const QString why = ValueProblemForEngine(p.text, fieldName(p), secret, engine);
+                QString value = p.text;
+                QString field = fieldName(p);
+                if (const auto seen = pathSeenPlain(p.field, job); seen == PlainPath::Whole)
+                    continue;
+                else if (seen == PlainPath::FileName) {
+                    value = value.mid(std::max(value.lastIndexOf(QLatin1Char('/')),
+                                               value.lastIndexOf(QLatin1Char('\\'))) +
+                                      1);
+                    field = QStringLiteral("archive name");
+                }
+                const QString why = ValueProblemForEngine(value, field, secret, engine);
                 if (!why.isEmpty())
                     return why;
             }

@@ -65,8 +65,14 @@ public:
     QStringList texts() const;
     bool isEmpty() const { return fragments_.isEmpty(); }
 
+    // The folder the command runs in; empty: the folder the caller chooses. A job script
+    // shows it as a "cd /d" line before the command, so the script tells what ran.
+    void setWorkingFolder(const QString& folder) { workingFolder_ = folder; }
+    const QString& workingFolder() const { return workingFolder_; }
+
 private:
     QList<Fragment> fragments_;
+    QString workingFolder_;
 };
 
 // The fragments joined: the command line exactly as it stands in the script.
@@ -95,7 +101,8 @@ enum class LastLine {
 // that every name and password round-trips byte for byte.
 QByteArray ToScriptEncoding(const QString& text);
 
-// The exact bytes of a script: preamble lines ended by CR LF, then the command pieces written
+// The exact bytes of a script: preamble lines ended by CR LF, then, for pieces with a working
+// folder, the line "cd /d " + '"' + folder + '"' ended by CR LF, then the command pieces written
 // one after the other with nothing between them.
 QByteArray JobScriptBytes(Preamble preamble, const CommandPieces& commandPieces,
                           LastLine last = LastLine::NoLineEnd);

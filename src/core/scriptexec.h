@@ -16,9 +16,15 @@ struct ParsedJob {
     QList<QPair<QString, QString>> environment;
     // The command line split into arguments; the first one is the program.
     QStringList arguments;
+    // For each argument, what its value is ("archive", "destination folder", ...: the field of
+    // the first value in it); empty for fixed text alone, or when the line was not built from
+    // pieces.
+    QStringList argumentFields;
     // Target of ">" (standard output, created or truncated) or ">>" (appended); empty: none.
     QString outputTarget;
     bool appendOutput = false;
+    // The folder the command runs in ("cd /d" line of the script); empty: the caller's choice.
+    QString workingFolder;
 
     bool isValid() const { return !arguments.isEmpty(); }
 };

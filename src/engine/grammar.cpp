@@ -1,5 +1,7 @@
 #include "grammar.h"
 
+#include <algorithm>
+
 namespace quovara {
 
 namespace {
@@ -115,10 +117,29 @@ QString MethodMemory::choose(int position) {
     return switch_;
 }
 
+AddSourceParts SplitAddSource(const QString& source) {
+    QString path = source;
+    // A trailing separator ("/data/Docs/") names the same folder.
+    while (path.size() > 1 && (path.endsWith(QLatin1Char('/')) || path.endsWith(QLatin1Char('\\'))))
+        path.chop(1);
+    const qsizetype cut =
+        std::max(path.lastIndexOf(QLatin1Char('/')), path.lastIndexOf(QLatin1Char('\\')));
+    if (cut < 0 || cut == path.size() - 1)
+        return {QString(), source};
+    QString folder = path.left(cut);
+    // "/a" and "C:\a" are held by the root, which keeps its separator.
+    if (folder.isEmpty() || (folder.size() == 2 && folder.at(1) == QLatin1Char(':')))
+        folder = path.left(cut + 1);
+    return {folder, path.mid(cut + 1)};
+}
+
 CommandPieces AddCommandPieces(const AddOptions& o, MethodMemory& methods,
                                const QString& programFolder, const QString& tempRoot,
                                PathStyle style) {
     CommandPieces pieces;
+    const AddSourceParts source = SplitAddSource(o.source);
+    pieces.setWorkingFolder(source.folder);
+    const PathStyle stored = PathStyle::windows();
     pieces << EngineFragment(programFolder, style);
     pieces << QString::fromLatin1(o.move ? fragment::Move : fragment::Add);
     pieces << QString::fromLatin1(o.recurse ? fragment::RecurseOn : fragment::RecurseOff);
@@ -134,12 +155,12 @@ CommandPieces AddCommandPieces(const AddOptions& o, MethodMemory& methods,
     if (o.sourceIsFolder) {
         if (o.choice == FileChoice::FileTypes) {
             for (const QString& pattern : SplitPatterns(o.fileTypes))
-                pieces << AddIncludeFragment(o.source, pattern, style);
+                pieces << AddIncludeFragment(source.name, pattern, stored);
         } else {
-            pieces << WholeFolderFragment(o.source, style);
+            pieces << WholeFolderFragment(source.name, stored);
         }
     } else {
-        pieces << SingleFileFragment(o.source);
+        pieces << SingleFileFragment(source.name);
     }
     if (o.excludeTicked) {
         for (const QString& pattern : SplitPatterns(o.exclude))

@@ -136,8 +136,21 @@ struct ExtractOptions {
     QStringList leftOut;
 };
 
-// The command pieces of an Add line (engine to redirection), in order. `methods` is the
-// dialog's method memory and is updated from `options.methodPosition`.
+// Where an Add job runs and what it names: the folder that holds the chosen item, and the
+// item's own name. The engine stores names as they are given, so run from there the archive's
+// top level is the chosen item itself ("Docs\a.txt"), never the path above it
+// ("home\anna\Docs\a.txt"). A root folder, which has nothing above it, is named as it is
+// and the folder is empty.
+struct AddSourceParts {
+    QString folder;
+    QString name;
+};
+AddSourceParts SplitAddSource(const QString& source);
+
+// The command pieces of an Add line (engine to redirection), in order, to run in the folder
+// that holds the source (SplitAddSource). The source is named relative to that folder, its
+// parts joined by "\", the separator the engine stores ("/" would be stored as it stands).
+// `methods` is the dialog's method memory and is updated from `options.methodPosition`.
 CommandPieces AddCommandPieces(const AddOptions& options, MethodMemory& methods,
                                const QString& programFolder, const QString& tempRoot,
                                PathStyle style);

@@ -187,21 +187,27 @@ TEST(EngineNames, ANameIsRefusedOnlyWhenTheEngineCannotTakeItUnderItsLocale) {
     EXPECT_EQ(ValueProblemForEngine(QString::fromUtf8("/d/Документ.txt"), "source", false, ru),
               QString::fromUtf8(
                   "The source\n/d/Документ.txt\nholds letters that the engine cannot take under "
-                  "the locale C.UTF-8: \"Д\", \"о\", \"к\", \"у\", \"м\", \"е\", \"н\", \"т\" "
-                  "(its code pages 1252 and 437 lack them). Nothing was run; rename it with "
-                  "other letters, or start Quovara under a locale whose code pages have them."));
+                  "the locale C.UTF-8: \"Д\" (CYRILLIC CAPITAL LETTER DE), \"о\" (CYRILLIC SMALL "
+                  "LETTER O), \"к\" (CYRILLIC SMALL LETTER KA), \"у\" (CYRILLIC SMALL LETTER U), "
+                  "\"м\" (CYRILLIC SMALL LETTER EM), \"е\" (CYRILLIC SMALL LETTER IE), \"н\" "
+                  "(CYRILLIC SMALL LETTER EN), \"т\" (CYRILLIC SMALL LETTER TE) (its code pages "
+                  "1252 and 437 lack them). Nothing was run. To go on, rename it with other "
+                  "letters, or start Quovara with \"--archive-locale ru_RU.UTF-8\", a locale whose "
+                  "code pages have them."));
     // "€" is in code page 1252 but not in 437, in which the engine keeps names: the real
     // engine then says it cannot read "?uro.txt".
     EXPECT_EQ(ValueProblemForEngine(QString::fromUtf8("€uro.txt"), "source", false, ru),
               QString::fromUtf8("The source\n€uro.txt\nholds letters that the engine cannot "
-                                "take under the locale C.UTF-8: \"€\" (its code page 437 lacks "
-                                "them). Nothing was run; rename it with other letters, or start "
-                                "Quovara under a locale whose code pages have them."));
+                                "take under the locale C.UTF-8: \"€\" (EURO SIGN) (its code page "
+                                "437 lacks them). Nothing was run. To go on, rename it with other "
+                                "letters, or start Quovara with \"--archive-locale "
+                                "vi_VN.UTF-8\", a locale whose code pages have them."));
     // A password's letters are never shown.
     EXPECT_EQ(ValueProblemForEngine(QString::fromUtf8("пароль"), "password", true, ru),
               "The password holds letters that the engine cannot take under the locale "
-              "C.UTF-8 (its code pages 1252 and 437 lack them). Nothing was run; rename it "
-              "with other letters, or start Quovara under a locale whose code pages have them.");
+              "C.UTF-8 (its code pages 1252 and 437 lack them). Nothing was run. To go on, "
+              "choose a password with other letters, or start Quovara with \"--archive-locale "
+              "LOCALE\" naming a locale whose code pages have them.");
     EXPECT_EQ(ValueProblemForEngine(QString::fromUtf8("café ñ ü.uha"), "archive", false, ru),
               QString());
     // A native engine takes every name.
@@ -231,8 +237,10 @@ TEST(EngineNames, UnderTheLocalesOfTheirLanguagesTheNamesAreTaken) {
     EngineTextCodecs ru = WindowsEngineCodecs("ru_RU.UTF-8");
     ru.locale = "C.UTF-8";
     EXPECT_TRUE(ValueProblemForEngine(QString::fromUtf8("Łódź.txt"), "source", false, ru)
-                    .contains(QString::fromUtf8("\"Ł\", \"ó\", \"ź\" (its code pages 1251 and "
-                                                "866 lack them)")));
+                    .contains(QString::fromUtf8(
+                        "\"Ł\" (LATIN CAPITAL LETTER L WITH STROKE), \"ó\" (LATIN SMALL LETTER O "
+                        "WITH ACUTE), \"ź\" (LATIN SMALL LETTER Z WITH ACUTE) (its code pages 1251 "
+                        "and 866 lack them)")));
 }
 
 TEST(EngineNames, UnderALocaleThatIsNotInstalledOnlyAsciiNamesAreTaken) {

@@ -127,11 +127,17 @@ TEST(JobScript, AWindowsEngineRefusesANameOutsideItsCodePages) {
     EXPECT_EQ(CommandPiecesProblem(addPieces(QString::fromUtf8("/d/café ñ ü.uha")), english),
               QString());
     EXPECT_EQ(CommandPiecesProblem(addPieces(QString::fromUtf8("/d/Łódź.uha")), english),
-              QString::fromUtf8("The archive\n/d/Łódź.uha\nholds letters that the engine cannot "
-                                "take under the locale C.UTF-8: \"Ł\", \"ź\" (its code pages "
-                                "1252 and 437 lack them). Nothing was run; rename it with other "
-                                "letters, or start Quovara under a locale whose code pages have "
-                                "them."));
+              QString::fromUtf8("The archive name\nŁódź.uha\nholds letters that the engine "
+                                "cannot take under the locale C.UTF-8: \"Ł\" (LATIN CAPITAL "
+                                "LETTER L WITH STROKE), \"ź\" (LATIN SMALL LETTER Z WITH ACUTE) "
+                                "(its code pages 1252 and 437 lack them). Nothing was run. To go "
+                                "on, rename it with other letters, or start Quovara with "
+                                "\"--archive-locale pl_PL.UTF-8\", a locale whose code pages "
+                                "have them."));
+    // Only the name: the folder an archive is added in is handed to the engine as a drive.
+    EXPECT_EQ(
+        CommandPiecesProblem(addPieces(QString::fromUtf8("/home/Łukasz/Документы/a.uha")), english),
+        QString());
     EXPECT_TRUE(CommandPiecesProblem(addPieces("/d/a.uha", QString::fromUtf8("пароль")), english)
                     .startsWith("The password holds letters that the engine cannot take"));
     // Under a Polish locale the same archive name is taken.
@@ -142,6 +148,27 @@ TEST(JobScript, AWindowsEngineRefusesANameOutsideItsCodePages) {
     EXPECT_EQ(
         CommandPiecesProblem(addPieces(QString::fromUtf8("/d/Łódź 📦.uha")), EngineTextCodecs()),
         QString());
+}
+
+TEST(JobScript, AnArchiveOrADestinationAnywhereIsTakenUnderAnyLocale) {
+    // The job runner hands the engine a link to the archive and the destination as a drive, so
+    // only the names inside the archive meet the engine's code pages.
+    const EngineTextCodecs english = WindowsEngineCodecs("C.UTF-8");
+    const QString archive = QString::fromUtf8("/home/Łukasz/Документы.uha");
+    const CommandPieces list{"\"/p/uharc.exe\"", " l -d2 -y+ -lg", "/t/uharc.log ",
+                             "\"" + Fragment::Value(archive, "archive") + "\""};
+    EXPECT_EQ(CommandPiecesProblem(list, english), QString());
+    const CommandPieces extract{
+        "\"/p/uharc.exe\" ", "e ",
+        "-t\"" + Fragment::Value(QString::fromUtf8("/home/Łukasz/展開表"), "destination folder") +
+            "\"",
+        " -o- ", "\"" + Fragment::Value(archive, "archive") + "\""};
+    EXPECT_EQ(CommandPiecesProblem(extract, english), QString());
+    // A name the engine reads is still checked.
+    CommandPieces single = extract;
+    single << " \"" + Fragment::Value(QString::fromUtf8("Документ.txt"), "item") + "\"";
+    EXPECT_TRUE(CommandPiecesProblem(single, english)
+                    .startsWith(QString::fromUtf8("The item\nДокумент.txt\nholds letters")));
 }
 
 TEST(JobScript, ALinkPlantedAsTheScriptIsNotWrittenThrough) {

@@ -425,10 +425,11 @@ TEST_F(Runner, AListNamingLettersTheRealEngineCannotReadIsRefused) {
     EXPECT_EQ(job.errorText(),
               "the list file " + list + " names a file the engine cannot take. The name\n" +
                   QString::fromUtf8("Z:\\home\\Łukasz\\a.txt\nholds letters that the engine "
-                                    "cannot take under the locale C.UTF-8: \"Ł\" (its code pages "
-                                    "1252 and 437 lack them). Nothing was run; rename it with "
-                                    "other letters, or start Quovara under a locale whose code "
-                                    "pages have them."));
+                                    "cannot take under the locale C.UTF-8: \"Ł\" (LATIN CAPITAL "
+                                    "LETTER L WITH STROKE) (its code pages 1252 and 437 lack "
+                                    "them). Nothing was run. To go on, rename it with other "
+                                    "letters, or start Quovara with \"--archive-locale "
+                                    "pl_PL.UTF-8\", a locale whose code pages have them."));
     EXPECT_FALSE(QFile::exists(places.path() + "/record.txt"));
 }
 

@@ -49,18 +49,6 @@ bool isDrive(const std::string& c) {
     return c.size() == 2 && c[1] == ':' && std::isalpha(static_cast<unsigned char>(c[0]));
 }
 
-std::vector<std::string> safeParts(const std::string& s) {
-    std::vector<std::string> out;
-    auto parts = splitPath(s);
-    for (std::size_t i = 0; i < parts.size(); ++i) {
-        const auto& p = parts[i];
-        if (p.empty() || p == "." || p == ".." || (i == 0 && isDrive(p)))
-            continue;
-        out.push_back(p);
-    }
-    return out;
-}
-
 std::string join(const std::vector<std::string>& parts, const std::string& sep) {
     std::string s;
     for (std::size_t i = 0; i < parts.size(); ++i)

@@ -18,9 +18,6 @@ std::string replaced(std::string s, char from, char to);
 std::vector<std::string> splitPath(const std::string& s);
 // "C:" and the like.
 bool isDrive(const std::string& c);
-// The parts of a stored or given path that may name a place under a target folder: empty,
-// "." and ".." parts and a leading drive are dropped, so nothing can climb out.
-std::vector<std::string> safeParts(const std::string& s);
 std::string join(const std::vector<std::string>& parts, const std::string& sep);
 // The name after the last separator.
 std::string filePart(const std::string& stored);

@@ -404,9 +404,11 @@ Place placeOf(const std::string& stored, const Options& o, bool withPaths) {
 // ---------------------------------------------------------------------------------------
 // a, m: add and move
 //
-// Stored names: the source path as given, with its root or drive and any "." and ".."
-// parts removed and "/" turned into "\", so "/data/Src/*.*" stores "data\Src\a.txt" and
-// a relative "folder\*" stores "folder\sub\data.bin".
+// Stored names: the source path as given, with its drive, its root and any "." and ".." parts
+// removed, parts joined by "\". Under the launcher only "\" separates parts, as in the real
+// engine: "/" is stored as it stands, so "Src\*.*" stores "Src\sub\data.bin" but "Src/*.*"
+// stores "Src/sub\data.bin", and "Z:/data/a.txt" stores "/data/a.txt" (measured). Run
+// natively, the stand-in is given host paths and takes "/" as a separator too.
 
 // A file to add: where it is, its stored name, and its name as the progress lines show it
 // (the path as given, drive included, with "\" as separator: the engine shows
@@ -422,22 +424,32 @@ std::string shownPrefix(const std::string& folder) {
     return s.empty() || s.back() == '\\' ? s : s + "\\";
 }
 
-// The folder part of a stored name. With -pr the ".." parts stay and with -pf the drive too,
-// as the engine keeps them: an archive made so names places outside any folder.
-std::string storedPrefix(const std::string& folder, char paths) {
+// The stored part of a source's folder, given as it stands with its last separator
+// ("Src\", "../Src/"). With -pr the ".." parts stay and with -pf the drive too, as the
+// engine keeps them: an archive made so names places outside any folder.
+std::string storedPrefix(const std::string& given, char paths) {
+    std::string folder = given;
+    if (paths != 'f' && folder.size() >= 2 && folder[1] == ':' &&
+        std::isalpha(static_cast<unsigned char>(folder[0])))
+        folder.erase(0, 2);
+    const bool slashSeparates = !std::getenv("WINEPREFIX");
     std::vector<std::string> parts;
-    if (paths == 0) {
-        parts = safeParts(folder);
-    } else {
-        const auto all = splitPath(folder);
-        for (std::size_t i = 0; i < all.size(); ++i) {
-            const auto& p = all[i];
-            if (p.empty() || p == "." || (i == 0 && isDrive(p) && paths != 'f'))
-                continue;
-            parts.push_back(p);
+    std::string part;
+    for (std::size_t i = 0; i <= folder.size(); ++i) {
+        if (i < folder.size() && folder[i] != '\\' && !(slashSeparates && folder[i] == '/')) {
+            part.push_back(folder[i]);
+            continue;
         }
+        const bool dots = part == "." || part == "..";
+        if (!part.empty() && part != "." && !(dots && paths == 0))
+            parts.push_back(part);
+        part.clear();
     }
-    return parts.empty() ? "" : join(parts, "\\") + "\\";
+    std::string prefix = join(parts, "\\");
+    // A folder given with "/" at its end keeps it; one given with "\" gets "\" back.
+    if (!prefix.empty() && prefix.back() != '/')
+        prefix += "\\";
+    return prefix;
 }
 
 bool isExcluded(const Options& o, const std::string& stored) {
@@ -479,16 +491,18 @@ std::vector<Source> collectSources(const Options& o) {
         if (s.empty())
             continue;
         std::error_code ec;
-        std::string dir, pattern;
+        std::string dir, pattern, givenFolder;
         if (!hasWildcard(s) && fs::is_directory(s, ec)) {
             dir = s;
             pattern = "*";
+            givenFolder = raw + "\\";
         } else {
             auto pos = s.rfind('/');
             dir = pos == std::string::npos ? "" : (pos == 0 ? "/" : s.substr(0, pos));
             pattern = pos == std::string::npos ? s : s.substr(pos + 1);
+            givenFolder = pos == std::string::npos ? "" : raw.substr(0, pos + 1);
         }
-        const std::string prefix = storedPrefix(dir, o.paths);
+        const std::string prefix = storedPrefix(givenFolder, o.paths);
         const std::string shown = shownPrefix(dir);
         if (!hasWildcard(pattern)) {
             fs::path p = hostPath(s);

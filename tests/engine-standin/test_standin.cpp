@@ -557,6 +557,32 @@ TEST_F(StandinTest, UnderTheLauncherDotDotStopsAtTheRootOfTheTargetsDrive) {
               QStringList({"dest", "h.uha"}));
 }
 
+TEST_F(StandinTest, UnderTheLauncherOnlyABackslashSeparatesTheStoredParts) {
+    // Measured with the real engine run from the folder that holds "Документы":
+    // "Документы\*.*" stores "Документы\sub\b.txt", "Документы/*.*" stores
+    // "Документы/sub\b.txt", and "Z:/tmp/one.txt" stores "/tmp/one.txt".
+    writeFile(path(QString::fromUtf8("work/Документы/a.txt")), "a");
+    writeFile(path(QString::fromUtf8("work/Документы/sub/b.txt")), "b");
+    QDir().mkpath(path("prefix"));
+    auto add = [this](const QString& archive, const QString& source) {
+        QProcess p;
+        QProcessEnvironment env = cleanEnvironment();
+        env.insert("WINEPREFIX", path("prefix"));
+        p.setProcessEnvironment(env);
+        p.setWorkingDirectory(path("work"));
+        p.start(STANDIN_ENGINE_06, {"a", "-r+", "-y+", archive, source});
+        EXPECT_TRUE(p.waitForFinished(30000));
+        EXPECT_EQ(p.exitCode(), 0) << p.readAllStandardOutput().toStdString();
+        // The engine appends to a log: one log per archive.
+        run6({"l", "-lg" + archive + ".txt", "work/" + archive}, dir.path());
+        return listedNames(readFile(path(archive + ".txt")));
+    };
+    EXPECT_EQ(add("back.uha", QString::fromUtf8("Документы\\*.*")),
+              (std::vector<std::string>{"Документы\\a.txt", "Документы\\sub\\b.txt"}));
+    EXPECT_EQ(add("slash.uha", QString::fromUtf8("Документы/*.*")),
+              (std::vector<std::string>{"Документы/a.txt", "Документы/sub\\b.txt"}));
+}
+
 TEST_F(StandinTest, TemporaryArchiveExistsWhileAddingAndIsRenamedAtTheEnd) {
     for (int i = 0; i < 4; ++i)
         writeFile(path(QString("src/f%1.txt").arg(i)), textOfSize(1000 + i));

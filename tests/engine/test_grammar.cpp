@@ -78,7 +78,7 @@ TEST(Grammar, MethodTableByPosition) {
 TEST(Grammar, AddWithDefaultsOfAFolder) {
     EXPECT_EQ(addLine(folderSource()),
               QStringLiteral("\"C:\\P\\uharc.exe\" a -r+ -m2 -mm+ -md+ -md4096 \"C:\\Src.uha\" "
-                             "\"C:\\Src\\*.*\" > C:\\T\\Corvana\\das.txt"));
+                             "\"Src\\*.*\" > C:\\T\\Corvana\\das.txt"));
 }
 
 TEST(Grammar, AddMoveStorePasswordExclusionOfAFile) {
@@ -94,7 +94,7 @@ TEST(Grammar, AddMoveStorePasswordExclusionOfAFile) {
     o.excludeTicked = true;
     o.exclude = "*.bak";
     EXPECT_EQ(addLine(o), QStringLiteral("\"C:\\P\\uharc.exe\" m -r- -m0 -mm+ -md+ -md4096 "
-                                         "-pw\"pw\" \"C:\\a.uha\" \"C:\\a.txt\" !\"*.bak\" > "
+                                         "-pw\"pw\" \"C:\\a.uha\" \"a.txt\" !\"*.bak\" > "
                                          "C:\\T\\Corvana\\das.txt"));
 }
 
@@ -120,7 +120,7 @@ TEST(Grammar, MethodPositionMinusOneOnFirstJobWritesNoMethod) {
     AddOptions o = folderSource();
     o.methodPosition = -1;
     EXPECT_EQ(addLine(o), QStringLiteral("\"C:\\P\\uharc.exe\" a -r+ -mm+ -md+ -md4096 "
-                                         "\"C:\\Src.uha\" \"C:\\Src\\*.*\" > "
+                                         "\"C:\\Src.uha\" \"Src\\*.*\" > "
                                          "C:\\T\\Corvana\\das.txt"));
 }
 
@@ -132,7 +132,7 @@ TEST(Grammar, MethodPositionMinusOneRepeatsTheDialogsPreviousMethod) {
     o.methodPosition = -1;
     const QString second = CommandLine(AddCommandPieces(o, methods, P, T, Win));
     EXPECT_EQ(second, QStringLiteral("\"C:\\P\\uharc.exe\" a -r+ -mx -mm+ -md+ -md4096 "
-                                     "\"C:\\Src.uha\" \"C:\\Src\\*.*\" > "
+                                     "\"C:\\Src.uha\" \"Src\\*.*\" > "
                                      "C:\\T\\Corvana\\das.txt"));
     EXPECT_EQ(methods.current(), QStringLiteral("-mx "));
     // A second dialog starts empty again.
@@ -164,7 +164,7 @@ TEST(Grammar, CommaAndBlankKeepTheBlankInsideTheQuotes) {
     o.choice = FileChoice::FileTypes;
     o.fileTypes = "*.dll, *.exe";
     EXPECT_EQ(addLine(o), QStringLiteral("\"C:\\P\\uharc.exe\" a -r+ -m2 -mm+ -md+ -md4096 "
-                                         "\"C:\\Src.uha\" \"C:\\Src\\*.dll\" \"C:\\Src\\ *.exe\" "
+                                         "\"C:\\Src.uha\" \"Src\\*.dll\" \"Src\\ *.exe\" "
                                          " > C:\\T\\Corvana\\das.txt"));
     ExtractOptions e = flatInto("D:\\Out");
     e.choice = FileChoice::FileTypes;
@@ -222,11 +222,11 @@ TEST(Grammar, NoBlankBeforeExcludeButOneBetweenIncludes) {
     AddOptions o = folderSource();
     o.excludeTicked = true;
     o.exclude = "*.bak,*.tmp";
-    EXPECT_TRUE(addLine(o).contains(QStringLiteral("\"C:\\Src\\*.*\" !\"*.bak\" !\"*.tmp\" > ")));
+    EXPECT_TRUE(addLine(o).contains(QStringLiteral("\"Src\\*.*\" !\"*.bak\" !\"*.tmp\" > ")));
     o.choice = FileChoice::FileTypes;
     o.fileTypes = "*.a,*.b";
-    EXPECT_TRUE(addLine(o).contains(QStringLiteral(
-        "\"C:\\Src.uha\" \"C:\\Src\\*.a\" \"C:\\Src\\*.b\"  !\"*.bak\" !\"*.tmp\" > ")));
+    EXPECT_TRUE(addLine(o).contains(
+        QStringLiteral("\"C:\\Src.uha\" \"Src\\*.a\" \"Src\\*.b\"  !\"*.bak\" !\"*.tmp\" > ")));
 }
 
 TEST(Grammar, OnlyTheseFilesWithEmptyTextNamesNoSource) {
@@ -252,7 +252,7 @@ TEST(Grammar, OnlyTheseFilesIsIgnoredForASingleFile) {
     o.choice = FileChoice::FileTypes;
     o.fileTypes = "*.dll";
     EXPECT_EQ(addLine(o), QStringLiteral("\"C:\\P\\uharc.exe\" a -r- -m2 -mm+ -md+ -md4096 "
-                                         "\"C:\\a.uha\" \"C:\\a.txt\" > C:\\T\\Corvana\\das.txt"));
+                                         "\"C:\\a.uha\" \"a.txt\" > C:\\T\\Corvana\\das.txt"));
 }
 
 TEST(Grammar, FileListWithAFolderAddsTheFolderAndTheList) {
@@ -261,7 +261,7 @@ TEST(Grammar, FileListWithAFolderAddsTheFolderAndTheList) {
     o.listFile = "C:\\list.txt";
     o.dictionary = "32768";
     EXPECT_EQ(addLine(o), QStringLiteral("\"C:\\P\\uharc.exe\" a -r+ -m2 -mm+ -md+ -md32768 "
-                                         "\"C:\\Src.uha\" \"C:\\Src\\*.*\" @\"C:\\list.txt\" > "
+                                         "\"C:\\Src.uha\" \"Src\\*.*\" @\"C:\\list.txt\" > "
                                          "C:\\T\\Corvana\\das.txt"));
     ExtractOptions e = flatInto("D:\\Out");
     e.choice = FileChoice::FileList;
@@ -282,14 +282,14 @@ TEST(Grammar, QuotesAreNeitherEscapedNorChecked) {
               QStringLiteral(" > C:\\Docs and Settings\\Temp\\Corvana\\das.txt"));
 }
 
-TEST(Grammar, HostPathsUseTheHostSeparator) {
+TEST(Grammar, HostPathsUseTheHostSeparatorAndStoredNamesTheEngines) {
     AddOptions o;
     o.archive = "/home/u/src.uha";
     o.source = "/home/u/src";
     MethodMemory methods;
     EXPECT_EQ(CommandLine(AddCommandPieces(o, methods, "/opt/q", "/tmp", PathStyle{'/'})),
               QStringLiteral("\"/opt/q/uharc.exe\" a -r+ -m2 -mm+ -md+ -md4096 "
-                             "\"/home/u/src.uha\" \"/home/u/src/*.*\" > /tmp/Corvana/das.txt"));
+                             "\"/home/u/src.uha\" \"src\\*.*\" > /tmp/Corvana/das.txt"));
 }
 
 TEST(Grammar, ListTestAndSingleItemLines) {
@@ -327,9 +327,9 @@ TEST(Grammar, AddAndExtractScriptsAreWrittenWithoutFinalLineBreak) {
     QFile a(add);
     ASSERT_TRUE(a.open(QIODevice::ReadOnly));
     EXPECT_EQ(a.readAll(),
-              QByteArray("@echo off\r\ncls\r\nset uharc_opt= -d2\r\n\"C:\\P\\uharc.exe\" a -r+ -m2 "
-                         "-mm+ -md+ -md4096 \"C:\\Src.uha\" \"C:\\Src\\*.*\" > "
-                         "C:\\T\\Corvana\\das.txt"));
+              QByteArray("@echo off\r\ncls\r\nset uharc_opt= -d2\r\ncd /d \"C:\\\"\r\n"
+                         "\"C:\\P\\uharc.exe\" a -r+ -m2 -mm+ -md+ -md4096 \"C:\\Src.uha\" "
+                         "\"Src\\*.*\" > C:\\T\\Corvana\\das.txt"));
     const QString extract = dir.filePath("Estrai.bat");
     ExtractOptions e = flatInto("D:\\Out");
     e.fullPath = true;
@@ -340,4 +340,51 @@ TEST(Grammar, AddAndExtractScriptsAreWrittenWithoutFinalLineBreak) {
     EXPECT_EQ(x.readAll(), QByteArray("@echo off\r\ncls\r\nset uharc_opt= -d2\r\n\"C:\\P\\uharc."
                                       "exe\" x  -o- \"C:\\x.uha\" > C:\\T\\Corvana\\das.txt"));
     EXPECT_FALSE(WriteExtractJobScript(dir.filePath("missing/Estrai.bat"), e, P, T, Win));
+}
+
+TEST(Grammar, AnAddRunsInTheFolderThatHoldsTheChosenItem) {
+    EXPECT_EQ(SplitAddSource("/home/anna/Документы").folder, QStringLiteral("/home/anna"));
+    EXPECT_EQ(SplitAddSource("/home/anna/Документы").name, QStringLiteral("Документы"));
+    EXPECT_EQ(SplitAddSource("/home/anna/Документы/").name, QStringLiteral("Документы"));
+    EXPECT_EQ(SplitAddSource("/report.txt").folder, QStringLiteral("/"));
+    EXPECT_EQ(SplitAddSource("/report.txt").name, QStringLiteral("report.txt"));
+    EXPECT_EQ(SplitAddSource("C:\\a.txt").folder, QStringLiteral("C:\\"));
+    EXPECT_EQ(SplitAddSource("D:\\Work\\日本語").folder, QStringLiteral("D:\\Work"));
+    EXPECT_EQ(SplitAddSource("D:\\Work\\日本語").name, QStringLiteral("日本語"));
+    // A root has nothing above it: it is named as it is, from wherever the job runs.
+    EXPECT_EQ(SplitAddSource("/").folder, QString());
+    EXPECT_EQ(SplitAddSource("/").name, QStringLiteral("/"));
+}
+
+TEST(Grammar, AnAddNamesItsSourceRelativeToTheFolderItRunsIn) {
+    AddOptions o;
+    o.archive = QStringLiteral("/home/anna/Документы.uha");
+    o.source = QStringLiteral("/home/anna/Документы");
+    o.choice = FileChoice::FileTypes;
+    o.fileTypes = QStringLiteral("*.odt,*.txt");
+    MethodMemory methods;
+    const CommandPieces pieces =
+        AddCommandPieces(o, methods, "/opt/q", "/tmp/u", PathStyle{QLatin1Char('/')});
+    EXPECT_EQ(pieces.workingFolder(), QStringLiteral("/home/anna"));
+    // The source's parts are joined by "\\" whatever the host's separator: the engine stores
+    // "/" as it stands.
+    EXPECT_EQ(CommandLine(pieces),
+              QStringLiteral("\"/opt/q/uharc.exe\" a -r+ -m2 -mm+ -md+ -md4096 "
+                             "\"/home/anna/Документы.uha\" \"Документы\\*.odt\" "
+                             "\"Документы\\*.txt\"  > /tmp/u/Corvana/das.txt"));
+    const ParsedJob job = SplitPieces(pieces);
+    EXPECT_EQ(job.workingFolder, QStringLiteral("/home/anna"));
+    EXPECT_EQ(job.arguments.mid(7),
+              QStringList({"/home/anna/Документы.uha", "Документы\\*.odt", "Документы\\*.txt"}));
+    EXPECT_TRUE(JobScriptBytes(Preamble::Job, pieces)
+                    .startsWith("@echo off\r\ncls\r\nset uharc_opt= -d2\r\ncd /d \"/home/anna\"\r\n"
+                                "\"/opt/q/uharc.exe\" a "));
+}
+
+TEST(Grammar, AFolderWithALineBreakCannotBeTheFolderAJobRunsIn) {
+    CommandPieces pieces({"\"/p/uharc.exe\" ", "a "});
+    pieces.setWorkingFolder(QStringLiteral("/home/a\nb"));
+    EXPECT_EQ(CommandPiecesProblem(pieces, EngineTextCodecs()),
+              QStringLiteral("The folder\n/home/a\\nb\nholds a line break, which a job script "
+                             "cannot carry. Nothing was run."));
 }

@@ -144,13 +144,16 @@ TEST_F(EngineLanguages, APolishNameIsTakenUnderAPolishLocaleAndRefusedUnderARuss
     prompter_.shown.clear();
     QTest::keyClick(&window_, Qt::Key_F5);
     ASSERT_TRUE(waitFor([&] { return !prompter_.shown.isEmpty(); }));
-    EXPECT_EQ(prompter_.shown.first(),
-              "critical: The archive\n" + archive +
-                  QString::fromUtf8("\nholds letters that the engine cannot take under the "
-                                    "locale ru_RU.UTF-8: \"Ł\", \"ó\", \"ź\" (its code pages "
-                                    "1251 and 866 lack them). Nothing was run; rename it with "
-                                    "other letters, or start Quovara under a locale whose code "
-                                    "pages have them."));
+    EXPECT_EQ(
+        prompter_.shown.first(),
+        "critical: The archive\n" + archive +
+            QString::fromUtf8("\nholds letters that the engine cannot take under the "
+                              "locale ru_RU.UTF-8: \"Ł\" (LATIN CAPITAL LETTER L WITH "
+                              "STROKE), \"ó\" (LATIN SMALL LETTER O WITH ACUTE), \"ź\" "
+                              "(LATIN SMALL LETTER Z WITH ACUTE) (its code pages 1251 and 866 "
+                              "lack them). Nothing was run. To go on, rename it with other "
+                              "letters, or start Quovara with \"--archive-locale "
+                              "pl_PL.UTF-8\", a locale whose code pages have them."));
 }
 
 TEST_F(EngineLanguages, AJapaneseNameWithTheByteOfABackslashIsOneName) {

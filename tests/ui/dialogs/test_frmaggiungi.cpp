@@ -49,7 +49,11 @@ protected:
     void ok() { click(c<QPushButton>("Command3")); }
 
     // The add line of this test's places, from the switches on.
-    QByteArray expected(const QString& rest) const { return scriptBytes(engineText() + rest); }
+    // An Add runs in the folder that holds its source, both of which lie in places_.
+    QByteArray expected(const QString& rest) const {
+        return scriptPreamble() + "cd /d \"" + places_.path().toUtf8() + "\"\r\n" +
+               (engineText() + rest).toUtf8();
+    }
 
     ScopedPlaces places_;
     RecordingPrompter prompter_;
@@ -127,8 +131,8 @@ TEST_F(AddDialog, AFolderProposesItsPathDotUhaAndKeepsSubdirectories) {
     EXPECT_TRUE(c<QCheckBox>("Check1")->isChecked());
     EXPECT_TRUE(c<QCheckBox>("Check1")->isEnabled());
     ok();
-    EXPECT_EQ(addScript(), expected("a -r+ -m2 -mm+ -md+ -md4096 \"" + src_ + ".uha\" \"" + src_ +
-                                    "/*.*\"" + redirectText()));
+    EXPECT_EQ(addScript(), expected("a -r+ -m2 -mm+ -md+ -md4096 \"" + src_ + ".uha\" \"" +
+                                    "Src\\*.*\"" + redirectText()));
     EXPECT_EQ(handedOver_, QStringList({src_ + ".uha"}));
     EXPECT_EQ(dialog_->result(), QDialog::Accepted);
     EXPECT_TRUE(prompter_.shown.isEmpty());
@@ -142,7 +146,7 @@ TEST_F(AddDialog, AFileProposesItsNameUpToTheDotAndWritesNoRecursion) {
     EXPECT_FALSE(c<QCheckBox>("Check1")->isEnabled());
     ok();
     EXPECT_EQ(addScript(), expected("a -r- -m2 -mm+ -md+ -md4096 \"" + places_.path() +
-                                    "/a.uha\" \"" + file_ + "\"" + redirectText()));
+                                    "/a.uha\" \"a.txt\"" + redirectText()));
 }
 
 TEST_F(AddDialog, AFileWithoutExtensionProposesItsWholePathDotUha) {
@@ -176,7 +180,7 @@ TEST_F(AddDialog, PasswordBoxFollowsItsTickAndAnEmptyPasswordIsStillWritten) {
     EXPECT_TRUE(box->isEnabled());
     ok();
     EXPECT_EQ(addScript(), expected("a -r+ -m2 -mm+ -md+ -md4096 -pw\"\" \"" + src_ + ".uha\" \"" +
-                                    src_ + "/*.*\"" + redirectText()));
+                                    "Src\\*.*\"" + redirectText()));
 }
 
 TEST_F(AddDialog, PasswordTypedIsWrittenAsItStands) {
@@ -185,7 +189,7 @@ TEST_F(AddDialog, PasswordTypedIsWrittenAsItStands) {
     QTest::keyClicks(c<QLineEdit>("Text2"), "a b&c;$x");
     ok();
     EXPECT_EQ(addScript(), expected("a -r+ -m2 -mm+ -md+ -md4096 -pw\"a b&c;$x\" \"" + src_ +
-                                    ".uha\" \"" + src_ + "/*.*\"" + redirectText()));
+                                    ".uha\" \"" + "Src\\*.*\"" + redirectText()));
 }
 
 TEST_F(AddDialog, OnlyTheseFilesHasNoEffectOnASingleFile) {
@@ -194,7 +198,7 @@ TEST_F(AddDialog, OnlyTheseFilesHasNoEffectOnASingleFile) {
     QTest::keyClicks(c<QLineEdit>("TxtFileType"), "*.dll,*.exe");
     ok();
     EXPECT_EQ(addScript(), expected("a -r- -m2 -mm+ -md+ -md4096 \"" + places_.path() +
-                                    "/a.uha\" \"" + file_ + "\"" + redirectText()));
+                                    "/a.uha\" \"a.txt\"" + redirectText()));
 }
 
 TEST_F(AddDialog, OnlyTheseFilesOnAFolderGivesOnePatternEach) {
@@ -203,8 +207,8 @@ TEST_F(AddDialog, OnlyTheseFilesOnAFolderGivesOnePatternEach) {
     QTest::keyClicks(c<QLineEdit>("TxtFileType"), "*.dll, *.exe");
     ok();
     // The blank after the comma stays inside the quotes; one blank between two patterns.
-    EXPECT_EQ(addScript(), expected("a -r+ -m2 -mm+ -md+ -md4096 \"" + src_ + ".uha\" \"" + src_ +
-                                    "/*.dll\" \"" + src_ + "/ *.exe\" " + redirectText()));
+    EXPECT_EQ(addScript(), expected("a -r+ -m2 -mm+ -md+ -md4096 \"" + src_ + ".uha\" \"" +
+                                    "Src\\*.dll\" \"" + "Src\\ *.exe\" " + redirectText()));
 }
 
 TEST_F(AddDialog, AFileListWithAFolderAddsTheWholeFolderAndTheList) {
@@ -212,8 +216,8 @@ TEST_F(AddDialog, AFileListWithAFolderAddsTheWholeFolderAndTheList) {
     click(c<QRadioButton>("OpFileList"));
     QTest::keyClicks(c<QLineEdit>("TxtFileList"), "/lists/names.txt");
     ok();
-    EXPECT_EQ(addScript(), expected("a -r+ -m2 -mm+ -md+ -md4096 \"" + src_ + ".uha\" \"" + src_ +
-                                    "/*.*\" @\"/lists/names.txt\"" + redirectText()));
+    EXPECT_EQ(addScript(), expected("a -r+ -m2 -mm+ -md+ -md4096 \"" + src_ + ".uha\" \"" +
+                                    "Src\\*.*\" @\"/lists/names.txt\"" + redirectText()));
 }
 
 TEST_F(AddDialog, MultimediaAndDictionaryTicksChangeNothing) {
@@ -243,8 +247,9 @@ TEST_F(AddDialog, ExclusionsAreSplitAtCommasAndFollowTheSourceWithoutABlank) {
     click(c<QCheckBox>("ChkExclude"));
     QTest::keyClicks(c<QLineEdit>("TxtExclude"), "*.bak,,*.tmp *.log");
     ok();
-    EXPECT_EQ(addScript(), expected("a -r+ -m2 -mm+ -md+ -md4096 \"" + src_ + ".uha\" \"" + src_ +
-                                    "/*.*\" !\"*.bak\" !\"\" !\"*.tmp *.log\"" + redirectText()));
+    EXPECT_EQ(addScript(),
+              expected("a -r+ -m2 -mm+ -md+ -md4096 \"" + src_ + ".uha\" \"" +
+                       "Src\\*.*\" !\"*.bak\" !\"\" !\"*.tmp *.log\"" + redirectText()));
 }
 
 TEST_F(AddDialog, MoveStoreAndPasswordOnAFile) {
@@ -270,7 +275,7 @@ TEST_F(AddDialog, EveryMethodAndDictionaryPosition) {
         ok();
         EXPECT_EQ(addScript(),
                   expected("a -r+ " + switches[position] + "-mm+ -md+ -md" + sizes[5 - position] +
-                           " \"" + src_ + ".uha\" \"" + src_ + "/*.*\"" + redirectText()))
+                           " \"" + src_ + ".uha\" \"" + "Src\\*.*\"" + redirectText()))
             << position;
     }
 }
@@ -280,8 +285,8 @@ TEST_F(AddDialog, NoMethodChosenWritesTheLastOneThisDialogWrote) {
     // A drop-down list offers no way to choose nothing; the program can leave it so.
     c<QComboBox>("Combo1")->setCurrentIndex(-1);
     ok();
-    EXPECT_EQ(addScript(), expected("a -r+ -mm+ -md+ -md4096 \"" + src_ + ".uha\" \"" + src_ +
-                                    "/*.*\"" + redirectText()));
+    EXPECT_EQ(addScript(), expected("a -r+ -mm+ -md+ -md4096 \"" + src_ + ".uha\" \"" +
+                                    "Src\\*.*\"" + redirectText()));
     EXPECT_EQ(dialog_->methodSwitch(), "");
 
     showAndWait(dialog_.get());
@@ -291,8 +296,8 @@ TEST_F(AddDialog, NoMethodChosenWritesTheLastOneThisDialogWrote) {
     showAndWait(dialog_.get());
     c<QComboBox>("Combo1")->setCurrentIndex(-1);
     ok();
-    EXPECT_EQ(addScript(), expected("a -r+ -mx -mm+ -md+ -md4096 \"" + src_ + ".uha\" \"" + src_ +
-                                    "/*.*\"" + redirectText()));
+    EXPECT_EQ(addScript(), expected("a -r+ -mx -mm+ -md+ -md4096 \"" + src_ + ".uha\" \"" +
+                                    "Src\\*.*\"" + redirectText()));
 }
 
 TEST_F(AddDialog, DefaultResetsOnlyModeTicksAndLists) {
@@ -331,7 +336,7 @@ TEST_F(AddDialog, DefaultResetsOnlyModeTicksAndLists) {
     EXPECT_EQ(addScript(),
               expected("a -r+ -m2 -mm+ -md+ -md4096 -pw\"secret\" \"/elsewhere/x.uha\" "
                        "\"" +
-                       src_ + "/*.txt\"  !\"*.bak\"" + redirectText()));
+                       "Src\\*.txt\"  !\"*.bak\"" + redirectText()));
 }
 
 TEST_F(AddDialog, DefaultTicksSubdirectoriesEvenForAFileAndLeavesItDisabled) {
@@ -341,7 +346,7 @@ TEST_F(AddDialog, DefaultTicksSubdirectoriesEvenForAFileAndLeavesItDisabled) {
     EXPECT_FALSE(c<QCheckBox>("Check1")->isEnabled());
     ok();
     EXPECT_EQ(addScript(), expected("a -r+ -m2 -mm+ -md+ -md4096 \"" + places_.path() +
-                                    "/a.uha\" \"" + file_ + "\"" + redirectText()));
+                                    "/a.uha\" \"a.txt\"" + redirectText()));
 }
 
 TEST_F(AddDialog, AnEmptyArchiveNameIsRefusedAndNothingIsWritten) {
