@@ -259,6 +259,50 @@ struct Place {
     bool nothing = false;
 };
 
+// Code page 932 has letters whose second byte is 0x5C, the byte of "\\" ("表", "ソ"), and the
+// engine takes that byte for a separator wherever it stands in its target. These are the
+// target's parts up to each such letter (UTF-8), in order.
+std::vector<std::string> targetCutsAtBackslashBytes(const std::string& target) {
+    std::vector<std::string> cuts;
+    if (!codePages().active || codePages().ansi != 932)
+        return cuts;
+    std::size_t i = 0;
+    while (i < target.size()) {
+        const unsigned char lead = static_cast<unsigned char>(target[i]);
+        const std::size_t n = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+        const std::string letter = target.substr(i, n);
+        const std::string bytes = toAnsi(letter);
+        if (bytes.size() == 2 && bytes[1] == '\\')
+            cuts.push_back(target.substr(0, i));
+        i += n;
+    }
+    return cuts;
+}
+
+// True when the target seems to end in a separator to the engine: its last letter's second
+// byte is 0x5C. The engine then joins an entry's name to it without one: under "展開表",
+// "docs\\a.txt" goes to "展開表docs\\a.txt", beside the target (measured).
+bool targetEndsInABackslashByte(const std::string& target) {
+    const auto cuts = targetCutsAtBackslashBytes(target);
+    if (cuts.empty())
+        return false;
+    const std::string last = target.substr(cuts.back().size());
+    return toAnsi(last).size() == 2;
+}
+
+// The engine makes the target's folders one separator at a time, so each 0x5C inside a letter
+// makes a folder of the part before that letter (wine drops the lone lead byte): "予定表" makes
+// "予定" beside it.
+void makeFoldersCutAtBackslashBytes(const std::string& target) {
+    for (const auto& cut : targetCutsAtBackslashBytes(target)) {
+        if (cut.empty() || cut.back() == '\\' || cut.back() == '/')
+            continue;
+        std::error_code ec;
+        fs::create_directories(windowsDrivePath(cut) ? followWindowsPath(cut, {}) : hostPath(cut),
+                               ec);
+    }
+}
+
 Place placeOf(const std::string& stored, const Options& o, bool withPaths) {
     Place place;
     auto parts = splitPath(stored);
@@ -286,6 +330,10 @@ Place placeOf(const std::string& stored, const Options& o, bool withPaths) {
         return place;
     }
     std::string base = o.target;
+    if (!base.empty() && targetEndsInABackslashByte(base)) {
+        base += join(kept, "\\");
+        kept.clear();
+    }
     if (base.empty() && !drive.empty())
         base = drive + "\\";
     else if (base.empty() && rooted && withPaths)
@@ -322,6 +370,8 @@ Place placeOf(const std::string& stored, const Options& o, bool withPaths) {
     out.line(kDashes);
 
     const bool overwrite = o.overwrite < 0 ? o.yes : o.overwrite == 1;
+    if (extract && !o.target.empty())
+        makeFoldersCutAtBackslashBytes(o.target);
     // As the real engine does, an entry excluded by "!" still gets its folders made under the
     // target before it is skipped ("x" only).
     if (withPaths) {

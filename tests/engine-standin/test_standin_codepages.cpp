@@ -160,6 +160,27 @@ TEST(StandinCodePages, JapaneseNamesWithTheByteOfABackslashStayWhole) {
     EXPECT_EQ(readBytes(dir.filePath("out/" + name)), "ja");
 }
 
+TEST(StandinCodePages, ATargetEndingInALetterWithTheByteOfABackslashLosesItsSeparator) {
+    // As the real engine under code page 932: "表" is 0x95 0x5C, and the engine takes 0x5C for a
+    // separator. Given "-t予定表\\展開表", it joins each name to the target without a
+    // separator (the files go beside the target, into "展開表docs") and makes a folder of the
+    // part before each such letter ("予定", "展開").
+    QTemporaryDir dir;
+    putFile(dir.filePath("src/docs/a.txt"), "a");
+    ASSERT_EQ(engine({"a", "-r+", "-y+", "j.uha", "src\\*.*"}, dir.path(), "932,932").exitCode, 0);
+    QDir().mkpath(dir.filePath(QString::fromUtf8("予定表/展開表")));
+    const QString target = QString::fromUtf8("予定表\\展開表");
+    ASSERT_EQ(engine({"x", "-y+", "-t" + target, "j.uha"}, dir.path(), "932,932").exitCode, 0);
+    EXPECT_EQ(readBytes(dir.filePath(QString::fromUtf8("予定表/展開表src/docs/a.txt"))), "a");
+    EXPECT_TRUE(QDir(dir.filePath(QString::fromUtf8("予定表/展開表"))).isEmpty());
+    EXPECT_TRUE(QFileInfo(dir.filePath(QString::fromUtf8("予定"))).isDir());
+    EXPECT_TRUE(QFileInfo(dir.filePath(QString::fromUtf8("予定表/展開"))).isDir());
+    // With a separator of its own after the letter, the target is taken as it is.
+    const QString slashed = QString::fromUtf8("予定表\\展開表\\");
+    ASSERT_EQ(engine({"x", "-y+", "-t" + slashed, "j.uha"}, dir.path(), "932,932").exitCode, 0);
+    EXPECT_EQ(readBytes(dir.filePath(QString::fromUtf8("予定表/展開表/src/docs/a.txt"))), "a");
+}
+
 TEST(StandinLauncher, RunsTheEngineWithHostPathsAndTheCodePagesOfItsLocale) {
     QTemporaryDir dir;
     putFile(dir.filePath("prog/uharc.exe"), "MZ\nstandin=" STANDIN_ENGINE_06 "\n");

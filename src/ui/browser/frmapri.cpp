@@ -48,7 +48,8 @@ namespace {} // namespace
 
 frmApri::frmApri(QWidget* parent)
     : QMainWindow(parent), messagePrompter_(this), prompter_(&messagePrompter_),
-      lister_(messagePrompter_, switch_) {
+      listingPrompter_(messagePrompter_, [this] { endReadingState(); }),
+      lister_(listingPrompter_, switch_) {
     setObjectName(QStringLiteral("frmApri"));
     // The window lists archives of any size, one after another: their big tables must go back
     // to the system when the next listing replaces them.

@@ -108,7 +108,7 @@ public:
     // Tests answer message boxes with a recorder.
     void setPrompter(Prompter* prompter) {
         prompter_ = prompter;
-        lister_.setPrompter(*prompter);
+        listingPrompter_.setTarget(*prompter);
     }
     // The single-instance lock (empty: the per-user default); tests use their own.
     void setInstanceLockPath(const QString& path) { lockPath_ = path; }
@@ -168,6 +168,10 @@ private:
 
     // A listing is under way (Escape or closing the window stops it).
     bool listingNow_ = false;
+    // The title and State to go back to when a reading ends (or stops to show a message).
+    void endReadingState();
+    QString titleBeforeReading_;
+    bool readingShown_ = false;
     bool closedWhileListing_ = false;
     ::QShortcut* stopReading_ = nullptr;
 
@@ -220,6 +224,8 @@ private:
 
     MessagePrompter messagePrompter_;
     Prompter* prompter_;
+    // The listing's messages: the window stops saying "Reading …" before it shows one.
+    NoticingPrompter listingPrompter_;
     EngineSwitchState switch_;
     ArchiveLister lister_;
     FindFile search_;

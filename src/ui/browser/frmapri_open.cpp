@@ -77,6 +77,14 @@ private:
 
 } // namespace
 
+void frmApri::endReadingState() {
+    if (!readingShown_)
+        return;
+    readingShown_ = false;
+    setWindowTitle(titleBeforeReading_);
+    setStatus(apri::Ready, apri::SelectAction);
+}
+
 void frmApri::OpenSelectedItem() {
     OpenItem(FileView1->selectedPath());
 }
@@ -85,13 +93,14 @@ void frmApri::OpenItem(const QString& path) {
     if (path.isEmpty())
         return;
     // While the archive is read the window says so, and Escape or closing it stops the reading.
-    const QString title = windowTitle();
     const bool archiveName = IsArchiveName(path);
     std::optional<ReadingInputGuard> guard;
     if (archiveName) {
         guard.emplace(this);
         listingNow_ = true;
         stopReading_->setEnabled(true);
+        titleBeforeReading_ = windowTitle();
+        readingShown_ = true;
         setWindowTitle(
             titleWith(QString::fromUtf8(apri::ReadingTitle).arg(QFileInfo(path).fileName())));
         setStatus(apri::Reading, apri::EscapeStops);
@@ -101,6 +110,8 @@ void frmApri::OpenItem(const QString& path) {
     QTimer count;
     count.setInterval(200);
     connect(&count, &QTimer::timeout, this, [this, path] {
+        if (!readingShown_)
+            return;
         if (const qint64 n = lister_.entriesPlaced(); n > 0) {
             Stato->setText(QString::fromLatin1(apri::ReadingCount).arg(apri::EntriesText(n)));
             setWindowTitle(titleWith(QString::fromUtf8(apri::ReadingTitleCount)
@@ -115,8 +126,7 @@ void frmApri::OpenItem(const QString& path) {
         guard.reset();
         listingNow_ = false;
         stopReading_->setEnabled(false);
-        setWindowTitle(title);
-        setStatus(apri::Ready, apri::SelectAction);
+        endReadingState();
     }
     if (listed && lister_.cancelled())
         return;

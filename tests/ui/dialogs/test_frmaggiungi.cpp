@@ -262,7 +262,7 @@ TEST_F(AddDialog, MoveStoreAndPasswordOnAFile) {
     QTest::keyClicks(c<QLineEdit>("TxtExclude"), "*.bak");
     ok();
     EXPECT_EQ(addScript(), expected("m -r- -m0 -mm+ -md+ -md4096 -pw\"pw\" \"" + places_.path() +
-                                    "/a.uha\" \"" + file_ + "\" !\"*.bak\"" + redirectText()));
+                                    "/a.uha\" \"a.txt\" !\"*.bak\"" + redirectText()));
 }
 
 TEST_F(AddDialog, EveryMethodAndDictionaryPosition) {
@@ -335,8 +335,8 @@ TEST_F(AddDialog, DefaultResetsOnlyModeTicksAndLists) {
     ok();
     EXPECT_EQ(addScript(),
               expected("a -r+ -m2 -mm+ -md+ -md4096 -pw\"secret\" \"/elsewhere/x.uha\" "
-                       "\"" +
-                       "Src\\*.txt\"  !\"*.bak\"" + redirectText()));
+                       "\"Src\\*.txt\"  !\"*.bak\"" +
+                       redirectText()));
 }
 
 TEST_F(AddDialog, DefaultTicksSubdirectoriesEvenForAFileAndLeavesItDisabled) {
@@ -453,8 +453,8 @@ TEST_F(AddDialog, TheSourceIsReadAgainAtOk) {
     selection_ = file_;
     ok();
     // The archive name stays what the dialog proposed; the source is the new selection.
-    EXPECT_EQ(addScript(), expected("a -r+ -m2 -mm+ -md+ -md4096 \"" + src_ + ".uha\" \"" + file_ +
-                                    "\"" + redirectText()));
+    EXPECT_EQ(addScript(), expected("a -r+ -m2 -mm+ -md+ -md4096 \"" + src_ + ".uha\" \"a.txt\"" +
+                                    redirectText()));
 }
 
 TEST_F(AddDialog, AScriptThatCannotBeWrittenIsReportedAndNotHandedOver) {
