@@ -2,6 +2,7 @@
 
 #include "ui/jobs/extractherejob.h"
 
+#include "detailsmodel.h"
 #include "filebrowser.h"
 #include "fileicons.h"
 #include "focusframe.h"
@@ -108,6 +109,8 @@ frmApri::frmApri(QWidget* parent)
     // Every row is one line: the list need not measure each of thousands of results.
     Trovati->setUniformRowHeights(true);
     Trovati->setAccessibleName(QStringLiteral("Search results"));
+    // Name and folder share what the details leave of the list's width, as in the Report view.
+    details_cell::fitColumns(Trovati->header(), 2);
     Trovati->hide();
     right->addWidget(Trovati, 1);
     setCentralWidget(central);
@@ -438,9 +441,6 @@ void frmApri::StartSearch() {
     ShComboBox1->hide();
     Trovati->show();
     results_->clear();
-    // Name and folder each take half of the list's width; the details follow to the right.
-    Trovati->setColumnWidth(0, Trovati->viewport()->width() / 2);
-    Trovati->setColumnWidth(1, Trovati->viewport()->width() / 2);
     Stato->setText(QStringLiteral("Quovara is searching"));
     Consiglio->setText(QStringLiteral("Back stops the search"));
     search_.start(CompleteSearchPattern(TxtCerca->text()), ScratchFolder());
