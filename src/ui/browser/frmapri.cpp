@@ -4,7 +4,6 @@
 
 #include "detailsmodel.h"
 #include "filebrowser.h"
-#include "fileicons.h"
 #include "focusframe.h"
 
 #include "controls/taskpanebar.h"
@@ -129,16 +128,7 @@ frmApri::frmApri(QWidget* parent)
     });
     connect(FileView1, &QWidget::customContextMenuRequested, this,
             [this](const QPoint& p) { PopView->popup(FileView1->mapToGlobal(p)); });
-    connect(ShComboBox1, &QComboBox::activated, this, [this](int index) {
-        const QString folder = ShComboBox1->itemData(index).toString();
-        if (!folder.isEmpty())
-            FileView1->setFolder(folder);
-    });
-    connect(ShComboBox1->lineEdit(), &QLineEdit::returnPressed, this, [this] {
-        const QString typed = ShComboBox1->currentText();
-        if (QFileInfo(typed).isDir())
-            FileView1->setFolder(typed);
-    });
+    connectAddressBar();
     connect(ImgCerca, &QToolButton::clicked, this, &frmApri::StartSearch);
     connect(TxtCerca, &QLineEdit::returnPressed, this, &frmApri::StartSearch);
     connect(EstFile, &QPushButton::clicked, this, [this] {
@@ -314,6 +304,8 @@ void frmApri::Uha() {
     // The Report view shows the entries' details from the listing.
     FileView1->setArchiveDetails(lister_.shownDetails(), ScratchFolder());
     results_->setDetails(lister_.shownDetails());
+    // The address bar names the archive, also when it replaced another in the same folder.
+    showAddress(FileView1->folder());
 }
 
 QString frmApri::titleWith(const QString& head) const {
@@ -337,22 +329,7 @@ bool frmApri::insideScratchFolder(const QString& folder) const {
 }
 
 void frmApri::onFolderChanged(const QString& folder) {
-    // The drop-down lists the folder and the folders above it.
-    ShComboBox1->blockSignals(true);
-    ShComboBox1->clear();
-    QStringList chain;
-    QDir dir(folder);
-    do {
-        chain.prepend(QDir::toNativeSeparators(dir.absolutePath()));
-    } while (dir.cdUp());
-    for (int i = 0; i < chain.size(); ++i) {
-        const QString name = i == 0 ? chain[i] : QFileInfo(chain[i]).fileName();
-        ShComboBox1->addItem(SharedFileIconProvider()->icon(QFileInfo(chain[i])),
-                             QString(i * 2, QLatin1Char(' ')) + name, chain[i]);
-    }
-    ShComboBox1->setCurrentIndex(ShComboBox1->count() - 1);
-    ShComboBox1->setEditText(QDir::toNativeSeparators(folder));
-    ShComboBox1->blockSignals(false);
+    showAddress(folder);
 
     // A drag out of the mirror tree carries the entries, not its empty placeholders.
     if (insideScratchFolder(folder))
