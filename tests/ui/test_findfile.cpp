@@ -51,7 +51,9 @@ TEST(FindFileWalk, SubFoldersComeBeforeAFoldersOwnFilesAndNamesAreInOrder) {
     EXPECT_EQ(search.hits(), 6);
 }
 
-TEST(FindFileWalk, StarDotStarFindsEveryNameInAFileManagersOrderDeeperFoldersFirst) {
+TEST(FindFileWalk, StarDotStarFindsEveryNameInTheBrowsersOrderDeeperFoldersFirst) {
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    auto restore = qScopeGuard([] { QLocale::setDefault(QLocale::c()); });
     QTemporaryDir dir;
     for (const char* name :
          {"file10.txt", "file2.txt", "File1.txt", "b.txt", "A.txt", "README", "dir10/x",
@@ -66,15 +68,69 @@ TEST(FindFileWalk, StarDotStarFindsEveryNameInAFileManagersOrderDeeperFoldersFir
 }
 
 TEST(FileManagerOrder, LettersWithoutCaseAndNumbersByTheirValue) {
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    auto restore = qScopeGuard([] { QLocale::setDefault(QLocale::c()); });
     QStringList names = {"file10", "file2", "File1", "file02", "a",  "B", "c1d10",
                          "c1d9",   "Ä",     "z",     "file",   "10", "9", "_x"};
     std::sort(names.begin(), names.end(), FileManagerLess);
-    EXPECT_EQ(names, QStringList({"9", "10", "_x", "a", "B", "c1d9", "c1d10", "file", "File1",
-                                  "file02", "file2", "file10", "z", "Ä"}));
+    const QStringList expected = {"_x",    "9",    "10",    "a",      "Ä",     "B",      "c1d9",
+                                  "c1d10", "file", "File1", "file02", "file2", "file10", "z"};
+    EXPECT_EQ(names, expected);
     // Names equal but for case or leading zeros still have one order.
     EXPECT_TRUE(FileManagerLess("A.txt", "a.txt"));
     EXPECT_FALSE(FileManagerLess("a.txt", "A.txt"));
     EXPECT_FALSE(FileManagerLess("a.txt", "a.txt"));
+    // A long list is sorted by keys, into the same order.
+    QStringList many;
+    for (int i = 0; i < 20; ++i)
+        for (const QString& n : expected)
+            many << n + QString::number(19 - i);
+    QStringList byKeys = many;
+    SortNames(byKeys);
+    std::sort(many.begin(), many.end(), FileManagerLess);
+    EXPECT_EQ(byKeys, many);
+}
+
+// The browser's file model orders a folder with a collator of the locale; every other list of
+// names does the same.
+TEST(FileManagerOrder, TheBrowsersOrderInEveryLocale) {
+    auto restore = qScopeGuard([] { QLocale::setDefault(QLocale::c()); });
+    const QStringList names = {QString::fromUtf8("Ёж"),  QString::fromUtf8("Еда"),
+                               QString::fromUtf8("Жук"), QString::fromUtf8("あ"),
+                               QString::fromUtf8("ア"),  QString::fromUtf8("か")};
+    auto sorted = [&](const char* locale, bool keys) {
+        QLocale::setDefault(QLocale(QString::fromLatin1(locale)));
+        QStringList list = names;
+        // Enough names for the keyed sort as well.
+        if (keys) {
+            for (int i = 0; i < 70; ++i)
+                list << QStringLiteral("zz%1").arg(i);
+            SortNames(list);
+            list.removeIf([](const QString& n) { return n.startsWith("zz"); });
+            return list;
+        }
+        std::sort(list.begin(), list.end(), FileManagerLess);
+        return list;
+    };
+    // Hiragana and katakana of one sound are equal to the collator: the plain character order
+    // (hiragana first) decides, so that the same names always come in one order.
+    const QStringList cyrillicFirst = {QString::fromUtf8("Еда"), QString::fromUtf8("Ёж"),
+                                       QString::fromUtf8("Жук"), QString::fromUtf8("あ"),
+                                       QString::fromUtf8("ア"),  QString::fromUtf8("か")};
+    const QStringList kanaFirst = {QString::fromUtf8("あ"), QString::fromUtf8("ア"),
+                                   QString::fromUtf8("か"), QString::fromUtf8("Еда"),
+                                   QString::fromUtf8("Ёж"), QString::fromUtf8("Жук")};
+    for (bool keys : {false, true}) {
+        EXPECT_EQ(sorted("ru_RU", keys), cyrillicFirst) << keys;
+        EXPECT_EQ(sorted("en_US", keys), cyrillicFirst) << keys;
+        EXPECT_EQ(sorted("ja_JP", keys), kanaFirst) << keys;
+        // The C locale: characters by their codes, without regard to case.
+        EXPECT_EQ(sorted("C", keys),
+                  QStringList({QString::fromUtf8("Еда"), QString::fromUtf8("Жук"),
+                               QString::fromUtf8("Ёж"), QString::fromUtf8("あ"),
+                               QString::fromUtf8("か"), QString::fromUtf8("ア")}))
+            << keys;
+    }
 }
 
 TEST(FindFileWalk, ALinkToAFolderIsNotFollowedButALinkToAFileIsAHit) {

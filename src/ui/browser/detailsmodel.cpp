@@ -3,6 +3,7 @@
 #include "core/logging.h"
 
 #include <QFileSystemModel>
+#include <QHeaderView>
 #include <QLocale>
 #include <QMimeData>
 #include <QTimer>
@@ -87,6 +88,19 @@ QString header(int column) {
     default:
         return QString();
     }
+}
+
+void fitColumns(QHeaderView* header, int firstDetail) {
+    // Size, Modified, Attributes and CRC-32 at widths that hold their texts; the columns before
+    // them share what is left, so that every column shows without a sideways scroll.
+    static constexpr int widths[] = {80, 140, 70, 80};
+    for (int column = 0; column < firstDetail; ++column)
+        header->setSectionResizeMode(column, QHeaderView::Stretch);
+    for (int i = 0; i < int(std::size(widths)); ++i) {
+        header->setSectionResizeMode(firstDetail + i, QHeaderView::Interactive);
+        header->resizeSection(firstDetail + i, widths[i]);
+    }
+    header->setStretchLastSection(false);
 }
 
 } // namespace details_cell

@@ -2,7 +2,7 @@
 // columns Name, Size, Modified, Attributes and CRC-32 taken from the archive's listing; a
 // folder shows how many entries it holds. The rows are those of the file model's folder (the
 // mirror tree), in an order of our own: a click on a header sorts by that column, folders
-// first, names as a file manager orders them (the file model's own order), numbers by value.
+// first, names in the browser's order (the file model's own, FileManagerLess).
 #pragma once
 
 #include "engine/entrydetails.h"
@@ -14,6 +14,7 @@
 #include <vector>
 
 class QFileSystemModel;
+class QHeaderView;
 class QTimer;
 
 namespace quovara {
@@ -29,6 +30,10 @@ QString countText(int entries);
 // tip, alignment) of an entry, or of a folder holding `count` entries when `entry` is null.
 QVariant data(const EntryDetails* entry, std::optional<int> count, int column, int role);
 QString header(int column);
+// Lays out the columns of a list that shows the details from column `firstDetail` on (the
+// Report view from 1, the search results from 2): the details at their fixed widths, the
+// columns before them sharing the rest of the list's width.
+void fitColumns(QHeaderView* header, int firstDetail);
 } // namespace details_cell
 
 class DetailsModel : public QAbstractTableModel {

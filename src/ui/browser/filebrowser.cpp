@@ -143,12 +143,7 @@ void FileBrowser::setArchiveDetails(std::shared_ptr<const ArchiveDetails> detail
         if (on) {
             details_->setFolder(root);
             tree_->setRootIndex(QModelIndex());
-            tree_->header()->setSectionResizeMode(DetailsModel::Name, QHeaderView::Stretch);
-            tree_->header()->setStretchLastSection(false);
-            tree_->setColumnWidth(DetailsModel::Size, 80);
-            tree_->setColumnWidth(DetailsModel::Modified, 140);
-            tree_->setColumnWidth(DetailsModel::Attributes, 70);
-            tree_->setColumnWidth(DetailsModel::Crc, 80);
+            details_cell::fitColumns(tree_->header(), DetailsModel::Size);
         } else {
             tree_->setRootIndex(root);
             tree_->header()->setStretchLastSection(true);

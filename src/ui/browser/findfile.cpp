@@ -8,7 +8,6 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
-#include <algorithm>
 
 #ifdef Q_OS_UNIX
 #include <cerrno>
@@ -27,65 +26,6 @@ QString CompleteSearchPattern(const QString& text) {
             return text;
     }
     return text + QLatin1Char('*');
-}
-
-namespace {
-
-bool isDigit(QChar c) {
-    return c >= QLatin1Char('0') && c <= QLatin1Char('9');
-}
-
-// Compares a and b by letters without case and by the numbers their digit runs stand for.
-int compareNaturally(const QString& a, const QString& b) {
-    qsizetype i = 0;
-    qsizetype j = 0;
-    while (i < a.size() && j < b.size()) {
-        // The same letter (not a digit, which counts within its number): nothing to fold.
-        if (a[i] == b[j] && !isDigit(a[i])) {
-            ++i;
-            ++j;
-            continue;
-        }
-        if (isDigit(a[i]) && isDigit(b[j])) {
-            // Two numbers: leading zeros count for nothing, then the longer is the greater.
-            const qsizetype startA = i;
-            const qsizetype startB = j;
-            while (i < a.size() && isDigit(a[i]))
-                ++i;
-            while (j < b.size() && isDigit(b[j]))
-                ++j;
-            QStringView na = QStringView(a).sliced(startA, i - startA);
-            QStringView nb = QStringView(b).sliced(startB, j - startB);
-            while (na.size() > 1 && na.front() == QLatin1Char('0'))
-                na = na.sliced(1);
-            while (nb.size() > 1 && nb.front() == QLatin1Char('0'))
-                nb = nb.sliced(1);
-            if (na.size() != nb.size())
-                return na.size() < nb.size() ? -1 : 1;
-            if (const int c = na.compare(nb); c != 0)
-                return c;
-            continue;
-        }
-        const char16_t ca = a[i].toCaseFolded().unicode();
-        const char16_t cb = b[j].toCaseFolded().unicode();
-        if (ca != cb)
-            return ca < cb ? -1 : 1;
-        ++i;
-        ++j;
-    }
-    if (i < a.size())
-        return 1;
-    if (j < b.size())
-        return -1;
-    return 0;
-}
-
-} // namespace
-
-bool FileManagerLess(const QString& a, const QString& b) {
-    if (const int c = compareNaturally(a, b); c != 0)
-        return c < 0;
-    return a < b;
 }
 
 FindFile::FindFile(QObject* parent) : QObject(parent) {
@@ -155,8 +95,8 @@ void FindFile::pushFolder(const QString& folder) {
             frame.subfolders << info.fileName();
     }
 #endif
-    std::sort(frame.subfolders.begin(), frame.subfolders.end(), FileManagerLess);
-    std::sort(frame.files.begin(), frame.files.end(), FileManagerLess);
+    SortNames(frame.subfolders);
+    SortNames(frame.files);
     stack_.append(std::move(frame));
 }
 

@@ -1,9 +1,11 @@
 // Searching the open archive by file name: a walk of the mirror tree in the ScratchFolder,
 // deeper folders first (a folder's sub-folders are searched before its own files), names in
-// each folder in a file manager's order (FileManagerLess). The walk runs in steps of a few
+// each folder in the browser's order (FileManagerLess). The walk runs in steps of a few
 // milliseconds from the event loop and hands over what each step found at once, so the window
 // stays live, results show as they are found, and the search can be stopped at any time.
 #pragma once
+
+#include "ui/common/nameorder.h"
 
 #include <QElapsedTimer>
 #include <QObject>
@@ -15,10 +17,6 @@ namespace quovara {
 // The text typed becomes a pattern: without a "." after its first character a "*" is
 // appended ("read" -> "read*", ".txt" -> ".txt*", "*.txt" stays).
 QString CompleteSearchPattern(const QString& text);
-
-// The order of names in a file manager: letters without regard to case, a run of digits by
-// its number ("file2" before "file10"); names equal that way in their plain character order.
-bool FileManagerLess(const QString& a, const QString& b);
 
 // One result: the file's name and its folder as a path inside the archive ("\" separators;
 // empty for the archive's root).

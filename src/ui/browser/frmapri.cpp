@@ -2,8 +2,8 @@
 
 #include "ui/jobs/extractherejob.h"
 
+#include "detailsmodel.h"
 #include "filebrowser.h"
-#include "fileicons.h"
 #include "focusframe.h"
 
 #include "controls/taskpanebar.h"
@@ -109,6 +109,8 @@ frmApri::frmApri(QWidget* parent)
     // Every row is one line: the list need not measure each of thousands of results.
     Trovati->setUniformRowHeights(true);
     Trovati->setAccessibleName(QStringLiteral("Search results"));
+    // Name and folder share what the details leave of the list's width, as in the Report view.
+    details_cell::fitColumns(Trovati->header(), 2);
     Trovati->hide();
     right->addWidget(Trovati, 1);
     setCentralWidget(central);
@@ -127,16 +129,7 @@ frmApri::frmApri(QWidget* parent)
     });
     connect(FileView1, &QWidget::customContextMenuRequested, this,
             [this](const QPoint& p) { PopView->popup(FileView1->mapToGlobal(p)); });
-    connect(ShComboBox1, &QComboBox::activated, this, [this](int index) {
-        const QString folder = ShComboBox1->itemData(index).toString();
-        if (!folder.isEmpty())
-            FileView1->setFolder(folder);
-    });
-    connect(ShComboBox1->lineEdit(), &QLineEdit::returnPressed, this, [this] {
-        const QString typed = ShComboBox1->currentText();
-        if (QFileInfo(typed).isDir())
-            FileView1->setFolder(typed);
-    });
+    connectAddressBar();
     connect(ImgCerca, &QToolButton::clicked, this, &frmApri::StartSearch);
     connect(TxtCerca, &QLineEdit::returnPressed, this, &frmApri::StartSearch);
     connect(EstFile, &QPushButton::clicked, this, [this] {
@@ -312,6 +305,8 @@ void frmApri::Uha() {
     // The Report view shows the entries' details from the listing.
     FileView1->setArchiveDetails(lister_.shownDetails(), ScratchFolder());
     results_->setDetails(lister_.shownDetails());
+    // The address bar names the archive, also when it replaced another in the same folder.
+    showAddress(FileView1->folder());
 }
 
 QString frmApri::titleWith(const QString& head) const {
@@ -335,22 +330,7 @@ bool frmApri::insideScratchFolder(const QString& folder) const {
 }
 
 void frmApri::onFolderChanged(const QString& folder) {
-    // The drop-down lists the folder and the folders above it.
-    ShComboBox1->blockSignals(true);
-    ShComboBox1->clear();
-    QStringList chain;
-    QDir dir(folder);
-    do {
-        chain.prepend(QDir::toNativeSeparators(dir.absolutePath()));
-    } while (dir.cdUp());
-    for (int i = 0; i < chain.size(); ++i) {
-        const QString name = i == 0 ? chain[i] : QFileInfo(chain[i]).fileName();
-        ShComboBox1->addItem(SharedFileIconProvider()->icon(QFileInfo(chain[i])),
-                             QString(i * 2, QLatin1Char(' ')) + name, chain[i]);
-    }
-    ShComboBox1->setCurrentIndex(ShComboBox1->count() - 1);
-    ShComboBox1->setEditText(QDir::toNativeSeparators(folder));
-    ShComboBox1->blockSignals(false);
+    showAddress(folder);
 
     // A drag out of the mirror tree carries the entries, not its empty placeholders.
     if (insideScratchFolder(folder))
@@ -439,9 +419,6 @@ void frmApri::StartSearch() {
     ShComboBox1->hide();
     Trovati->show();
     results_->clear();
-    // Name and folder each take half of the list's width; the details follow to the right.
-    Trovati->setColumnWidth(0, Trovati->viewport()->width() / 2);
-    Trovati->setColumnWidth(1, Trovati->viewport()->width() / 2);
     Stato->setText(QStringLiteral("Quovara is searching"));
     Consiglio->setText(QStringLiteral("Back stops the search"));
     search_.start(CompleteSearchPattern(TxtCerca->text()), ScratchFolder());

@@ -185,6 +185,14 @@ private:
     // "Open" of the entry menu: a folder is shown, a file is extracted and run.
     void openEntry();
     void pointBrowserAt(const QString& path);
+    // The address bar (frmapri_address.cpp): what it shows for the browser's folder (inside an
+    // archive, the archive's path and the folder inside it), and going to a typed address.
+    void connectAddressBar();
+    QString shownArchive() const; // the listed archive's clean path, empty when none
+    QString addressOf(const QString& folder) const;
+    void showAddress(const QString& folder);
+    void goToAddress(const QString& typed);
+    void showFolderInArchive(const QString& inner);
     void onFolderChanged(const QString& folder);
     void onSelectionChanged();
     void onExecute(const QString& path);

@@ -1,8 +1,7 @@
 #include "foldertreemodel.h"
 
 #include "folderreader.h"
-
-#include "ui/browser/findfile.h"
+#include "nameorder.h"
 
 #include <QDir>
 #include <QFileIconProvider>
@@ -275,8 +274,7 @@ void FolderTreeModel::merge(Node* node, QStringList names) {
             present.insert(key(name));
             added << name;
         }
-    std::sort(added.begin(), added.end(),
-              [this](const QString& a, const QString& b) { return before(a, b); });
+    SortNames(added);
     size_t row = 0;
     for (qsizetype next = 0; next < added.size();) {
         while (row < node->children.size() && before(node->children[row]->name, added[next]))

@@ -1,8 +1,8 @@
 // FolderTreeModel: the folders of the file system as a tree, read on demand by a FolderReader.
 // A folder asked for by its path (reveal) is in the tree at once, with the folders above it,
 // before any of them has been read; the other subfolders join their parents when the reader
-// answers, in the order a file manager shows them (case-insensitive, numbers by value). A
-// folder that is read is watched, so that folders made or removed later come and go too.
+// answers, in the browser's order of names (FileManagerLess). A folder that is read is watched,
+// so that folders made or removed later come and go too.
 #pragma once
 
 #include <QAbstractItemModel>

@@ -48,6 +48,7 @@ void frmEstrai::buildControls() {
     TxTDir = named(new QLineEdit(this), "TxTDir");
     TxTDir->setAccessibleName(text(estrai::ExtractTo));
     Label2->setBuddy(TxTDir);
+    connect(TxTDir, &QLineEdit::textEdited, this, [this] { typed_ = true; });
 
     // The folder tree: every folder of the file system, from the root, folders only. It holds
     // still while folders are read, so a click lands on the folder the user saw there.
@@ -171,8 +172,10 @@ QString frmEstrai::selectedFolder() const {
 }
 
 void frmEstrai::FolderView1_FolderClick(const QModelIndex& index) {
-    if (index.isValid())
-        TxTDir->setText(QDir::toNativeSeparators(folders_->filePath(index)));
+    if (!index.isValid())
+        return;
+    TxTDir->setText(QDir::toNativeSeparators(folders_->filePath(index)));
+    typed_ = false;
 }
 
 void frmEstrai::Command1_Click() {
@@ -185,6 +188,13 @@ void frmEstrai::keyPressEvent(QKeyEvent* event) {
     const QWidget* focus = QApplication::focusWidget();
     if (enter && focus && focus->parentWidget() == FolderView1->viewport()) {
         event->accept();
+        return;
+    }
+    // A typed path is first selected (and made, if need be): the user sees the folder chosen
+    // before anything is extracted into it.
+    if (enter && focus == TxTDir && typed_) {
+        event->accept();
+        selectTypedFolder();
         return;
     }
     QDialog::keyPressEvent(event);
@@ -216,6 +226,81 @@ void frmEstrai::CreateNewFolder(bool editName) {
     }
 }
 
+QString frmEstrai::typedPath() {
+    const QString typed = TxTDir->text();
+    QString path = QDir::fromNativeSeparators(typed);
+    if (path == QLatin1String("~"))
+        path = QDir::homePath();
+    else if (path.startsWith(QLatin1String("~/")))
+        path = QDir::homePath() + path.mid(1);
+    if (path.isEmpty()) {
+        prompter_.exclamation(
+            tr("Type the folder to extract into, or choose it in the list of folders."));
+        return QString();
+    }
+    // A relative path would depend on a working folder the user never sees.
+    if (QDir::isRelativePath(path)) {
+        prompter_.exclamation(tr("\"%1\" is not a full path. Type a path that begins with \"/\", "
+                                 "or with \"~/\" for a folder in your home folder.")
+                                  .arg(typed));
+        return QString();
+    }
+    return QDir::cleanPath(path);
+}
+
+bool frmEstrai::createTypedFolder(const QString& path) {
+    const QString shown = QDir::toNativeSeparators(path);
+    // The nearest folder above that exists: a file there means no folder can be made.
+    QString above = QFileInfo(path).path();
+    while (!QFileInfo::exists(above) && QFileInfo(above).path() != above)
+        above = QFileInfo(above).path();
+    const QString cannot = tr("The folder \"%1\" cannot be created.").arg(shown);
+    if (!QFileInfo(above).isDir()) {
+        prompter_.critical(
+            cannot + QStringLiteral("\n\n") +
+            tr("\"%1\" is a file, not a folder.").arg(QDir::toNativeSeparators(above)));
+        return false;
+    }
+    if (!prompter_.question(tr("The folder \"%1\" does not exist. Create it?").arg(shown))) {
+        TxTDir->setFocus();
+        return false;
+    }
+    if (!QDir().mkpath(path)) {
+        qCDebug(lcExtractDialog) << "could not create" << path;
+        const QString why =
+            QFileInfo(above).isWritable()
+                ? tr("Check the folder's name and that the disk has room.")
+                : tr("You may not create folders in \"%1\".").arg(QDir::toNativeSeparators(above));
+        prompter_.critical(cannot + QStringLiteral("\n\n") + why);
+        return false;
+    }
+    return true;
+}
+
+bool frmEstrai::selectTypedFolder() {
+    const QString path = typedPath();
+    if (path.isEmpty())
+        return false;
+    const QFileInfo info(path);
+    if (info.exists() && !info.isDir()) {
+        prompter_.exclamation(tr("\"%1\" is a file, not a folder. Type the folder to extract into.")
+                                  .arg(QDir::toNativeSeparators(path)));
+        return false;
+    }
+    if (!info.exists() && !createTypedFolder(path))
+        return false;
+    if (!FolderView1->selectPath(path)) {
+        qCDebug(lcExtractDialog) << "typed folder not shown in the tree:" << path;
+        prompter_.critical(tr("The folder \"%1\" cannot be shown in the list of folders.")
+                               .arg(QDir::toNativeSeparators(path)));
+        return false;
+    }
+    // The box shows the folder as the tree holds it (also when it was current already).
+    TxTDir->setText(selectedFolder());
+    typed_ = false;
+    return true;
+}
+
 void frmEstrai::Check2_Click() {
     TxTPwd->setEnabled(Check2->isChecked());
 }
@@ -238,9 +323,11 @@ ExtractOptions frmEstrai::options() const {
 }
 
 void frmEstrai::Command2_Click() {
+    // A path typed and not yet selected is selected now; the tree's selection, which TxTDir
+    // then shows, is the destination. A root loses its separator (C:\ becomes C:).
+    if (typed_ && !selectTypedFolder())
+        return;
     Password = TxTPwd->text();
-    // The destination is the tree's selection, never what stands in TxTDir; a root loses its
-    // separator (C:\ becomes C:).
     Destination = selectedFolder();
     if (Destination.endsWith(PathStyle::host().sep))
         Destination.chop(1);

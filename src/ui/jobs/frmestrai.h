@@ -1,6 +1,8 @@
 // frmEstrai: the Extract dialog. It turns the user's choices into the extract job script
 // (Estrai.bat in the WorkFolder) and hands over to the job that runs it. The destination is the
-// folder selected in the folder tree `FolderView1`; `TxTDir` only shows it.
+// folder selected in the folder tree `FolderView1`, which `TxTDir` shows. A path typed into
+// `TxTDir` selects that folder in the tree (Enter, or OK), made first when it does not exist and
+// the user agrees; OK extracts into exactly the folder the box then shows.
 #pragma once
 
 #include "frmaggiungi_shared.h"
@@ -51,6 +53,7 @@ public:
 
 protected:
     // The Enter that ends the renaming of a new folder only ends the renaming: it never
+    // presses OK. Enter after a path typed into `TxTDir` selects that folder; the next Enter
     // presses OK.
     void keyPressEvent(QKeyEvent* event) override;
 
@@ -85,6 +88,14 @@ private:
     // opened for editing in the tree.
     void CreateNewFolder(bool editName);
     ExtractOptions options() const;
+    // Selects the folder typed into `TxTDir` in the tree: "~" stands for the home folder, a
+    // relative path is refused, a missing folder is made when the user agrees. False (the user
+    // told why) when no folder was selected.
+    bool selectTypedFolder();
+    // The path typed, as a clean absolute path; empty (the user told why) when it is none.
+    QString typedPath();
+    // Makes the missing folder `path` when the user agrees; false when it was not made.
+    bool createTypedFolder(const QString& path);
 
     Prompter& prompter_;
     JobHandOver handOver_;
@@ -93,6 +104,8 @@ private:
     QString ArchivePath;
     QString Destination;
     QString Password;
+    // `TxTDir` holds what the user typed, not yet selected in the tree.
+    bool typed_ = false;
 
     QLabel* Label2 = nullptr;
     QLineEdit* TxTDir = nullptr;

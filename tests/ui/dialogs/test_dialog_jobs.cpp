@@ -252,6 +252,25 @@ TEST_F(DialogJobs, AFlatExtractionPutsEveryFileInTheChosenFolder) {
     EXPECT_EQ(treeOf(out_), flattened(source_));
 }
 
+TEST_F(DialogJobs, ATypedFolderThatDoesNotExistIsMadeAndTheFilesGoThere) {
+    const QString archive = places_.path() + "/typed.uha";
+    add(src_, archive);
+    const QString typed = out_ + "/made/for/it";
+    prompter_.questionAnswers = {true};
+    frmEstrai dialog(archive, prompter_, runScript(names::ExtractScript));
+    showAndWait(&dialog);
+    auto* box = control<QLineEdit>(&dialog, "TxTDir");
+    box->setFocus();
+    typeInto(box, typed);
+    QTest::keyClick(box, Qt::Key_Return);
+    EXPECT_EQ(dialog.selectedFolder(), typed);
+    QTest::keyClick(box, Qt::Key_Return);
+    EXPECT_EQ(prompter_.shown,
+              QStringList({"question: The folder \"" + typed + "\" does not exist. Create it?"}));
+    EXPECT_FALSE(console_.contains("ERROR:")) << console_.toStdString();
+    EXPECT_EQ(treeOf(typed), flattened(source_));
+}
+
 TEST_F(DialogJobs, CurrentDirExtractsBesideTheArchive) {
     const QString folder = places_.path() + "/beside";
     QDir().mkpath(folder);

@@ -10,6 +10,8 @@
 
 #include <QElapsedTimer>
 #include <QLineEdit>
+#include <QLocale>
+#include <QScopeGuard>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTimer>
@@ -166,7 +168,9 @@ TEST_F(FolderTrees, AFolderMadeLaterComesInWithoutMovingTheSelection) {
     EXPECT_EQ(selectedRow().top(), row.top());
 }
 
-TEST(FolderTreeModel, FoldersComeInTheOrderOfAFileManagerAndHiddenOnesOnlyWhenAskedFor) {
+TEST(FolderTreeModel, FoldersComeInTheBrowsersOrderAndHiddenOnesOnlyWhenAskedFor) {
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    auto restore = qScopeGuard([] { QLocale::setDefault(QLocale::c()); });
     ScopedPlaces places;
     const QString base = places.path() + "/order";
     for (const char* name : {"b", "A", "a10", "a9", "Zed", ".hidden/inner"})

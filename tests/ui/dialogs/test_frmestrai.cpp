@@ -171,16 +171,6 @@ TEST_F(ExtractDialog, ARootDestinationLosesItsSeparator) {
     EXPECT_EQ(extractScript(), expected("e -t\"\" -o- " + archiveText() + redirectText()));
 }
 
-TEST_F(ExtractDialog, TypingInTheFolderBoxChangesNothing) {
-    open(archive_);
-    clickFolder(base_ + "/out/inner");
-    typeInto(c<QLineEdit>("TxTDir"), "/somewhere/else");
-    EXPECT_EQ(c<QLineEdit>("TxTDir")->text(), "/somewhere/else");
-    ok();
-    EXPECT_EQ(extractScript(),
-              expected("e -t\"" + base_ + "/out/inner\" -o- " + archiveText() + redirectText()));
-}
-
 TEST_F(ExtractDialog, OnlyTheseFilesWithAnEmptyTextWritesNoPattern) {
     open(archive_);
     click(c<QRadioButton>("OpFileType"));
