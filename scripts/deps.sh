@@ -12,6 +12,7 @@ packages=(
     desktop-file-utils shared-mime-info libglib2.0-dev
     appstream dpkg-dev file gzip
     dbus-x11 at-spi2-core python3-pyatspi
+    xdg-utils
     pcmanfm xdotool openbox
     locales
 )
