@@ -166,7 +166,7 @@ TEST_F(Notices, BeforeTheEndTheProgramWaitsForTheButtonAndWithdrawsANoticeLeftWa
     QElapsedTimer t;
     t.start();
     notifier().settle(300);
-    EXPECT_GE(t.elapsed(), 290);
+    EXPECT_GE(t.elapsed(), 280); // a coarse timer may fire up to 5 % early
     ASSERT_EQ(service->notices.size(), 1);
     // Nobody chose the button: the notice was withdrawn.
     EXPECT_EQ(service->withdrawn, QList<uint>({service->notices[0].id}));
