@@ -6,6 +6,7 @@
 #include "recording_prompter.h"
 #include "test_support.h"
 
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -35,8 +36,15 @@ protected:
     ScopedEnv desktop_{"XDG_CURRENT_DESKTOP", "Test"};
 };
 
+// The folder of the machine's MIME database (the one with the shared database's cache, not a
+// user's own additions), found before any test points XDG_DATA_DIRS elsewhere.
+const QString kMimeDatabase = QFileInfo(QStandardPaths::locate(QStandardPaths::GenericDataLocation,
+                                                               QStringLiteral("mime/mime.cache")))
+                                  .path();
+
 // The default opener as the program has it (the desktop's association files, the opener
-// command found on the PATH), with a PATH of one folder that the test fills.
+// command found on the PATH), with a PATH of one folder that the test fills. The test's system
+// data folder holds the machine's MIME database, so that a file's type is known.
 class DesktopCommand : public DesktopFolders {
 protected:
     void SetUp() override {
@@ -44,6 +52,9 @@ protected:
         SetAssociationLookup({});
         SetDesktopLauncher({});
         ASSERT_TRUE(QDir().mkpath(bin()));
+        ASSERT_NE(kMimeDatabase, ".") << "no MIME database (package shared-mime-info)";
+        ASSERT_TRUE(QDir().mkpath(system()));
+        ASSERT_TRUE(QFile::link(kMimeDatabase, system() + "/mime"));
     }
     QString bin() const { return dir_.path() + "/bin"; }
     // An xdg-open that writes what it was given to a file.
@@ -190,6 +201,7 @@ TEST_F(DesktopCommand, WithoutXdgOpenTheMessageNamesTheMissingProgramAndItsPacka
 TEST_F(DesktopCommand, WithXdgOpenAFileThatNoApplicationOpensKeepsTheAssociationText) {
     installXdgOpen();
     const QString file = textFile();
+    ASSERT_EQ(MimeTypesOfFile(file).value(0), "text/plain");
     RecordingPrompter prompter;
     EXPECT_EQ(ShellOpenReport(prompter, file, "", "", 0), 31);
     EXPECT_EQ(prompter.shown,
