@@ -11,7 +11,8 @@ packages=(
     xvfb xauth x11-utils imagemagick
     desktop-file-utils shared-mime-info libglib2.0-dev
     appstream dpkg-dev file gzip
-    dbus-x11 at-spi2-core python3-pyatspi
+    dbus-x11 dbus-daemon at-spi2-core python3-pyatspi
+    xdg-utils
     pcmanfm xdotool openbox
     locales
 )

@@ -5,7 +5,9 @@
 #include "app/options.h"
 #include "core/engineinstall.h"
 #include "core/launcherserver.h"
+#include "core/notifications.h"
 #include "core/processcontrol.h"
+#include "core/singleinstance.h"
 #include "ui/browser/commandline.h"
 #include "ui/browser/frmapri.h"
 #include "ui/common/preparingnotice.h"
@@ -39,6 +41,19 @@ int RunOption(int argc, char** argv, const quovara::OptionUse& use) {
         break; // needs the display: main() runs it
     }
     return 2;
+}
+
+// The work is done: the engine's server has ended. A desktop notice still on its way, or whose
+// button ("Open folder") may still be chosen, keeps the program a little longer (without its
+// lock, so that a new copy may start), so that the notice is shown and its button works.
+int EndAfterNotices(int status) {
+    constexpr int kNoticeButtonMs = 60000;
+    quovara::LauncherServer::Shutdown();
+    if (quovara::DesktopNotifications::instance().busy()) {
+        quovara::ReleaseInstanceLocks();
+        quovara::DesktopNotifications::instance().settle(kNoticeButtonMs);
+    }
+    return status;
 }
 
 } // namespace
@@ -111,19 +126,13 @@ int main(int argc, char** argv) {
     if (extractHereGiven) {
         // Each archive beside itself, each with its progress window; the main window stays
         // hidden and the program ends when all are done.
-        const int status = window.ExtractHere(extractHere);
-        quovara::LauncherServer::Shutdown();
-        return status;
+        return EndAfterNotices(window.ExtractHere(extractHere));
     }
     const QStringList request =
         app.arguments().mid(1) + parsed.operands.mid(parsed.operandsBeforeEnd);
-    if (!window.Form_Load(quovara::CommandLineText(request))) {
-        quovara::LauncherServer::Shutdown();
-        return 0;
-    }
+    if (!window.Form_Load(quovara::CommandLineText(request)))
+        return EndAfterNotices(0);
     window.show();
-    const int code = app.exec();
     // The launcher's server kept warm for this session ends with it.
-    quovara::LauncherServer::Shutdown();
-    return code;
+    return EndAfterNotices(app.exec());
 }

@@ -26,6 +26,17 @@ DesktopLauncher& launcher() {
     return current;
 }
 
+// True when the desktop's opener command can be started (or a launcher stands in for it).
+bool openerInstalled() {
+    if (launcher())
+        return true;
+    if (QStandardPaths::findExecutable(QStringLiteral("xdg-open")).isEmpty()) {
+        qCDebug(lcDesktop) << "no xdg-open on the PATH" << qEnvironmentVariable("PATH");
+        return false;
+    }
+    return true;
+}
+
 bool launch(const QString& target) {
     if (launcher())
         return launcher()(target);
@@ -56,10 +67,15 @@ int defaultOpen(const QString& target, const QString&, const QString&) {
             return 3;
         if (!info.exists())
             return 2;
+        // Without the desktop's opener nothing can be opened, whatever the associations say.
+        if (!openerInstalled())
+            return OpenerMissingCode;
         // A file that no application opens would be handed over for nothing: the desktop's
         // opener says so only where the user cannot see it.
         if (!hasApplication(info.filePath()))
             return 31;
+    } else if (!openerInstalled()) {
+        return OpenerMissingCode;
     }
     if (!launch(url.isLocalFile() ? url.toLocalFile() : target))
         return 31;
@@ -137,13 +153,23 @@ QString ShellOpenFailureText(int code, const QString& parameters) {
     return text;
 }
 
+QString OpenerMissingText(const QString& file) {
+    return QCoreApplication::translate(
+               "quovara::Desktop",
+               "%1 cannot be opened: the program that opens files, xdg-open, is not installed.\n\n"
+               "It comes with the package xdg-utils; install it (for example with "
+               "\"sudo apt install xdg-utils\") and try again.")
+        .arg(QFileInfo(file).fileName());
+}
+
 int ShellOpenReport(Prompter& prompter, const QString& file, const QString& parameters,
                     const QString& folder, qint32 showCommand) {
     Q_UNUSED(showCommand);
     const int code = DesktopOpen(file, parameters, folder);
     if (code >= 32)
         return code;
-    const QString text = ShellOpenFailureText(code, parameters);
+    const QString text = code == OpenerMissingCode ? OpenerMissingText(file)
+                                                   : ShellOpenFailureText(code, parameters);
     qCDebug(lcDesktop) << "open failed with" << code << "for" << file;
     if (!text.isEmpty()) {
         prompter.critical(text);

@@ -29,9 +29,18 @@ void SetAssociationLookup(AssociationLookup lookup);
 
 // The default opener's hand-over of a target to the desktop (by default its "xdg-open"
 // command, started on its own); false when it could not be started. An empty function restores
-// the default.
+// the default. While one is set, the desktop's opener command counts as installed.
 using DesktopLauncher = std::function<bool(const QString& target)>;
 void SetDesktopLauncher(DesktopLauncher launcher);
+
+// The default opener's answer when the desktop's opener command (xdg-open, package xdg-utils)
+// is not installed: below 32 like every failure, and none of the platform's own values, so
+// that the user is told what is missing instead of being told of a missing association.
+inline constexpr int OpenerMissingCode = 1;
+
+// The message for `file` when the opener command is not installed: what is missing and which
+// package brings it.
+QString OpenerMissingText(const QString& file);
 
 // The MIME types that the look-up is asked about for a local file: its own type (by name and
 // content), that type's other names, then the types it belongs to.
@@ -46,7 +55,8 @@ void ShellOpen(const QString& target);
 // suffix for non-blank parameters; empty for success and for codes that have no text.
 QString ShellOpenFailureText(int code, const QString& parameters);
 
-// Opens `file` and reports a failure to the user (critical icon). Returns the platform value.
+// Opens `file` and reports a failure to the user (critical icon): the Italian texts, or the
+// opener-missing message for OpenerMissingCode. Returns the platform value.
 int ShellOpenReport(Prompter& prompter, const QString& file, const QString& parameters,
                     const QString& folder, qint32 showCommand);
 

@@ -10,6 +10,16 @@
 
 namespace quovara {
 
+namespace {
+
+// Locks taken by this process stay held until it ends or gives them up.
+std::map<QString, std::unique_ptr<QLockFile>>& heldLocks() {
+    static std::map<QString, std::unique_ptr<QLockFile>> held;
+    return held;
+}
+
+} // namespace
+
 bool AnotherInstanceRunning(const QString& lockPath) {
     QString path = lockPath;
     if (path.isEmpty()) {
@@ -18,8 +28,7 @@ bool AnotherInstanceRunning(const QString& lockPath) {
             folder = QDir::tempPath();
         path = folder + QStringLiteral("/quovara.lock");
     }
-    // Locks taken by this process stay held until it ends.
-    static std::map<QString, std::unique_ptr<QLockFile>> held;
+    auto& held = heldLocks();
     if (held.count(path))
         return false;
     auto lock = std::make_unique<QLockFile>(path);
@@ -30,6 +39,10 @@ bool AnotherInstanceRunning(const QString& lockPath) {
     }
     held.emplace(path, std::move(lock));
     return false;
+}
+
+void ReleaseInstanceLocks() {
+    heldLocks().clear();
 }
 
 } // namespace quovara

@@ -10,4 +10,8 @@ namespace quovara {
 // it and keeps it until the program ends. `lockPath` empty: the default per-user lock.
 bool AnotherInstanceRunning(const QString& lockPath = QString());
 
+// Gives up the locks this copy holds: it has finished its work and only lingers (a notice's
+// button may still be chosen), so a new copy may start.
+void ReleaseInstanceLocks();
+
 } // namespace quovara

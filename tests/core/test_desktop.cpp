@@ -1,11 +1,14 @@
 // The desktop hand-off: which application opens a kind of file, read from the desktop's
-// association files, and the default opener's answer for a file that no application opens.
+// association files, the default opener's answer for a file that no application opens, and
+// its message when the desktop's opener command (xdg-open) is not installed.
 #include "core/desktop.h"
 #include "core/mimeapps.h"
 #include "recording_prompter.h"
 #include "test_support.h"
 
+#include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QTest>
 #include <gtest/gtest.h>
 
 using namespace quovara;
@@ -31,6 +34,42 @@ protected:
     ScopedEnv dataHome_{"XDG_DATA_HOME", dataHome().toLocal8Bit()};
     ScopedEnv dataDirs_{"XDG_DATA_DIRS", system().toLocal8Bit()};
     ScopedEnv desktop_{"XDG_CURRENT_DESKTOP", "Test"};
+};
+
+// The folder of the machine's MIME database (the one with the shared database's cache, not a
+// user's own additions), found before any test points XDG_DATA_DIRS elsewhere.
+const QString kMimeDatabase = QFileInfo(QStandardPaths::locate(QStandardPaths::GenericDataLocation,
+                                                               QStringLiteral("mime/mime.cache")))
+                                  .path();
+
+// The default opener as the program has it (the desktop's association files, the opener
+// command found on the PATH), with a PATH of one folder that the test fills. The test's system
+// data folder holds the machine's MIME database, so that a file's type is known.
+class DesktopCommand : public DesktopFolders {
+protected:
+    void SetUp() override {
+        SetDesktopOpener({});
+        SetAssociationLookup({});
+        SetDesktopLauncher({});
+        ASSERT_TRUE(QDir().mkpath(bin()));
+        ASSERT_NE(kMimeDatabase, ".") << "no MIME database (package shared-mime-info)";
+        ASSERT_TRUE(QDir().mkpath(system()));
+        ASSERT_TRUE(QFile::link(kMimeDatabase, system() + "/mime"));
+    }
+    QString bin() const { return dir_.path() + "/bin"; }
+    // An xdg-open that writes what it was given to a file.
+    void installXdgOpen() {
+        writeExecutable(bin() + "/xdg-open",
+                        "#!/bin/sh\nprintf '%s' \"$1\" > '" + record().toLocal8Bit() + "'\n");
+    }
+    QString record() const { return dir_.path() + "/xdg-open-was-given"; }
+    QString textFile() {
+        const QString file = dir_.path() + "/notes.txt";
+        writeFile(file, "text");
+        return file;
+    }
+
+    ScopedEnv path_{"PATH", bin().toLocal8Bit()};
 };
 
 // The default opener with its look-up and its launcher replaced by records.
@@ -137,4 +176,45 @@ TEST_F(DefaultOpener, ReportingAFileThatNoApplicationOpensShowsTheAssociationTex
               QStringList({"critical: Il sistema in uso non presenta alcuna associazione per "
                            "questo tipo di file\r\r"}));
     EXPECT_TRUE(launched.isEmpty());
+}
+
+TEST_F(DesktopCommand, WithoutXdgOpenTheMessageNamesTheMissingProgramAndItsPackage) {
+    // An application opens the file's type: only the opener command is missing.
+    desktopFile(system(), "viewer.desktop");
+    writeFile(system() + "/applications/mimeinfo.cache",
+              "[MIME Cache]\ntext/plain=viewer.desktop;\n");
+    const QString file = textFile();
+    RecordingPrompter prompter;
+    EXPECT_EQ(ShellOpenReport(prompter, file, "", "", 0), OpenerMissingCode);
+    EXPECT_EQ(prompter.shown,
+              QStringList({"critical: notes.txt cannot be opened: the program that opens files, "
+                           "xdg-open, is not installed.\n\nIt comes with the package xdg-utils; "
+                           "install it (for example with \"sudo apt install xdg-utils\") and "
+                           "try again."}));
+    // An address cannot be handed over either; the quiet opener only logs it.
+    EXPECT_EQ(DesktopOpen("http://quovara.example.org/"), OpenerMissingCode);
+    ShellOpen("http://quovara.example.org/");
+    // The table of the platform's values has no text for it.
+    EXPECT_EQ(ShellOpenFailureText(OpenerMissingCode, ""), "");
+}
+
+TEST_F(DesktopCommand, WithXdgOpenAFileThatNoApplicationOpensKeepsTheAssociationText) {
+    installXdgOpen();
+    const QString file = textFile();
+    ASSERT_EQ(MimeTypesOfFile(file).value(0), "text/plain");
+    RecordingPrompter prompter;
+    EXPECT_EQ(ShellOpenReport(prompter, file, "", "", 0), 31);
+    EXPECT_EQ(prompter.shown,
+              QStringList({"critical: Il sistema in uso non presenta alcuna associazione per "
+                           "questo tipo di file\r\r"}));
+    QTest::qWait(200);
+    EXPECT_FALSE(QFileInfo::exists(record())) << "the file was handed over for nothing";
+
+    // Once an application opens the type, the same file goes to xdg-open.
+    desktopFile(system(), "viewer.desktop", "MimeType=text/plain;\n");
+    prompter.shown.clear();
+    EXPECT_EQ(ShellOpenReport(prompter, file, "", "", 0), 42);
+    EXPECT_TRUE(prompter.shown.isEmpty());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return QFileInfo(record()).size() > 0; }, 5000));
+    EXPECT_EQ(readAll(record()), file.toLocal8Bit());
 }

@@ -2,7 +2,8 @@
 # Builds the Debian package with CPack into a temporary folder, unpacks it with dpkg -x and
 # checks what it holds: the program, the desktop entry (desktop-file-validate) and the
 # file-manager actions with their command lines, the MIME type, the AppStream metainfo
-# (appstreamcli validate), the manual page and the dependencies on the Qt 6 libraries.
+# (appstreamcli validate), the manual page and the dependencies on the Qt 6 libraries and on
+# xdg-utils (xdg-open opens files).
 # Usage: check-package.sh <cpack> <build folder> <version>.
 # Exit 77: a needed tool is missing (skipped; scripts/deps.sh installs them all).
 set -uo pipefail
@@ -54,7 +55,7 @@ grep -qx '  quovara --install-engine puts it in place.' <<<"$info" ||
     fail "the long description: $(printf '%s\n' "$info" | sed -n '/Description:/,/^ [A-Z]/p')"
 depends="$(field Depends)"
 echo "Depends: $depends"
-for lib in libqt6core6 libqt6gui6 libqt6widgets6 libc6 libstdc++6; do
+for lib in libqt6core6 libqt6gui6 libqt6widgets6 libqt6dbus6 libc6 libstdc++6 xdg-utils; do
     grep -q "^ *$lib\b" <<<"${depends//,/$'\n'}" || fail "Depends lacks $lib"
 done
 

@@ -1,12 +1,17 @@
 // `quovara --extract-here`: each archive extracted beside itself through its progress window,
-// in the three layouts, never over anything that exists, with its name on every message.
+// in the three layouts, never over anything that exists, with its name on every message, and
+// told of by a desktop notification when the user is at another program.
 #include "mainwindow_fixture.h"
 
+#include "core/notifications.h"
+#include "elsewhere.h"
+#include "fake_notifications.h"
 #include "ui/jobs/extractherejob.h"
 
 #include <QLockFile>
 #include <QProcess>
 #include <QScreen>
+#include <QTimer>
 #include <unistd.h>
 
 namespace quovara::testing {
@@ -56,6 +61,43 @@ TEST_F(ExtractHere, AnArchiveOfOneFolderIsExtractedAsItIs) {
     EXPECT_TRUE(prompter_.shown.isEmpty()) << prompter_.shown.join('|').toStdString();
     // The main window never showed.
     EXPECT_FALSE(window_.isVisible());
+}
+
+TEST_F(ExtractHere, WhileTheUserIsElsewhereEachArchiveIsToldOfWithTheFolderItWentTo) {
+    PrivateBus bus;
+    if (bus.address().isEmpty())
+        GTEST_SKIP() << bus.problem().toStdString();
+    FakeNotificationService service(bus.address());
+    ASSERT_TRUE(service.registered());
+    DesktopNotifications::instance().useBus(bus.address());
+    const QString folder = oneFolder();
+    const QString file = oneFile();
+    // The user goes to another program as soon as each progress window has shown.
+    ScopedEnv delay("QUOVARA_STANDIN_DELAY_MS", "300");
+    AnotherProgramsWindow elsewhere;
+    QTimer watch;
+    watch.setInterval(10);
+    QObject::connect(&watch, &QTimer::timeout, [&] {
+        if (QApplication::activeWindow() &&
+            QApplication::activeWindow()->objectName() == "frmExtracting")
+            elsewhere.requestFocus();
+    });
+    watch.start();
+    EXPECT_EQ(window_.ExtractHere({folder, file}), 0);
+    watch.stop();
+    EXPECT_TRUE(prompter_.shown.isEmpty()) << prompter_.shown.join('|').toStdString();
+    ASSERT_TRUE(waitFor([&] { return service.notices.size() == 2; }));
+    // The folder the archive's one folder became, and the folder beside its one file.
+    EXPECT_EQ(service.notices[0].summary, "Extraction of holiday.uha finished");
+    EXPECT_EQ(service.notices[0].body, "Extracted to " + here_ + "/Holiday");
+    EXPECT_EQ(service.notices[0].actions, QStringList({"open-folder", "Open folder"}));
+    EXPECT_EQ(service.notices[1].summary, "Extraction of report.uha finished");
+    EXPECT_EQ(service.notices[1].body, "Extracted to " + here_);
+    opened_.clear();
+    service.chooseButton(service.notices[0].id, "open-folder");
+    ASSERT_TRUE(waitFor([&] { return !opened_.isEmpty(); }));
+    EXPECT_EQ(opened_, QStringList({here_ + "/Holiday"}));
+    DesktopNotifications::instance().useBus(QString());
 }
 
 TEST_F(ExtractHere, AnArchiveOfOneFileIsExtractedAsItIs) {

@@ -1,5 +1,5 @@
 // The main window's single items: the "No item selected" message, the hand over what can be
-// clicked, and a run of a file that no application opens.
+// clicked, a run of a file that no application opens, and one where xdg-open is missing.
 #include "mainwindow_fixture.h"
 
 #include "ui/common/handcursor.h"
@@ -74,5 +74,25 @@ TEST_F(MainWindow, RunningAFileThatNoApplicationOpensSaysSoInItalian) {
     EXPECT_EQ(prompter_.shown,
               QStringList({"critical: Il sistema in uso non presenta alcuna associazione per "
                            "questo tipo di file\r\r"}));
+    EXPECT_EQ(text("Stato"), "Quovara is ready");
+}
+
+TEST_F(MainWindow, RunningAFileWithoutXdgOpenSaysWhichPackageToInstall) {
+    const QString archive = makeArchive(kSix, "plain.uha");
+    ASSERT_TRUE(window_.Form_Load(archive));
+    show();
+    clickItem(ScratchFolder() + "/root.txt");
+    ASSERT_EQ(window_.selectedItem(), "root.txt");
+    // The desktop's own opener, on a PATH where no xdg-open lies.
+    SetDesktopOpener({});
+    QTemporaryDir noPrograms;
+    ScopedEnv path("PATH", noPrograms.path().toLocal8Bit());
+    QTest::mouseClick(child<QPushButton>("EseFile"), Qt::LeftButton);
+    EXPECT_EQ(readAll(WorkFolder() + "/root.txt"), QByteArray("root file"));
+    EXPECT_EQ(prompter_.shown,
+              QStringList({"critical: root.txt cannot be opened: the program that opens files, "
+                           "xdg-open, is not installed.\n\nIt comes with the package xdg-utils; "
+                           "install it (for example with \"sudo apt install xdg-utils\") and "
+                           "try again."}));
     EXPECT_EQ(text("Stato"), "Quovara is ready");
 }

@@ -93,9 +93,11 @@ QList<QUrl> frmApri::extractForDrag(const DragRequest& request,
         return {};
     }
     // The outcome is worked out as soon as the window unloads: a target that asked again
-    // meanwhile waits for it further up the stack.
+    // meanwhile waits for it further up the stack. No notification tells of the end: the drop
+    // target shows the files.
     QList<QUrl> urls;
-    RunJobWindow(JobKind::Extract, *this, request.archive, [&](bool succeeded) {
+    JobWindowRun run{request.archive, {}, EndNotice::None};
+    run.onEnd = [&](bool succeeded) {
         if (!succeeded) {
             // Failed or stopped: what the engine wrote goes, and the target is given nothing.
             DiscardExtractStaging(staging);
@@ -110,7 +112,8 @@ QList<QUrl> frmApri::extractForDrag(const DragRequest& request,
             }
         }
         deliver(urls);
-    });
+    };
+    RunJobWindow(JobKind::Extract, *this, run);
     reportLeftOut();
     return urls;
 }

@@ -1,6 +1,7 @@
 #include "extractherejob.h"
 
 #include "frmprogress.h"
+#include "jobnotice.h"
 
 #include "core/places.h"
 #include "core/processcontrol.h"
@@ -149,17 +150,30 @@ Outcome ExtractOne(frmApri& main, Prompter& outer, const QString& given) {
         DiscardExtractStaging(staging);
         return Outcome::NotExtracted;
     }
-    if (!RunJobWindow(JobKind::Extract, main, path)) {
+    // The window tells an absent user of a failure or a stop; of a finished extraction this
+    // job tells once the files stand where they go.
+    JobWindowRun run{path, {}, EndNotice::FailuresOnly};
+    if (!RunJobWindow(JobKind::Extract, main, run)) {
         // Failed or stopped: the window has said why; nothing it wrote is kept.
         DiscardExtractStaging(staging);
         return Outcome::NotExtracted;
     }
     const PlacedExtraction placed = PlaceExtraction(staging, path);
     if (!placed.ok) {
-        prompter.critical(QString::fromLatin1(extract_here::NotPlaced).arg(placed.problem));
+        const QString problem = QString::fromLatin1(extract_here::NotPlaced).arg(placed.problem);
+        if (run.awayAtEnd)
+            NotifyJobEnd({JobKind::Extract, JobOutcome::Failed, path, problem, QString()});
+        prompter.critical(problem);
         return Outcome::NotExtracted;
     }
     qCDebug(lcExtractHere) << path << "extracted to" << placed.placedPath;
+    if (run.awayAtEnd) {
+        // A single file placed beside the archive is shown in the archive's folder.
+        const QFileInfo placedInfo(placed.placedPath);
+        NotifyJobEnd(
+            {JobKind::Extract, JobOutcome::Finished, path, QString(),
+             placedInfo.isDir() ? placedInfo.absoluteFilePath() : placedInfo.absolutePath()});
+    }
     if (!unsafe.isEmpty()) {
         prompter.critical(LeftOutMessage(unsafe));
         return Outcome::PartlyExtracted;

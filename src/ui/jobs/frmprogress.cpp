@@ -246,6 +246,7 @@ void frmProgress::closeEvent(QCloseEvent* event) {
     event->accept();
     if (!unloaded_) {
         qCDebug(lcJobWindow) << "closed by the user";
+        tellEnd(JobOutcome::Stopped);
         Form_Unload();
         main_.setVisible(true);
         if (!stopReport_.isEmpty())
@@ -284,18 +285,25 @@ bool RunJobWindow(JobKind kind, frmApri& main, const QString& archivePath) {
 
 bool RunJobWindow(JobKind kind, frmApri& main, const QString& archivePath,
                   const std::function<void(bool succeeded)>& onEnd) {
+    JobWindowRun run{archivePath, onEnd};
+    return RunJobWindow(kind, main, run);
+}
+
+bool RunJobWindow(JobKind kind, frmApri& main, JobWindowRun& run) {
     const ProgressKind* row = ProgressKindOf(kind);
     if (!row) {
         qCWarning(lcJobWindow) << "no progress window for job kind" << int(kind);
-        if (onEnd)
-            onEnd(false);
+        if (run.onEnd)
+            run.onEnd(false);
         return false;
     }
-    frmProgress window(*row, main, archivePath);
-    if (onEnd)
+    frmProgress window(*row, main, run.archivePath);
+    window.setEndNotice(run.notice);
+    if (run.onEnd)
         QObject::connect(&window, &frmProgress::unloaded, &window,
-                         [&window, &onEnd] { onEnd(window.succeeded()); });
+                         [&window, &run] { run.onEnd(window.succeeded()); });
     window.exec();
+    run.awayAtEnd = window.userAwayAtEnd();
     return window.succeeded();
 }
 

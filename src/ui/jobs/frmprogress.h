@@ -2,11 +2,13 @@
 // apart by a small job-kind table. The window starts its job script itself, follows the engine's
 // console output (das.txt) until the engine has ended, reports the first engine error, and on
 // closing stops the engine and cleans up. Minimising it sends it to the notification area
-// (the tray icon).
+// (the tray icon). A job that ends while the user is not looking at the program is told of with a
+// desktop notification (jobnotice.h).
 #pragma once
 
 #include "core/jobkind.h"
 #include "engine/consolereader.h"
+#include "jobnotice.h"
 #include "trayicon.h"
 
 #include <QDateTime>
@@ -42,6 +44,27 @@ bool RunJobWindow(JobKind kind, frmApri& main, const QString& archivePath);
 // again in a nested event loop) learns of the end at once.
 bool RunJobWindow(JobKind kind, frmApri& main, const QString& archivePath,
                   const std::function<void(bool succeeded)>& onEnd);
+
+// Which ends of a job a desktop notification tells of, when the user is not looking at the
+// program as it ends.
+enum class EndNotice {
+    All,
+    // Failures and stops only: the caller tells of a finished job itself, once its own work
+    // after the job is done (Extract Here places the files first).
+    FailuresOnly,
+    // None: a drag's extraction, whose files the drop target shows.
+    None,
+};
+
+// One run of a job window, for callers that need more than the outcome.
+struct JobWindowRun {
+    QString archivePath; // as for RunJobWindow
+    std::function<void(bool succeeded)> onEnd;
+    EndNotice notice = EndNotice::All;
+    // Filled in: the user was not looking at the program as the job ended.
+    bool awayAtEnd = false;
+};
+bool RunJobWindow(JobKind kind, frmApri& main, JobWindowRun& run);
 
 // Texts of the windows.
 namespace progress {
@@ -118,6 +141,10 @@ public:
     // The job came to its normal end: the engine finished without an error.
     bool succeeded() const { return succeeded_; }
     TrayIcon& trayIcon() { return *tray_; }
+    // Which ends a notification tells of (every end unless set before the job ends).
+    void setEndNotice(EndNotice notice) { endNotice_ = notice; }
+    // The user was not looking at the program as the job ended.
+    bool userAwayAtEnd() const { return awayAtEnd_; }
     const ProgressState& timeState() const { return time_; }
     const ConsoleState* consoleState() const;
 
@@ -144,6 +171,12 @@ private:
     void errorEnding(const QString& message, bool showMain);
     void normalEnding();
     void endWithMessage(const QString& message);
+    // Tells a user who is not looking at the program how the job ended (once, before any
+    // message of the end takes the focus).
+    void tellEnd(JobOutcome outcome, const QString& reason = QString());
+    // The folder an extraction wrote into: its job script's target, else the folder the engine
+    // worked in.
+    QString extractDestination() const;
     void Timer1_Timer();
     void refreshTip();
     void onTrayClick(TrayClick click);
@@ -187,6 +220,9 @@ private:
     QString stopReport_;
     // The clean-up registered for the program's end by a signal while the job runs.
     int terminationWork_ = 0;
+    EndNotice endNotice_ = EndNotice::All;
+    bool endTold_ = false;
+    bool awayAtEnd_ = false;
 
     std::unique_ptr<JobProcess> job_;
     std::unique_ptr<ConsoleReader> reader_;

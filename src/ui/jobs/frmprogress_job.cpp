@@ -158,6 +158,7 @@ void frmProgress::handleError(const ConsoleState& state) {
         m.trimmed() == QLatin1String("Can't create archive file")) {
         // The engine's error is what the user asked for: no error box.
         stopFollowing();
+        tellEnd(JobOutcome::Stopped);
         main_.prompter().information(QString::fromLatin1(progress::ArchiveKept));
         if (unloaded_)
             return;
@@ -286,6 +287,7 @@ void frmProgress::stopFollowing() {
 
 void frmProgress::errorEnding(const QString& message, bool showMain) {
     stopFollowing();
+    tellEnd(JobOutcome::Failed, shown(message));
     main_.prompter().critical(shown(message));
     if (unloaded_)
         return; // closed while the message was up
@@ -297,6 +299,7 @@ void frmProgress::errorEnding(const QString& message, bool showMain) {
 void frmProgress::normalEnding() {
     stopFollowing();
     succeeded_ = true;
+    tellEnd(JobOutcome::Finished);
     if (kind_.endMessage)
         main_.prompter().information(QString::fromLatin1(kind_.endMessage));
     if (unloaded_)
@@ -307,6 +310,7 @@ void frmProgress::normalEnding() {
 
 void frmProgress::endWithMessage(const QString& message) {
     stopFollowing();
+    tellEnd(JobOutcome::Failed, message);
     main_.prompter().critical(message);
     if (unloaded_)
         return;

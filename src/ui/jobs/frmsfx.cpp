@@ -1,10 +1,13 @@
 #include "frmsfx.h"
 
+#include "jobnotice.h"
+
 #include "core/enginefiles.h"
 #include "core/places.h"
 #include "core/prompter.h"
 
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFrame>
@@ -62,11 +65,13 @@ QString PlatformSfxSaveDialog(QWidget* parent, const SfxSaveRequest& request) {
 
 namespace {
 
-// The assembly speaks to the main window's state and hint lines and to the user.
+// The assembly speaks to the main window's state and hint lines and to the user; its closing
+// message (success or failure) is first handed to `onEnd`.
 class LabelFeedback : public SfxFeedback {
 public:
-    LabelFeedback(QLabel* stato, QLabel* consiglio, Prompter& prompter)
-        : stato_(stato), consiglio_(consiglio), prompter_(prompter) {}
+    using EndHandler = std::function<void(bool created, const QString& text)>;
+    LabelFeedback(QLabel* stato, QLabel* consiglio, Prompter& prompter, EndHandler onEnd = {})
+        : stato_(stato), consiglio_(consiglio), prompter_(prompter), onEnd_(std::move(onEnd)) {}
     void setState(const QString& text) override {
         if (stato_)
             stato_->setText(text);
@@ -82,13 +87,22 @@ public:
         if (consiglio_)
             consiglio_->repaint();
     }
-    void information(const QString& text) override { prompter_.information(text); }
-    void critical(const QString& text) override { prompter_.critical(text); }
+    void information(const QString& text) override {
+        if (onEnd_)
+            onEnd_(true, text);
+        prompter_.information(text);
+    }
+    void critical(const QString& text) override {
+        if (onEnd_)
+            onEnd_(false, text);
+        prompter_.critical(text);
+    }
 
 private:
     QLabel* stato_;
     QLabel* consiglio_;
     Prompter& prompter_;
+    EndHandler onEnd_;
 };
 
 // A text box's text the way the stub reads it: line breaks as CR LF.
@@ -391,7 +405,16 @@ void frmSFX::cmdOk_Click() {
     if ((existing.exists() || existing.isSymLink()) && !QFile::remove(output))
         qCDebug(lcSfxDialog) << "could not delete the existing file" << output;
 
-    LabelFeedback feedback(stato_, consiglio_, prompter_);
+    // A user who went elsewhere while the SFX was made is told how it ended. The build held
+    // the event loop: what the desktop said meanwhile (another window activated) is taken in
+    // first.
+    LabelFeedback feedback(
+        stato_, consiglio_, prompter_, [this, output](bool made, const QString& text) {
+            QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+            if (UserIsAway(this))
+                NotifyJobEnd({JobKind::SfxBuild, made ? JobOutcome::Finished : JobOutcome::Failed,
+                              archivePath_, made ? QString() : text, made ? output : QString()});
+        });
     created_ = BuildSfx(output, archivePath_, folder, settings(), feedback);
     // A failure has been reported; the dialog stays open with its texts, so that the user
     // can put the missing file in place and try again.
