@@ -10,15 +10,21 @@
 #include "core/places.h"
 #include "ui/browser/filebrowser.h"
 #include "ui/browser/frmapri.h"
+#include "ui/common/foldertree.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
+#include <QCheckBox>
 #include <QCoreApplication>
+#include <QDialog>
 #include <QElapsedTimer>
 #include <QFileSystemModel>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProcess>
+#include <QPushButton>
 #include <QTest>
+#include <QTimer>
 #include <functional>
 #include <gtest/gtest.h>
 
@@ -142,6 +148,26 @@ protected:
     }
 
     bool archiveLayout() { return !child<TaskPaneBar>("Barra")->isHidden(); }
+
+    // Runs the window's own Extract dialog for the open archive into `destination`, with the
+    // stored folders. The dialog opens modally: it is driven from the event loop, as a user
+    // would.
+    void extractWithTheWindowInto(const QString& destination) {
+        QTimer poll;
+        poll.setInterval(20);
+        QObject::connect(&poll, &QTimer::timeout, [&] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (!dialog || dialog->objectName() != "frmEstrai" || !dialog->isVisible())
+                return;
+            poll.stop();
+            auto* tree = dialog->findChild<FolderTree*>("FolderView1");
+            ASSERT_TRUE(tree->selectPath(destination, 2000));
+            QTest::mouseClick(dialog->findChild<QCheckBox*>("Check3"), Qt::LeftButton);
+            QTest::mouseClick(dialog->findChild<QPushButton*>("Command2"), Qt::LeftButton);
+        });
+        poll.start();
+        window_.realExtractDialog(false);
+    }
 
     // Types `pattern` into the search box and presses Enter; true once the search has ended.
     bool searchWithEnter(const QString& pattern) {

@@ -59,23 +59,6 @@ protected:
         QDir().mkpath(QFileInfo(path).absolutePath());
         return makeArchiveOf(kSix, src_, path);
     }
-    // Runs the Extract window of the open archive into `destination`, with paths.
-    void extractWithTheWindowInto(const QString& destination) {
-        QTimer poll;
-        poll.setInterval(20);
-        QObject::connect(&poll, &QTimer::timeout, [&] {
-            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            if (!dialog || dialog->objectName() != "frmEstrai" || !dialog->isVisible())
-                return;
-            poll.stop();
-            auto* tree = dialog->findChild<FolderTree*>("FolderView1");
-            ASSERT_TRUE(tree->selectPath(destination, 2000));
-            QTest::mouseClick(dialog->findChild<QCheckBox*>("Check3"), Qt::LeftButton);
-            QTest::mouseClick(dialog->findChild<QPushButton*>("Command2"), Qt::LeftButton);
-        });
-        poll.start();
-        window_.realExtractDialog(false);
-    }
     ScopedEnv wine_{"QUOVARA_WINE", kWine.toUtf8()};
     ScopedEnv server_{"QUOVARA_WINESERVER", (QDir::tempPath() + "/none").toUtf8()};
 };

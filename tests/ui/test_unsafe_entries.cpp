@@ -177,21 +177,7 @@ TEST_F(UnsafeEntries, TheExtractWindowExtractsTheGoodEntriesWithTheirPathsAndNam
     prompter_.shown.clear();
     const QString out = places_.path() + "/x/out";
     QDir().mkpath(out);
-    // The dialog opens modally: it is driven from the event loop, as a user would.
-    QTimer poll;
-    poll.setInterval(20);
-    QObject::connect(&poll, &QTimer::timeout, [&] {
-        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (!dialog || dialog->objectName() != "frmEstrai" || !dialog->isVisible())
-            return;
-        poll.stop();
-        auto* tree = dialog->findChild<FolderTree*>("FolderView1");
-        ASSERT_TRUE(tree->selectPath(out, 2000));
-        QTest::mouseClick(dialog->findChild<QCheckBox*>("Check3"), Qt::LeftButton);
-        QTest::mouseClick(dialog->findChild<QPushButton*>("Command2"), Qt::LeftButton);
-    });
-    poll.start();
-    window_.realExtractDialog(false);
+    extractWithTheWindowInto(out);
     EXPECT_EQ(folderEntries(out), QStringList({"good.txt", "sub"}));
     EXPECT_EQ(readAll(out + "/sub/inner.txt"), "inner");
     EXPECT_EQ(prompter_.shown.value(0),
