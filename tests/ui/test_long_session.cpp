@@ -2,8 +2,12 @@
 // (bench/soak.sh measures the whole session's memory).
 #include "mainwindow_fixture.h"
 
+#include "ui/browser/fileicons.h"
+
+#include <QAbstractFileIconProvider>
 #include <QHeaderView>
 #include <QItemSelectionModel>
+#include <QTemporaryDir>
 #include <QTreeView>
 
 using namespace quovara;
@@ -34,4 +38,22 @@ TEST_F(MainWindow, LeavingAndOpeningAnArchiveAgainKeepsNoSelectionModels) {
     clickItem(ScratchFolder() + "/root.txt");
     EXPECT_EQ(window_.selectedItem(), "root.txt");
     EXPECT_TRUE(prompter_.shown.isEmpty()) << prompter_.shown.join('|').toStdString();
+}
+
+TEST(FileIcons, EveryFolderAndEveryArchiveShareOneIcon) {
+    QTemporaryDir dir;
+    ASSERT_TRUE(QDir(dir.path()).mkpath("a") && QDir(dir.path()).mkpath("b"));
+    writeFile(dir.filePath("x.uha"), "UHA");
+    writeFile(dir.filePath("y.uha"), "UHA");
+    QAbstractFileIconProvider* icons = SharedFileIconProvider();
+    const QIcon folder = icons->icon(QFileInfo(dir.filePath("a")));
+    const QIcon archive = icons->icon(QFileInfo(dir.filePath("x.uha")));
+    ASSERT_FALSE(folder.isNull());
+    ASSERT_FALSE(archive.isNull());
+    // The same icon, not one drawn and cached afresh for each item.
+    EXPECT_EQ(icons->icon(QFileInfo(dir.filePath("b"))).cacheKey(), folder.cacheKey());
+    EXPECT_EQ(icons->icon(QFileInfo(dir.filePath("a"))).cacheKey(), folder.cacheKey());
+    EXPECT_EQ(icons->icon(QAbstractFileIconProvider::Folder).cacheKey(), folder.cacheKey());
+    EXPECT_EQ(icons->icon(QFileInfo(dir.filePath("y.uha"))).cacheKey(), archive.cacheKey());
+    EXPECT_NE(archive.cacheKey(), folder.cacheKey());
 }
