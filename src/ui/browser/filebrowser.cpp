@@ -136,6 +136,15 @@ void FileBrowser::setArchiveDetails(std::shared_ptr<const ArchiveDetails> detail
         QItemSelectionModel* old = tree_->selectionModel();
         tree_->setModel(on ? static_cast<QAbstractItemModel*>(details_) : model_);
         delete old;
+        // The header makes a selection model of its own for the new model, then takes the
+        // tree's and keeps its own, connected to the model: one more at every switch between
+        // an archive and a folder, for as long as the window lives.
+        QHeaderView* header = tree_->header();
+        for (QItemSelectionModel* own :
+             header->findChildren<QItemSelectionModel*>(Qt::FindDirectChildrenOnly)) {
+            if (own != header->selectionModel())
+                delete own;
+        }
         watchSelection(tree_);
         // Each archive starts in names' order, and so does the file system after one.
         tree_->sortByColumn(0, Qt::AscendingOrder);

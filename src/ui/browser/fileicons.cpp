@@ -20,17 +20,25 @@ public:
     QIcon icon(const QFileInfo& info) const override {
         if (info.isDir())
             return folderIcon();
-        if (info.suffix() == QLatin1String("uha"))
-            return QIcon::fromTheme(QStringLiteral("package-x-generic"),
-                                    QIcon(QStringLiteral(":/icons/archive.svg")));
+        if (info.suffix() == QLatin1String("uha")) {
+            if (archive_.isNull())
+                archive_ = QIcon::fromTheme(QStringLiteral("package-x-generic"),
+                                            QIcon(QStringLiteral(":/icons/archive.svg")));
+            return archive_;
+        }
         const QMimeType mime = mimes_.mimeTypeForFile(info, QMimeDatabase::MatchExtension);
         return fileIcon(mime.iconName(), mime.genericIconName());
     }
 
 private:
-    static QIcon folderIcon() {
-        return QIcon::fromTheme(QStringLiteral("folder"),
-                                QIcon(QStringLiteral(":/icons/folder.svg")));
+    // Every folder (and every archive) shares one icon: each new icon would draw its pictures
+    // afresh and leave them in the program's picture cache under a key of its own, a few more
+    // at every listing and every change of folder.
+    QIcon folderIcon() const {
+        if (folder_.isNull())
+            folder_ = QIcon::fromTheme(QStringLiteral("folder"),
+                                       QIcon(QStringLiteral(":/icons/folder.svg")));
+        return folder_;
     }
 
     QIcon fileIcon(const QString& name, const QString& generic = QString()) const {
@@ -49,6 +57,8 @@ private:
 
     QMimeDatabase mimes_;
     mutable QHash<QString, QIcon> cache_;
+    mutable QIcon folder_;
+    mutable QIcon archive_;
 };
 
 } // namespace

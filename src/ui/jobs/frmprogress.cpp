@@ -14,6 +14,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QGroupBox>
+#include <QHash>
+#include <QIcon>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QLoggingCategory>
@@ -81,6 +83,18 @@ void looksLikeLabel(QLineEdit* t) {
                                     " padding: 0px; }"));
 }
 
+// The window's own icon, one for each kind for the whole session: a new icon for every job's
+// window would be drawn afresh in each size the desktop asks for and left in the program's
+// picture cache under a key of its own.
+QIcon KindIcon(const char* path) {
+    static QHash<QString, QIcon> icons;
+    const QString key = QLatin1String(path);
+    auto it = icons.constFind(key);
+    if (it == icons.constEnd())
+        it = icons.insert(key, QIcon(key));
+    return *it;
+}
+
 } // namespace
 
 const ProgressKind* ProgressKindOf(JobKind kind) {
@@ -101,7 +115,7 @@ frmProgress::frmProgress(const ProgressKind& kind, frmApri& main, const QString&
     SetTrayUsed(false);
     setObjectName(QLatin1String(kind.formName));
     setWindowTitle(QLatin1String(kind.caption));
-    setWindowIcon(QIcon(QLatin1String(kind.icon)));
+    setWindowIcon(KindIcon(kind.icon));
     setAttribute(Qt::WA_QuitOnClose, false);
     time_.startTime = QDateTime::currentDateTime();
     scriptPath_ = WorkFile(kind.script);

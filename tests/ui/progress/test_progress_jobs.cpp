@@ -45,6 +45,21 @@ protected:
 
 } // namespace
 
+TEST_F(ProgressJobs, TheWindowsOfOneKindShareOneIconForTheWholeSession) {
+    // Made again for each job, an icon would be drawn and cached again for each window.
+    QIcon first;
+    {
+        frmProgress w(*ProgressKindOf(JobKind::Test), *bench.main, bench.places.path() + "/a.uha");
+        first = w.windowIcon();
+    }
+    ASSERT_FALSE(first.isNull());
+    frmProgress again(*ProgressKindOf(JobKind::Test), *bench.main, bench.places.path() + "/a.uha");
+    EXPECT_EQ(again.windowIcon().cacheKey(), first.cacheKey());
+    frmProgress other(*ProgressKindOf(JobKind::Extract), *bench.main,
+                      bench.places.path() + "/a.uha");
+    EXPECT_NE(other.windowIcon().cacheKey(), first.cacheKey());
+}
+
 TEST_F(ProgressJobs, TheTableGivesEachWindowItsCaptionScriptAndControls) {
     struct Row {
         JobKind kind;
