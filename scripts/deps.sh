@@ -28,7 +28,9 @@ if [ "$(id -u)" -ne 0 ]; then sudo="sudo"; fi
 export DEBIAN_FRONTEND=noninteractive
 if [ ${#missing[@]} -gt 0 ]; then
     echo "Installing: ${missing[*]}"
-    $sudo apt-get update -qq
+    # A mirror in the middle of a sync can fail one index (of another architecture, say):
+    # the install below still finds what it needs, or fails itself.
+    $sudo apt-get update -qq || echo "apt-get update reported errors; installing anyway" >&2
     $sudo apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 fi
 
