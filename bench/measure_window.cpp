@@ -19,6 +19,7 @@
 #include "ui/browser/filebrowser.h"
 #include "ui/browser/findfile.h"
 #include "ui/browser/frmapri.h"
+#include "window_bench.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -45,28 +46,6 @@ using namespace quovara;
 using namespace quovara::bench;
 
 namespace {
-
-// Message boxes are printed, never shown: a measurement has nobody to answer them.
-class PrintingPrompter : public Prompter {
-public:
-    void critical(const QString& t) override { say("critical", t); }
-    void exclamation(const QString& t) override { say("exclamation", t); }
-    void information(const QString& t) override { say("information", t); }
-    void plain(const QString& t) override { say("plain", t); }
-    QString askPassword(const QString& t) override {
-        say("prompt", t);
-        return QString();
-    }
-    bool question(const QString& t) override {
-        say("question", t);
-        return false;
-    }
-
-private:
-    static void say(const char* kind, const QString& text) {
-        std::fprintf(stderr, "[%s] %s\n", kind, qPrintable(text));
-    }
-};
 
 // A line of /proc/self/status in MiB ("VmHWM", "VmRSS").
 double statusMiB(const char* key) {
@@ -144,21 +123,6 @@ double median(std::vector<double> v) {
     return v[v.size() / 2];
 }
 
-// Waits, with the event loop running, until the WorkFolder's predecessors moved aside at
-// start-up or at a new listing have been deleted in the background.
-void waitForBackgroundDeletes() {
-    const QString prefix = QFileInfo(WorkFolder()).fileName() + QStringLiteral(".old-");
-    const QDir root(TempRoot());
-    auto leftovers = [&] {
-        return !root.entryList({prefix + QLatin1Char('*')}, QDir::Dirs | QDir::Hidden).isEmpty() ||
-               !QDir(WorkFolder())
-                    .entryList({QStringLiteral("*.old-*")}, QDir::Dirs | QDir::Hidden)
-                    .isEmpty();
-    };
-    while (leftovers())
-        QTest::qWait(50);
-}
-
 double runProcess(const QString& program, const QStringList& args, Cpu* cpu = nullptr) {
     QProcess p;
     p.setStandardOutputFile(QProcess::nullDevice());
@@ -177,7 +141,7 @@ double runProcess(const QString& program, const QStringList& args, Cpu* cpu = nu
 
 int lockCount = 0;
 
-std::unique_ptr<frmApri> newWindow(PrintingPrompter& prompter, const QString& base) {
+std::unique_ptr<frmApri> newWindow(BenchPrompter& prompter, const QString& base) {
     auto w = std::make_unique<frmApri>();
     w->setPrompter(&prompter);
     w->setInstanceLockPath(base + QStringLiteral("/lock%1").arg(++lockCount));
@@ -185,7 +149,7 @@ std::unique_ptr<frmApri> newWindow(PrintingPrompter& prompter, const QString& ba
 }
 
 // Construction, start-up and show up to the first paint of the main window, in ms.
-double startToFirstPaint(PrintingPrompter& prompter, const QString& base) {
+double startToFirstPaint(BenchPrompter& prompter, const QString& base) {
     struct FirstPaint : QObject {
         QWidget* window = nullptr;
         bool painted = false;
@@ -262,7 +226,7 @@ int main(int argc, char** argv) {
     }
     std::printf("base folder: %s, entries: %d, rounds: %d\n", qPrintable(base), count, rounds);
 
-    PrintingPrompter prompter;
+    BenchPrompter prompter(true);
     auto window = newWindow(prompter, base);
     if (!window->Form_Load(QString()))
         return 1;
@@ -281,7 +245,7 @@ int main(int argc, char** argv) {
     // waiting to be written, so neither phase pays for the other. A disk with a budget of
     // operations favours whatever runs first, so the two phases swap places every round.
     auto quiet = [] {
-        waitForBackgroundDeletes();
+        WaitForBackgroundDeletes();
         ::sync();
     };
     for (int r = 0; r < rounds; ++r) {
@@ -334,7 +298,7 @@ int main(int argc, char** argv) {
                     r + 1, ms, engineMs, bareMs, engineMs + bareMs, ms / (engineMs + bareMs),
                     gaps.back(), countsShown, before, peaks.back());
     }
-    waitForBackgroundDeletes();
+    WaitForBackgroundDeletes();
     QTest::qWait(200);
     const double idle = statusMiB("VmRSS");
     std::printf("OPEN: median %.1f ms against a median baseline of %.1f ms: ratio %.2f "
@@ -527,18 +491,18 @@ int main(int argc, char** argv) {
     window.reset();
     std::vector<double> after, clean;
     for (int r = 0; r < rounds; ++r) {
-        waitForBackgroundDeletes();
+        WaitForBackgroundDeletes();
         if (!QFileInfo(ScratchFolder()).isDir() ||
             QDir(ScratchFolder()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries).isEmpty())
             bareRun(entries, QFile::encodeName(ScratchFolder()));
         after.push_back(startToFirstPaint(prompter, base));
-        waitForBackgroundDeletes();
+        WaitForBackgroundDeletes();
         QDir(WorkFolder()).removeRecursively();
         clean.push_back(startToFirstPaint(prompter, base));
         std::printf("start %d: after a session %.1f ms, clean %.1f ms\n", r + 1, after.back(),
                     clean.back());
     }
-    waitForBackgroundDeletes();
+    WaitForBackgroundDeletes();
     std::printf("START-UP: to the first paint after a session of %d entries %.1f ms against "
                 "%.1f ms clean: ratio %.2f (target 1.50)\n",
                 count, median(after), median(clean), median(after) / median(clean));

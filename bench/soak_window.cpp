@@ -16,6 +16,7 @@
 #include "ui/browser/findfile.h"
 #include "ui/browser/frmapri.h"
 #include "ui/common/foldertree.h"
+#include "window_bench.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -43,31 +44,9 @@
 #endif
 
 using namespace quovara;
+using namespace quovara::bench;
 
 namespace {
-
-// Message boxes are counted and printed, never shown: a soak has nobody to answer them.
-class CountingPrompter : public Prompter {
-public:
-    QStringList shown;
-    void critical(const QString& t) override { say("critical", t); }
-    void exclamation(const QString& t) override { say("exclamation", t); }
-    void information(const QString& t) override { say("information", t); }
-    void plain(const QString& t) override { say("plain", t); }
-    QString askPassword(const QString& t) override {
-        say("prompt", t);
-        return QString();
-    }
-    bool question(const QString& t) override {
-        say("question", t);
-        return false;
-    }
-
-private:
-    void say(const char* kind, const QString& text) {
-        shown << QString::fromLatin1(kind) + QStringLiteral(": ") + text;
-    }
-};
 
 // A line of /proc/self/status as a number ("VmRSS" in KiB, "Threads").
 long statusValue(const char* key) {
@@ -111,27 +90,6 @@ int childProcessCount() {
     return n;
 }
 
-bool waitFor(const std::function<bool()>& done, int ms = 60000) {
-    QElapsedTimer t;
-    t.start();
-    while (!done()) {
-        if (t.elapsed() > ms)
-            return false;
-        QTest::qWait(10);
-    }
-    return true;
-}
-
-// Waits, with the event loop running, until the folder views moved aside by the listings
-// ("<folder>.old-<pid>-<n>") have been deleted in the background (at most 60 s).
-void waitForBackgroundDeletes() {
-    const QStringList aside{QStringLiteral("*.old-*")};
-    waitFor([&] {
-        return QDir(TempRoot()).entryList(aside, QDir::Dirs | QDir::Hidden).isEmpty() &&
-               QDir(WorkFolder()).entryList(aside, QDir::Dirs | QDir::Hidden).isEmpty();
-    });
-}
-
 // The least-squares slope of `ys` over `xs`.
 double slope(const std::vector<double>& xs, const std::vector<double>& ys) {
     const double n = double(xs.size());
@@ -148,7 +106,7 @@ double slope(const std::vector<double>& xs, const std::vector<double>& ys) {
 
 class Soak {
 public:
-    Soak(frmApri& window, CountingPrompter& prompter, const QString& archive, const QString& out)
+    Soak(frmApri& window, BenchPrompter& prompter, const QString& archive, const QString& out)
         : w_(window), prompter_(prompter), archive_(archive), out_(out) {}
 
     // Runs job number `n` (from 0) of the cycle; false when it did not do what it should.
@@ -181,7 +139,7 @@ public:
     bool open() {
         QAbstractItemView* view = w_.fileView()->currentView();
         QModelIndex index;
-        if (!waitFor([&] {
+        if (!WaitFor([&] {
                 index = w_.fileView()->indexOf(archive_);
                 return index.isValid() && !view->visualRect(index).isEmpty();
             }))
@@ -189,7 +147,7 @@ public:
         const QPoint at = view->visualRect(index).center();
         QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, at);
         QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, at);
-        return waitFor([&] { return w_.archiveLayout(); });
+        return WaitFor([&] { return w_.archiveLayout(); });
     }
 
 private:
@@ -253,7 +211,7 @@ private:
         box->selectAll();
         QTest::keyClicks(box, QStringLiteral("f0001"));
         QTest::keyClick(box, Qt::Key_Return);
-        if (!waitFor([&] { return !w_.findFile().isSearching(); }))
+        if (!WaitFor([&] { return !w_.findFile().isSearching(); }))
             return false;
         const int rows = results->model()->rowCount();
         results->setFocus();
@@ -276,7 +234,7 @@ private:
     }
 
     frmApri& w_;
-    CountingPrompter& prompter_;
+    BenchPrompter& prompter_;
     QString archive_;
     QString out_;
 };
@@ -357,7 +315,7 @@ int main(int argc, char** argv) {
                 "with an archive of %d entries in %s\n",
                 jobs, count, qPrintable(base));
 
-    CountingPrompter prompter;
+    BenchPrompter prompter(false);
     int failures = 0;
     std::vector<double> xs, ys;
     double at100 = 0;
@@ -392,7 +350,7 @@ int main(int argc, char** argv) {
             }
             if ((n + 1) % 100 == 0 || n + 1 == jobs) {
                 // What the jobs left to do in the background (deleting old trees) is done.
-                waitForBackgroundDeletes();
+                WaitForBackgroundDeletes();
                 const double rss = residentMiB();
                 double inUse = 0, free = 0;
 #if defined(__GLIBC__)
