@@ -13,6 +13,7 @@ packages=(
     appstream dpkg-dev file gzip
     dbus-x11 dbus-daemon at-spi2-core python3-pyatspi
     xdg-utils
+    libarchive-dev libarchive-tools zstd p7zip-full python3
     pcmanfm xdotool openbox
     locales
 )

@@ -88,8 +88,33 @@ QString MakeExtractStaging(const QString& archivePath, QString* problem) {
     return staging.path();
 }
 
-PlacedExtraction PlaceExtraction(const QString& staging, const QString& archivePath) {
+PlacedExtraction MoveToFreeName(const QString& from, const QString& folder,
+                                const std::function<QString(int)>& nameFor) {
     PlacedExtraction result;
+    // A name taken between the look and the move is never replaced: the next free one is tried.
+    for (int n = 1; n <= kMostNumbers; ++n) {
+        const QString name = nameFor(n);
+        const QString to = QDir(folder).filePath(name);
+        if (exists(to))
+            continue;
+        int error = 0;
+        if (moveWithoutReplacing(from, to, &error)) {
+            result.ok = true;
+            result.placedPath = to;
+            return result;
+        }
+        if (error != EEXIST) {
+            result.problem = QStringLiteral("it could not be moved to %1 (%2)")
+                                 .arg(QDir::toNativeSeparators(to),
+                                      QString::fromLocal8Bit(std::strerror(error)));
+            return result;
+        }
+    }
+    result.problem = QStringLiteral("no free name was found for %1").arg(nameFor(1));
+    return result;
+}
+
+PlacedExtraction PlaceExtraction(const QString& staging, const QString& archivePath) {
     const QString folder = QFileInfo(archivePath).absolutePath();
     const QStringList top = QDir(staging).entryList(QDir::AllEntries | QDir::Hidden | QDir::System |
                                                     QDir::NoDotAndDotDot);
@@ -99,27 +124,8 @@ PlacedExtraction PlaceExtraction(const QString& staging, const QString& archiveP
     const QString from = asItIs ? QDir(staging).filePath(top.first()) : staging;
     const QString wanted = asItIs ? top.first() : ArchiveBaseName(archivePath);
     const bool isFile = asItIs && !QFileInfo(from).isDir();
-    // A name taken between the look and the move is never replaced: the next free one is tried.
-    for (int attempt = 0; attempt < kMostNumbers; ++attempt) {
-        const QString name = FreeName(folder, wanted, isFile);
-        if (name.isEmpty())
-            break;
-        const QString to = QDir(folder).filePath(name);
-        int error = 0;
-        if (moveWithoutReplacing(from, to, &error)) {
-            result.ok = true;
-            result.placedPath = to;
-            break;
-        }
-        if (error != EEXIST) {
-            result.problem = QStringLiteral("it could not be moved to %1 (%2)")
-                                 .arg(QDir::toNativeSeparators(to),
-                                      QString::fromLocal8Bit(std::strerror(error)));
-            break;
-        }
-    }
-    if (!result.ok && result.problem.isEmpty())
-        result.problem = QStringLiteral("no free name was found for %1").arg(wanted);
+    PlacedExtraction result =
+        MoveToFreeName(from, folder, [&](int n) { return numbered(wanted, n, isFile); });
     if (result.ok && !asItIs) {
         // The staging folder was made private; the folder it became is an ordinary one.
 #ifdef Q_OS_UNIX

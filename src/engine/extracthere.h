@@ -7,6 +7,8 @@
 
 #include <QString>
 
+#include <functional>
+
 namespace quovara {
 
 // `name` when nothing stands at `folder`/`name`, else the first free "name (n)" (for a file
@@ -31,6 +33,12 @@ struct PlacedExtraction {
 // Moves what the engine extracted into `staging` beside the archive, as above, and removes
 // `staging`. A name taken meanwhile is never replaced (the move refuses it and takes the next).
 PlacedExtraction PlaceExtraction(const QString& staging, const QString& archivePath);
+
+// Moves `from` (a file or a folder) into `folder` under the first name `nameFor(n)` gives for
+// n = 1, 2, … that nothing stands at; what stands there, also what appeared meanwhile, is
+// never replaced.
+PlacedExtraction MoveToFreeName(const QString& from, const QString& folder,
+                                const std::function<QString(int)>& nameFor);
 
 // Removes a staging folder and everything in it (a failed or stopped extraction).
 void DiscardExtractStaging(const QString& staging);

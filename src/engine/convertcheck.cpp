@@ -1,0 +1,176 @@
+#include "convertcheck.h"
+
+#include "listing.h"
+
+#include "core/logging.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QHash>
+#include <QSet>
+
+#include <zlib.h>
+
+namespace quovara {
+
+namespace {
+
+// The listing's entries start on its tenth line, a name line and a detail line each.
+constexpr qsizetype kFirstEntryLine = 9;
+constexpr qint64 kPiece = 1 << 20;
+// How many names of each kind a message lists before "and n more".
+constexpr int kNamesShown = 10;
+
+QString tr(const char* text) {
+    return QCoreApplication::translate("Convert", text);
+}
+
+QString listed(const QStringList& names) {
+    QStringList shown = names.mid(0, kNamesShown);
+    QString text = QStringLiteral("  ") + shown.join(QStringLiteral("\n  "));
+    if (names.size() > kNamesShown)
+        text += QLatin1Char('\n') + QCoreApplication::translate("Convert", "  and %n more", nullptr,
+                                                                int(names.size() - kNamesShown));
+    return text;
+}
+
+} // namespace
+
+std::vector<ListedFile> ReadListedFiles(const QStringList& lines) {
+    const QString separator = ListingSeparator();
+    std::vector<ListedFile> files;
+    QHash<QString, size_t> at; // a name's place in `files`, by its case-folded form
+    bool complete = false;
+    for (qsizetype i = kFirstEntryLine; i < lines.size(); i += 2) {
+        const QString name = EntryName(lines[i]);
+        if (name == separator) {
+            complete = true;
+            break;
+        }
+        if (i + 1 >= lines.size())
+            break;
+        ListedFile file{name, ParseDetailLine(lines[i + 1])};
+        const QString key = name.toCaseFolded();
+        if (const auto known = at.constFind(key); known != at.constEnd()) {
+            files[*known] = std::move(file);
+            continue;
+        }
+        at.insert(key, files.size());
+        files.push_back(std::move(file));
+    }
+    if (!complete)
+        files.clear();
+    return files;
+}
+
+QString ConvertedEntryName(const QString& storedName) {
+    QString name = storedName;
+    name.replace(QLatin1Char('\\'), QLatin1Char('/'));
+    return name;
+}
+
+QString StagingCheck::problem() const {
+    if (stopped)
+        return tr("The conversion was stopped.");
+    QStringList parts;
+    if (!missing.isEmpty())
+        parts << tr("The engine did not extract these entries of the listing:\n%1")
+                     .arg(listed(missing));
+    if (!mismatched.isEmpty())
+        parts << tr("These entries were extracted with another size or CRC-32 than the listing "
+                    "gives:\n%1")
+                     .arg(listed(mismatched));
+    if (!unlisted.isEmpty())
+        parts << tr("The engine extracted files the listing does not have:\n%1")
+                     .arg(listed(unlisted));
+    return parts.join(QStringLiteral("\n\n"));
+}
+
+bool FileCrc32(const QString& path, quint32* crc, quint64* size, const std::atomic<bool>* stop,
+               const std::function<void(quint64)>& progress) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    QByteArray piece(kPiece, Qt::Uninitialized);
+    uLong value = crc32(0L, Z_NULL, 0);
+    quint64 total = 0;
+    for (;;) {
+        if (stop && stop->load())
+            return false;
+        const qint64 got = file.read(piece.data(), kPiece);
+        if (got < 0)
+            return false;
+        if (got == 0)
+            break;
+        value = crc32(value, reinterpret_cast<const Bytef*>(piece.constData()), uInt(got));
+        total += quint64(got);
+        if (progress)
+            progress(quint64(got));
+    }
+    *crc = quint32(value);
+    *size = total;
+    return true;
+}
+
+StagingCheck CheckStaging(const QString& staging, const std::vector<ListedFile>& files,
+                          const std::atomic<bool>* stop,
+                          const std::function<void(quint64)>& progress) {
+    StagingCheck check;
+    const QDir root(staging);
+    QSet<QString> expected;
+    for (const ListedFile& file : files) {
+        const QString name = ConvertedEntryName(file.name);
+        expected.insert(name);
+        check.bytes += file.details.size.value_or(0);
+        const QString path = root.filePath(name);
+        const QFileInfo info(path);
+        if (!info.isFile() || info.isSymLink()) {
+            check.missing << file.name;
+            continue;
+        }
+        quint32 crc = 0;
+        quint64 size = 0;
+        if (!FileCrc32(path, &crc, &size, stop, progress)) {
+            if (stop && stop->load()) {
+                check.stopped = true;
+                return check;
+            }
+            qCDebug(lcFiles) << "could not read the extracted file" << path;
+            check.missing << file.name;
+            continue;
+        }
+        const bool sizeOk = file.details.size && *file.details.size == size;
+        const bool crcOk = file.details.crc && *file.details.crc == crc;
+        if (!sizeOk || !crcOk)
+            check.mismatched
+                << tr("%1 (size %2, CRC-32 %3; listed: size %4, CRC-32 %5)")
+                       .arg(file.name, QString::number(size),
+                            QStringLiteral("%1").arg(crc, 8, 16, QLatin1Char('0')).toUpper(),
+                            file.details.size ? QString::number(*file.details.size)
+                                              : QStringLiteral("?"),
+                            file.details.crc ? file.details.crcText() : QStringLiteral("?"));
+    }
+    // Everything else the engine made: folders are fine (the empty ones are kept), files are
+    // not.
+    QDirIterator it(staging, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                    QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        const QString path = it.next();
+        const QFileInfo info = it.fileInfo();
+        const QString name = root.relativeFilePath(path);
+        if (info.isDir() && !info.isSymLink()) {
+            if (QDir(path).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System |
+                                   QDir::NoDotAndDotDot))
+                check.emptyFolders << name;
+            continue;
+        }
+        if (!expected.contains(name))
+            check.unlisted << QString(name).replace(QLatin1Char('/'), QLatin1Char('\\'));
+    }
+    check.emptyFolders.sort();
+    return check;
+}
+
+} // namespace quovara
