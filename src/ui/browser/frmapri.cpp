@@ -1,5 +1,6 @@
 #include "frmapri.h"
 
+#include "ui/jobs/convertjob.h"
 #include "ui/jobs/extractherejob.h"
 
 #include "detailsmodel.h"
@@ -195,6 +196,21 @@ bool frmApri::prepare() {
 }
 
 int frmApri::ExtractHere(const QStringList& archives) {
+    if (!prepareHidden())
+        return 1;
+    return RunExtractHere(*this, archives);
+}
+
+int frmApri::Convert(const QString& format, const QStringList& archives) {
+    if (!prepareHidden())
+        return 1;
+    ConvertRun run;
+    run.format = ConvertFormatByName(format).value_or(ConvertFormat::Zip);
+    run.archives = archives;
+    return RunConvert(*this, run);
+}
+
+bool frmApri::prepareHidden() {
     setKeptHidden(true);
     // Hidden, the window still places the run's prompts and messages, which are centred on it:
     // it takes the middle of the screen, no bigger than the screen.
@@ -204,9 +220,9 @@ int frmApri::ExtractHere(const QStringList& archives) {
                                         size().boundedTo(area.size()), area));
     }
     if (!prepare())
-        return 1;
+        return false;
     commandLineJob_ = true;
-    return RunExtractHere(*this, archives);
+    return true;
 }
 
 void frmApri::setVisible(bool visible) {

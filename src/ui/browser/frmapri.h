@@ -71,6 +71,12 @@ public:
     // Extract Here for the archives given (`quovara --extract-here`): the window stays hidden,
     // each archive shows its progress window. Returns the program's exit status.
     int ExtractHere(const QStringList& archives);
+    // Convert for the archives given (`quovara --convert FORMAT`): the same way, each new
+    // archive beside its archive.
+    int Convert(const QString& format, const QStringList& archives);
+    // "Convert…" for the archive the window shows: asks the format and the place, then
+    // converts it with its progress windows over this window.
+    void showConvertDialog();
     // While set, the window is never shown (a job window's end shows it otherwise).
     void setKeptHidden(bool hidden) { keptHidden_ = hidden; }
     void setVisible(bool visible) override;
@@ -243,6 +249,8 @@ private:
     // The start-up steps every use of the window shares: the single-instance check, the work
     // folder, the engine. False when the program must end.
     bool prepare();
+    // prepare() for a job run from the command line with the window kept hidden.
+    bool prepareHidden();
     QString lockPath_;
     bool demonstrationEngine_ = false;
 

@@ -1,6 +1,7 @@
 // The menu of the entries of an archive: a right click on an entry, the Menu key or Shift+F10.
 // "Open" does what a double click does (a folder is shown, a file extracted and run);
-// "Extract…" opens the Extract dialog for every selected entry. The View menu follows.
+// "Extract…" opens the Extract dialog for every selected entry; "Convert…" converts the whole
+// archive into an open format. The View menu follows.
 #include "filebrowser.h"
 #include "frmapri.h"
 
@@ -17,6 +18,10 @@ void frmApri::buildEntryMenu() {
     open->setObjectName(QStringLiteral("EntryOpen"));
     QAction* extract = entryMenu_->addAction(QStringLiteral("&Extract…"));
     extract->setObjectName(QStringLiteral("EntryExtract"));
+    // The whole archive, whatever is selected: into an open format.
+    QAction* convert = entryMenu_->addAction(QStringLiteral("Con&vert…"));
+    convert->setObjectName(QStringLiteral("EntryConvert"));
+    connect(convert, &QAction::triggered, this, &frmApri::showConvertDialog);
     entryMenu_->addSeparator();
     PopView->setTitle(QStringLiteral("&View"));
     entryMenu_->addMenu(PopView);

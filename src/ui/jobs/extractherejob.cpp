@@ -1,5 +1,6 @@
 #include "extractherejob.h"
 
+#include "archiveprompter.h"
 #include "frmprogress.h"
 #include "jobnotice.h"
 
@@ -22,67 +23,6 @@ namespace quovara {
 Q_LOGGING_CATEGORY(lcExtractHere, "quovara.extracthere")
 
 namespace {
-
-// Passes every message on with the archive's name before it, so that with several archives
-// the user knows which one it is about; remembers a cancelled password prompt.
-class ArchiveNamedPrompter : public Prompter {
-public:
-    ArchiveNamedPrompter(Prompter& inner, const QString& archive)
-        : inner_(inner), name_(QFileInfo(archive).fileName()) {}
-
-    void critical(const QString& t) override { inner_.critical(named(t)); }
-    void exclamation(const QString& t) override { inner_.exclamation(named(t)); }
-    void information(const QString& t) override { inner_.information(named(t)); }
-    void plain(const QString& t) override { inner_.plain(named(t)); }
-    QString askPassword(const QString& prompt) override {
-        const QString answer = inner_.askPassword(named(prompt));
-        if (answer.isEmpty())
-            cancelled_ = true;
-        return answer;
-    }
-    bool question(const QString& t) override { return inner_.question(named(t)); }
-
-    bool passwordCancelled() const { return cancelled_; }
-    QString named(const QString& text) const {
-        return QString::fromLatin1(extract_here::AboutArchive).arg(name_, text);
-    }
-
-private:
-    Prompter& inner_;
-    QString name_;
-    bool cancelled_ = false;
-};
-
-// Lists the archive to learn whether it opens and with which password, asking for one while
-// the engine wants one. False (the user told why) when it cannot be extracted.
-bool ListForPassword(ArchiveLister& lister, ArchiveNamedPrompter& prompter, const QString& path) {
-    lister.listing().archivePath = path;
-    lister.listing().password.clear();
-    for (;;) {
-        lister.Batch();
-        switch (lister.listing().status) {
-        case ListStatus::Opened:
-            return true;
-        case ListStatus::EngineSwitched:
-            continue; // the other engine version lists it again
-        case ListStatus::PasswordRequired:
-            break;
-        case ListStatus::Failed:
-        default:
-            // The engine's message has been shown (with the archive's name). The engine
-            // answers a wrong password as it answers a damaged archive: once a password was
-            // given, it is asked for again.
-            if (lister.listing().password.isEmpty())
-                return false;
-            break;
-        }
-        lister.listing().password = prompter.askPassword(QStringLiteral("Insert Password"));
-        if (prompter.passwordCancelled()) {
-            prompter.critical(QString::fromLatin1(extract_here::NoPassword));
-            return false;
-        }
-    }
-}
 
 enum class Outcome {
     Extracted,
@@ -123,7 +63,8 @@ Outcome ExtractOne(frmApri& main, Prompter& outer, const QString& given) {
         int work;
         ~StagingGuard() { RemoveTerminationWork(work); }
     } guard{AddTerminationWork([staging] { DiscardExtractStaging(staging); })};
-    if (!ListForPassword(main.lister(), prompter, path)) {
+    if (!ListForPassword(main.lister(), prompter, path,
+                         QString::fromLatin1(extract_here::NoPassword))) {
         DiscardExtractStaging(staging);
         return Outcome::NotExtracted;
     }
