@@ -440,6 +440,8 @@ Place placeOf(const std::string& stored, const Options& o, bool withPaths) {
             if (!f)
                 out.fail("Can't create file \"" + shown + "\"", o.display >= 2);
             setFileTime(dest, e->mtime);
+            if (e->attr & AttrReadOnly)
+                setReadOnly(dest); // mode 0444 from 0644, as the engine leaves it under wine
         }
         if (o.display >= 2)
             out.fileLine(jobFileLine(verb, shown));

@@ -156,4 +156,21 @@ TEST_F(StandinEmptyFolderTest, AnExclusionLeavesAFolderOut) {
     EXPECT_EQ(storedNames("txt.uha"), std::vector<std::string>{"src\\full\\a.txt"});
 }
 
+TEST_F(StandinEmptyFolderTest, AReadOnlyFileIsListedReadOnlyAndExtractedSo) {
+    ASSERT_TRUE(QFile::setPermissions(path("src/full/a.txt"),
+                                      QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther));
+    ASSERT_EQ(add({"-ed+", "t.uha", "src\\*"}).exitCode, 0);
+    EngineRun l = run6({"l", "-y+", "t.uha"}, dir.path());
+    const auto lines = crlfLines(l.out);
+    auto at = std::find(lines.begin(), lines.end(), "src\\full\\a.txt");
+    ASSERT_NE(at, lines.end()) << l.out.toStdString();
+    ASSERT_NE(at + 1, lines.end());
+    EXPECT_NE((at + 1)->find(" R--A "), std::string::npos) << *(at + 1);
+    ASSERT_EQ(run6({"x", "-y+", "-tout", "t.uha"}, dir.path()).exitCode, 0);
+    // Mode 0444 (the "User" bits tell what this process may do, root writing anyway).
+    const QFile::Permissions ownerGroupOther(0x7077);
+    EXPECT_EQ(QFile::permissions(path("out/src/full/a.txt")) & ownerGroupOther,
+              QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
+}
+
 } // namespace
