@@ -12,6 +12,9 @@
 //   name length 2 bytes, name (stored name, "\" as separator, bytes as given)
 //   size 8, time 8 (seconds since 1970), attributes 1 (DOS bits), CRC-32 4,
 //   method 1, packed length 8, packed data (scrambled when protected).
+// An empty folder stored by an add with -ed+ is an entry with the directory attribute (0x10):
+// its name as stored names are ("src\emptyd\inner", no separator at its end), size 0, CRC-32 0,
+// no packed data.
 #pragma once
 
 #include "codec.h"
@@ -31,6 +34,7 @@ enum Attr : std::uint8_t {
     AttrReadOnly = 0x01,
     AttrHidden = 0x02,
     AttrSystem = 0x04,
+    AttrDirectory = 0x10,
     AttrArchive = 0x20
 };
 

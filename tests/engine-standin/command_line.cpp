@@ -30,6 +30,10 @@ void parseSwitch(const std::string& a, Options& o) {
         o.recurse = true;
     else if (is({"-r-"}))
         o.recurse = false;
+    else if (is({"-ed", "-ed+"}))
+        o.emptyFolders = true;
+    else if (is({"-ed-"}))
+        o.emptyFolders = false;
     else if (is({"-y", "-y+"}))
         o.yes = true;
     else if (is({"-y-"}))

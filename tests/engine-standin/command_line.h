@@ -13,6 +13,7 @@ struct Options {
     std::vector<std::string> names;
     std::vector<std::string> excludes;
     bool recurse = false;
+    bool emptyFolders = false; // -ed+: an add stores empty folders
     char method = '2';
     bool multimedia = true;
     unsigned dictionaryKB = 4096;

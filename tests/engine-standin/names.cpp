@@ -128,4 +128,10 @@ void setFileTime(const fs::path& p, std::int64_t t) {
     fs::last_write_time(p, std::chrono::file_clock::from_sys(sys), ec);
 }
 
+void setReadOnly(const fs::path& p) {
+    std::error_code ec;
+    fs::permissions(p, fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write,
+                    fs::perm_options::remove, ec);
+}
+
 } // namespace standin

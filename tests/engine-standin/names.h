@@ -34,5 +34,7 @@ bool anyMatches(const std::vector<std::string>& patterns, const std::string& sto
 std::int64_t nowSeconds();
 std::int64_t fileTimeSeconds(const std::filesystem::path& p);
 void setFileTime(const std::filesystem::path& p, std::int64_t t);
+// Takes every write permission away, as wine does for a file with the DOS read-only attribute.
+void setReadOnly(const std::filesystem::path& p);
 
 } // namespace standin

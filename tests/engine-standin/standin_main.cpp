@@ -12,6 +12,7 @@
 #include "codepage.h"
 #include "command_line.h"
 #include "console_key.h"
+#include "empty_folders.h"
 #include "layout.h"
 #include "names.h"
 #include "output.h"
@@ -164,6 +165,7 @@ std::vector<const Entry*> selectEntries(const Archive& a, const Options& o) {
 [[noreturn]] void commandList(Output& out, const Options& o) {
     Archive a = openArchive(out, o);
     auto sel = selectEntries(a, o);
+    takeFolders(sel); // never listed nor counted
     // Listed in the order of their file names, as the engine lists them.
     std::stable_sort(sel.begin(), sel.end(), [](const Entry* x, const Entry* y) {
         auto fx = folded(filePart(x->name)), fy = folded(filePart(y->name));
@@ -354,6 +356,7 @@ Place placeOf(const std::string& stored, const Options& o, bool withPaths) {
     const std::string verb = extract ? "Extracting" : "Testing";
     Archive a = openArchive(out, o);
     auto sel = selectEntries(a, o);
+    const auto folders = takeFolders(sel); // made by "x" after the files, never named
     if (!o.names.empty() && sel.empty()) {
         // Named entries of which none is there: the engine's own words, no "ERROR:" line.
         out.line("No matching files found !");
@@ -365,8 +368,8 @@ Place placeOf(const std::string& stored, const Options& o, bool withPaths) {
         total += e->size;
     out.line("Using 1.8 MB for decompression and 216 KB for file buffers.");
     out.line("");
-    out.line(verb + " " + std::to_string(sel.size()) + " files (" + std::to_string(total) +
-             " bytes)");
+    out.line(verb + " " + std::to_string(sel.size()) + (sel.size() == 1 ? " file (" : " files (") +
+             std::to_string(total) + " bytes)");
     out.line(kDashes);
 
     const bool overwrite = o.overwrite < 0 ? o.yes : o.overwrite == 1;
@@ -437,10 +440,15 @@ Place placeOf(const std::string& stored, const Options& o, bool withPaths) {
             if (!f)
                 out.fail("Can't create file \"" + shown + "\"", o.display >= 2);
             setFileTime(dest, e->mtime);
+            if (e->attr & AttrReadOnly)
+                setReadOnly(dest); // mode 0444 from 0644, as the engine leaves it under wine
         }
         if (o.display >= 2)
             out.fileLine(jobFileLine(verb, shown));
     }
+    for (const Entry* f : withPaths ? folders : std::vector<const Entry*>{})
+        if (const Place p = placeOf(f->name, o, true); !p.nothing && !p.cannotWrite)
+            makeFolder(p.path);
     if (failed) {
         out.console("\r" + kBlankLine + "\r");
         out.fail("CRC-failure (file \"" + failed->name + "\")");
@@ -467,6 +475,7 @@ struct Source {
     fs::path path;
     std::string stored;
     std::string shown;
+    bool folder = false; // an empty folder (-ed+)
 };
 
 std::string shownPrefix(const std::string& folder) {
@@ -529,7 +538,9 @@ void walk(const fs::path& dir, const std::string& prefix, const std::string& sho
             out.push_back({f.path(), stored, shown + name});
     }
     for (const auto& d : dirs) {
-        const std::string sub = d.path().filename().string() + "\\";
+        const std::string name = d.path().filename().string(), sub = name + "\\";
+        if (storesEmptyFolder(o, d.path(), pattern, prefix + name))
+            out.push_back({d.path(), prefix + name, shown + name, true});
         walk(d.path(), prefix + sub, shown + sub, pattern, o, out);
     }
 }
@@ -638,6 +649,7 @@ void confirmOverwrite(Output& out, const Options& o, const fs::path& archivePath
     for (auto& s : collectSources(o))
         if (!samePath(s.path, archivePath) && !samePath(s.path, tempPath))
             sources.push_back(std::move(s));
+    const std::vector<Entry> folders = takeEmptyFolders(sources); // stored after the files
     if (sources.empty()) {
         out.console(kBlankLine + "\r");
         out.fail("No files found");
@@ -725,7 +737,8 @@ void confirmOverwrite(Output& out, const Options& o, const fs::path& archivePath
         if (perFile)
             out.fileLine(addFileLine(s.shown, e.size, e.packed.size()));
     }
-    if (!writer.finish()) {
+    const bool foldersAdded = addFolders(writer, folders);
+    if (!writer.finish() || !foldersAdded) {
         fs::remove(tempPath, ec);
         out.fail(kMsgCantCreate, showProgress && !perFile);
     }
@@ -750,7 +763,7 @@ void writeUsage(Output& out) {
                 " command [-switch..] archive[.uha] [file..@listfile..!exclude..]\r\n"
                 "Commands: a (add), m (move), e (extract), x (extract with paths), "
                 "l (list), t (test)\r\n"
-                "Switches: -r+ -r- -m0 -m1 -m2 -m3 -mx -mz -mm+ -md+ -md<KB> -pw<password>\r\n"
+                "Switches: -r+ -r- -ed+ -m0 -m1 -m2 -m3 -mx -mz -mm+ -md+ -md<KB> -pw<password>\r\n"
                 "          -o+ -o- -t<folder> -y+ -d0 -d1 -d2 -lg<logfile>\r\n");
 }
 
