@@ -42,10 +42,14 @@ set(entries
     "file-manager/kde-quovara-add.desktop.in|kio/servicemenus|quovara-add.desktop|executable"
     "file-manager/quovara-extract.nemo_action.in|nemo/actions|quovara-extract.nemo_action|plain"
     "file-manager/quovara-extract-here.nemo_action.in|nemo/actions|quovara-extract-here.nemo_action|plain"
+    "file-manager/quovara-convert-zip.nemo_action.in|nemo/actions|quovara-convert-zip.nemo_action|plain"
+    "file-manager/quovara-convert-7z.nemo_action.in|nemo/actions|quovara-convert-7z.nemo_action|plain"
     "file-manager/quovara-add.nemo_action.in|nemo/actions|quovara-add.nemo_action|plain"
     "file-manager/quovara-sfx.nemo_action.in|nemo/actions|quovara-sfx.nemo_action|plain"
     "file-manager/caja-quovara-extract.desktop.in|file-manager/actions|quovara-extract.desktop|plain"
     "file-manager/caja-quovara-extract-here.desktop.in|file-manager/actions|quovara-extract-here.desktop|plain"
+    "file-manager/caja-quovara-convert-zip.desktop.in|file-manager/actions|quovara-convert-zip.desktop|plain"
+    "file-manager/caja-quovara-convert-7z.desktop.in|file-manager/actions|quovara-convert-7z.desktop|plain"
     "file-manager/caja-quovara-add.desktop.in|file-manager/actions|quovara-add.desktop|plain"
     "file-manager/caja-quovara-sfx.desktop.in|file-manager/actions|quovara-sfx.desktop|plain")
 

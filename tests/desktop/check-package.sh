@@ -74,6 +74,9 @@ for f in applications/quovara.desktop mime/packages/quovara.xml \
          nemo/actions/quovara-sfx.nemo_action file-manager/actions/quovara-extract.desktop \
          nemo/actions/quovara-extract-here.nemo_action \
          file-manager/actions/quovara-extract-here.desktop \
+         nemo/actions/quovara-convert-zip.nemo_action nemo/actions/quovara-convert-7z.nemo_action \
+         file-manager/actions/quovara-convert-zip.desktop \
+         file-manager/actions/quovara-convert-7z.desktop \
          file-manager/actions/quovara-add.desktop file-manager/actions/quovara-sfx.desktop; do
     [ -s "$share/$f" ] || fail "missing usr/share/$f"
 done
@@ -96,7 +99,11 @@ expect_line "$desktop" 'Exec=/usr/bin/quovara "add " %f'
 expect_line "$desktop" 'Exec=/usr/bin/quovara "sfx " %f'
 expect_line "$desktop" 'MimeType=application/x-uharc;'
 expect_line "$desktop" 'Exec=/usr/bin/quovara --extract-here %F'
-expect_line "$desktop" 'Actions=extract;extracthere;add;sfx;'
+expect_line "$desktop" 'Exec=/usr/bin/quovara --convert zip %F'
+expect_line "$desktop" 'Exec=/usr/bin/quovara --convert 7z %F'
+expect_line "$desktop" 'Name=Convert to ZIP'
+expect_line "$desktop" 'Name=Convert to 7z'
+expect_line "$desktop" 'Actions=extract;extracthere;convertzip;convert7z;add;sfx;'
 grep -q 'glob pattern="\*\.uha"' "$share/mime/packages/quovara.xml" || fail "MIME glob *.uha"
 grep -q 'type="application/x-uharc"' "$share/mime/packages/quovara.xml" || fail "MIME type"
 
@@ -108,6 +115,9 @@ expect_line "$kde" 'X-KDE-ServiceTypes=KonqPopupMenu/Plugin'
 expect_line "$kde" 'Exec=/usr/bin/quovara "extract " %f'
 expect_line "$kde" 'Exec=/usr/bin/quovara "sfx " %f'
 expect_line "$kde" 'Exec=/usr/bin/quovara --extract-here %F'
+expect_line "$kde" 'Exec=/usr/bin/quovara --convert zip %F'
+expect_line "$kde" 'Exec=/usr/bin/quovara --convert 7z %F'
+expect_line "$kde" 'Actions=extract;extracthere;convertzip;convert7z;sfx;'
 expect_line "$share/kio/servicemenus/quovara-add.desktop" 'MimeType=all/all;'
 expect_line "$share/kio/servicemenus/quovara-add.desktop" 'Exec=/usr/bin/quovara "add " %f'
 for word in extract add sfx; do
@@ -119,6 +129,21 @@ expect_line "$share/nemo/actions/quovara-extract-here.nemo_action" 'Exec=/usr/bi
 expect_line "$share/nemo/actions/quovara-extract-here.nemo_action" 'Selection=notnone'
 expect_line "$share/file-manager/actions/quovara-extract-here.desktop" 'Exec=/usr/bin/quovara --extract-here %F'
 expect_line "$share/file-manager/actions/quovara-extract-here.desktop" 'SelectionCount=>0'
+# So do the conversions to ZIP and 7z.
+for format in zip 7z; do
+    caption="Convert to ${format/zip/ZIP} with Quovara"
+    nemo="$share/nemo/actions/quovara-convert-$format.nemo_action"
+    caja="$share/file-manager/actions/quovara-convert-$format.desktop"
+    expect_line "$kde" "Name=$caption"
+    expect_line "$nemo" "Name=$caption"
+    expect_line "$nemo" "Exec=/usr/bin/quovara --convert $format %F"
+    expect_line "$nemo" 'Selection=notnone'
+    expect_line "$nemo" 'Mimetypes=application/x-uharc;'
+    expect_line "$caja" "Name=$caption"
+    expect_line "$caja" "Exec=/usr/bin/quovara --convert $format %F"
+    expect_line "$caja" 'SelectionCount=>0'
+    expect_line "$caja" 'MimeTypes=application/x-uharc;'
+done
 
 # The AppStream metainfo: valid, with its id and the desktop entry it launches.
 metainfo="$share/metainfo/org.example.Quovara.metainfo.xml"
@@ -128,6 +153,8 @@ fi
 grep -q '<id>org.example.Quovara</id>' "$metainfo" || fail "metainfo id"
 grep -q '<launchable type="desktop-id">quovara.desktop</launchable>' "$metainfo" ||
     fail "metainfo launchable"
+grep -q 'Convert archives to ZIP, 7z, tar.xz or tar.zst' "$metainfo" ||
+    fail "the metainfo does not mention the conversions"
 
 # The manual page: section 1, the command line, the installer and the environment.
 man="$(gzip -dc "$share/man/man1/quovara.1.gz")" || fail "the manual page is not gzip data"

@@ -167,6 +167,14 @@ public:
     QStringList list(const QString& group, const QString& key) const {
         return value(group, key).split(QLatin1Char(';'), Qt::SkipEmptyParts);
     }
+    QStringList keys(const QString& group) const {
+        gchar** k = g_key_file_get_keys(file_, group.toUtf8().constData(), nullptr, nullptr);
+        QStringList out;
+        for (gchar** p = k; p && *p; ++p)
+            out << fromG(*p);
+        g_strfreev(k);
+        return out;
+    }
     QStringList groups() const {
         gchar** g = g_key_file_get_groups(file_, nullptr);
         QStringList out;
@@ -254,8 +262,9 @@ protected:
             KeyFile keys(installed(file));
             EXPECT_TRUE(keys.loaded()) << file.toStdString();
             for (const QString& id : keys.list("Desktop Entry", "Actions")) {
-                if (id == "extracthere")
-                    continue; // an option, not a request word: ExtractHereActions checks it
+                // Options, not request words: the Extract here and Convert tests check them.
+                if (id == "extracthere" || id.startsWith("convert"))
+                    continue;
                 const QString group = "Desktop Action " + id;
                 const QString exec = keys.value(group, "Exec");
                 out.append({file, keys.value(group, "Name"), id,
@@ -389,6 +398,115 @@ TEST_F(FileManagerActions, ExtractHereIsOfferedBesideTheOtherActionsForEverySele
     EXPECT_EQ(caja.value("X-Action-Profile local", "Exec"), programPath() + " --extract-here %F");
     EXPECT_EQ(expandCajaExec(caja.value("X-Action-Profile local", "Exec"), selected_ + "/x.uha"),
               QStringList({programPath(), "--extract-here", selected_ + "/x.uha"}));
+}
+
+// The conversions, one action per format, in the same places as Extract here and with its
+// icon, MIME type and selection rules: every key of the Extract here action is in the
+// conversion's with the same value, but for the caption, the description and the command.
+namespace {
+struct Conversion {
+    QString format; // the option's format argument
+    QString id;     // the desktop-entry action
+    QString menu;   // the caption in the menu entry
+    QString label;  // the caption in the file managers
+};
+const QList<Conversion> kConversions{
+    {"zip", "convertzip", "Convert to ZIP", "Convert to ZIP with Quovara"},
+    {"7z", "convert7z", "Convert to 7z", "Convert to 7z with Quovara"}};
+
+void expectSameKeysAs(const KeyFile& actual, const KeyFile& model, const QString& group,
+                      const QString& modelGroup, const QStringList& own) {
+    QStringList wanted = model.keys(modelGroup);
+    QStringList got = actual.keys(group);
+    wanted.sort();
+    got.sort();
+    EXPECT_EQ(got, wanted) << group.toStdString();
+    for (const QString& key : model.keys(modelGroup)) {
+        if (!own.contains(key)) {
+            EXPECT_EQ(actual.value(group, key), model.value(modelGroup, key))
+                << (group + " " + key).toStdString();
+        }
+    }
+}
+
+} // namespace
+
+TEST_F(FileManagerActions, ConvertToZipAnd7zAreOfferedLikeExtractHereForEverySelectedArchive) {
+    // The desktop entry and the KDE service menu: actions of their own, after Extract here.
+    const QString menuFile = QStringLiteral("applications/quovara.desktop");
+    const QString kdeFile = QStringLiteral("kio/servicemenus/quovara.desktop");
+    KeyFile menu(installed(menuFile));
+    KeyFile kde(installed(kdeFile));
+    ASSERT_TRUE(menu.loaded());
+    ASSERT_TRUE(kde.loaded());
+    EXPECT_EQ(menu.list("Desktop Entry", "Actions"),
+              QStringList({"extract", "extracthere", "convertzip", "convert7z", "add", "sfx"}));
+    EXPECT_EQ(kde.list("Desktop Entry", "Actions"),
+              QStringList({"extract", "extracthere", "convertzip", "convert7z", "sfx"}));
+    KeyFile nemoHere(installed("nemo/actions/quovara-extract-here.nemo_action"));
+    KeyFile cajaHere(installed("file-manager/actions/quovara-extract-here.desktop"));
+    ASSERT_TRUE(nemoHere.loaded());
+    ASSERT_TRUE(cajaHere.loaded());
+
+    for (const Conversion& c : kConversions) {
+        SCOPED_TRACE(c.format.toStdString());
+        const QString exec = programPath() + " --convert " + c.format + " %F";
+        const QString group = "Desktop Action " + c.id;
+        for (const KeyFile* keys : {&menu, &kde}) {
+            EXPECT_EQ(keys->value(group, "Exec"), exec);
+            expectSameKeysAs(*keys, *keys, group, "Desktop Action extracthere", {"Name", "Exec"});
+            for (const QString& name : kNames)
+                EXPECT_EQ(
+                    expandDesktopExec(keys->value(group, "Exec"), selected_ + "/" + name),
+                    QStringList({programPath(), "--convert", c.format, selected_ + "/" + name}));
+        }
+        EXPECT_EQ(menu.value(group, "Name"), c.menu);
+        EXPECT_EQ(kde.value(group, "Name"), c.label);
+        EXPECT_EQ(kde.value(group, "Icon"), "quovara");
+
+        // Nemo and Caja: one or several archives.
+        const QString nemoFile = "nemo/actions/quovara-convert-" + c.format + ".nemo_action";
+        KeyFile nemo(installed(nemoFile));
+        ASSERT_TRUE(nemo.loaded()) << nemoFile.toStdString();
+        EXPECT_EQ(nemo.value("Nemo Action", "Name"), c.label);
+        EXPECT_EQ(nemo.value("Nemo Action", "Exec"), exec);
+        EXPECT_EQ(nemo.value("Nemo Action", "Selection"), "notnone");
+        EXPECT_EQ(nemo.value("Nemo Action", "Mimetypes"), "application/x-uharc;");
+        EXPECT_EQ(nemo.value("Nemo Action", "Icon-Name"), "quovara");
+        expectSameKeysAs(nemo, nemoHere, "Nemo Action", "Nemo Action", {"Name", "Comment", "Exec"});
+        for (const QString& name : kNames)
+            for (NemoGeneration g : {NemoGeneration::Older, NemoGeneration::Newer})
+                EXPECT_EQ(
+                    expandNemoExec(nemo.value("Nemo Action", "Exec"), selected_ + "/" + name,
+                                   nemo.value("Nemo Action", "Quote"),
+                                   nemo.value("Nemo Action", "EscapeSpaces") == "true", g),
+                    QStringList({programPath(), "--convert", c.format, selected_ + "/" + name}));
+
+        const QString cajaFile = "file-manager/actions/quovara-convert-" + c.format + ".desktop";
+        KeyFile caja(installed(cajaFile));
+        ASSERT_TRUE(caja.loaded()) << cajaFile.toStdString();
+        EXPECT_EQ(caja.value("Desktop Entry", "Name"), c.label);
+        EXPECT_EQ(caja.value("Desktop Entry", "Type"), "Action");
+        EXPECT_EQ(caja.value("Desktop Entry", "Icon"), "quovara");
+        EXPECT_EQ(caja.groups(), cajaHere.groups());
+        expectSameKeysAs(caja, cajaHere, "Desktop Entry", "Desktop Entry", {"Name", "Tooltip"});
+        EXPECT_EQ(caja.value("X-Action-Profile local", "Exec"), exec);
+        EXPECT_EQ(caja.value("X-Action-Profile local", "SelectionCount"), ">0");
+        EXPECT_EQ(caja.value("X-Action-Profile local", "MimeTypes"), "application/x-uharc;");
+        expectSameKeysAs(caja, cajaHere, "X-Action-Profile local", "X-Action-Profile local",
+                         {"Exec"});
+        for (const QString& name : kNames)
+            EXPECT_EQ(expandCajaExec(caja.value("X-Action-Profile local", "Exec"),
+                                     selected_ + "/" + name),
+                      QStringList({programPath(), "--convert", c.format, selected_ + "/" + name}));
+        // Plain files, as Extract here's.
+        EXPECT_EQ(
+            QFileInfo(installed(nemoFile)).permissions(),
+            QFileInfo(installed("nemo/actions/quovara-extract-here.nemo_action")).permissions());
+        EXPECT_EQ(QFileInfo(installed(cajaFile)).permissions(),
+                  QFileInfo(installed("file-manager/actions/quovara-extract-here.desktop"))
+                      .permissions());
+    }
 }
 
 TEST_F(FileManagerActions, TheFilesSayWhereTheyApply) {

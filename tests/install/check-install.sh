@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Installs Quovara into a temporary prefix and checks the desktop integration: the program,
-# the desktop entry (accepted by desktop-file-validate), the MIME package for ".uha" files with
-# its glob and "UHA" signature, the file association and the icons.
+# the desktop entry (accepted by desktop-file-validate) with its actions, the file managers'
+# actions, the MIME package for ".uha" files with its glob and "UHA" signature, the file
+# association and the icons.
 # Usage: check-install.sh <cmake> <build folder>. Exit 77: a needed tool is missing (skipped).
 set -uo pipefail
 cmake="$1"
@@ -53,6 +54,34 @@ grep -qx 'MimeType=application/x-uharc;' "$desktop" || fail "MimeType line"
 grep -qx "Exec=$prefix/bin/quovara %f" "$desktop" || fail "Exec line: $(grep '^Exec=' "$desktop")"
 grep -qx 'Icon=quovara' "$desktop" || fail "Icon line"
 
+# The actions on archives: in the desktop entry and in each file manager's files, on the
+# installed program; Extract here and the conversions take every archive selected.
+has_line() { grep -qxF -- "$2" "$share/$1" || fail "$1: no line '$2'"; }
+has_line applications/quovara.desktop 'Actions=extract;extracthere;convertzip;convert7z;add;sfx;'
+has_line kio/servicemenus/quovara.desktop 'Actions=extract;extracthere;convertzip;convert7z;sfx;'
+[ -x "$share/kio/servicemenus/quovara.desktop" ] || fail "the KDE service menu is not executable"
+for action in "extract-here|--extract-here|Extract here" "convert-zip|--convert zip|Convert to ZIP" \
+              "convert-7z|--convert 7z|Convert to 7z"; do
+    IFS='|' read -r name option caption <<<"$action"
+    exec_line="Exec=$prefix/bin/quovara $option %F"
+    nemo="nemo/actions/quovara-$name.nemo_action"
+    caja="file-manager/actions/quovara-$name.desktop"
+    for f in "$nemo" "$caja"; do
+        [ -s "$share/$f" ] || fail "missing share/$f"
+    done
+    for f in applications/quovara.desktop kio/servicemenus/quovara.desktop "$nemo" "$caja"; do
+        has_line "$f" "$exec_line"
+    done
+    has_line applications/quovara.desktop "Name=$caption"
+    for f in kio/servicemenus/quovara.desktop "$nemo" "$caja"; do
+        has_line "$f" "Name=$caption with Quovara"
+    done
+    has_line "$nemo" 'Selection=notnone'
+    has_line "$nemo" 'Mimetypes=application/x-uharc;'
+    has_line "$caja" 'SelectionCount=>0'
+    has_line "$caja" 'MimeTypes=application/x-uharc;'
+done
+
 # The MIME database built from the package knows the glob and the signature.
 env -u DESTDIR update-mime-database "$share/mime" >/dev/null 2>&1 || fail "update-mime-database"
 grep -qx '50:application/x-uharc:\*\.uha' "$share/mime/globs2" ||
@@ -75,4 +104,5 @@ if [ "$failures" -ne 0 ]; then
     echo "$failures check(s) failed"
     exit 1
 fi
-echo "Install into $prefix: program, desktop entry, MIME package and icons are in place."
+echo "Install into $prefix: program, desktop entry, file-manager actions, MIME package and" \
+     "icons are in place."
