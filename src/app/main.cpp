@@ -38,6 +38,7 @@ int RunOption(int argc, char** argv, const quovara::OptionUse& use) {
     case quovara::OptionId::InstallEngine:
         return quovara::InstallEngineCommand(use.values, out, err);
     case quovara::OptionId::ExtractHere:
+    case quovara::OptionId::Convert:
         break; // needs the display: main() runs it
     }
     return 2;
@@ -79,10 +80,15 @@ int main(int argc, char** argv) {
     }
     QStringList extractHere;
     bool extractHereGiven = false;
+    const quovara::OptionUse* convert = nullptr;
     for (const quovara::OptionUse& use : parsed.options) {
         if (use.option->id == quovara::OptionId::ExtractHere) {
             extractHereGiven = true;
             extractHere = use.values;
+            break;
+        }
+        if (use.option->id == quovara::OptionId::Convert) {
+            convert = &use;
             break;
         }
         if (use.option->id != quovara::OptionId::ArchiveLocale)
@@ -95,6 +101,13 @@ int main(int argc, char** argv) {
                        .constData(),
                    stderr);
         return 2;
+    }
+    if (convert) {
+        if (const QString problem = quovara::ConvertArgumentsProblem(convert->values);
+            !problem.isEmpty()) {
+            std::fputs(quovara::UsageErrorText(problem).toLocal8Bit().constData(), stderr);
+            return 2;
+        }
     }
 
     // Everything else opens a window. Qt sees only the arguments before "--" and takes its
@@ -123,6 +136,11 @@ int main(int argc, char** argv) {
     quovara::frmApri window;
     // The first use of the engine prepares its wine prefix: the user is told, not left waiting.
     quovara::InstallPreparingNotice(&window);
+    if (convert) {
+        // Each archive converted beside itself, as Extract Here does.
+        return EndAfterNotices(
+            window.Convert(convert->values.constFirst(), convert->values.mid(1)));
+    }
     if (extractHereGiven) {
         // Each archive beside itself, each with its progress window; the main window stays
         // hidden and the program ends when all are done.

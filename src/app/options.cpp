@@ -1,6 +1,7 @@
 #include "options.h"
 
 #include "core/engineinstall.h"
+#include "engine/convertformat.h"
 
 #ifndef QUOVARA_VERSION
 #error "QUOVARA_VERSION must name the package's version"
@@ -22,6 +23,13 @@ const CommandOption kOptions[] = {
      "archive of one top-level folder or one file as it is, any other into a new folder named "
      "after it (\"name (2)\" when that is taken); a progress window shows each, and the "
      "status is 0 only when every archive was extracted"},
+    {OptionId::Convert, "--convert", "", OptionTakes::Rest, "FORMAT ARCHIVE...",
+     "convert each archive into FORMAT (zip, 7z, tar.xz or tar.zst) beside itself, as "
+     "name.FORMAT (\"name (2).FORMAT\" when that is taken, never over anything): every "
+     "file is extracted into a private folder, checked against the archive's listing (size and "
+     "CRC-32), written, and the new archive read back; the new archive has no password; a "
+     "progress window shows each, and the status is 0 only when every archive was converted "
+     "and checked"},
     {OptionId::ArchiveLocale, "--archive-locale", "", OptionTakes::Value, "LOCALE",
      "run the engine under LOCALE (for example ru_RU.UTF-8, or ru) to show, search and "
      "extract the names of archives made on a system of that language; the same as the "
@@ -155,6 +163,18 @@ ParsedArguments ParseArguments(const QStringList& arguments,
         parsed.options.push_back(use);
     }
     return parsed;
+}
+
+QString ConvertArgumentsProblem(const QStringList& values) {
+    if (values.isEmpty())
+        return QStringLiteral("option '--convert' needs a format (%1) and an archive")
+            .arg(ConvertFormatNames().join(QStringLiteral(", ")));
+    if (!ConvertFormatByName(values.constFirst()))
+        return QStringLiteral("unknown format '%1' for '--convert' (%2)")
+            .arg(values.constFirst(), ConvertFormatNames().join(QStringLiteral(", ")));
+    if (values.size() < 2)
+        return QStringLiteral("option '--convert' needs an archive after the format");
+    return QString();
 }
 
 QString UsageErrorText(const QString& error) {

@@ -14,7 +14,7 @@
 
 namespace quovara {
 
-enum class OptionId { Help, Version, InstallEngine, ArchiveLocale, ExtractHere };
+enum class OptionId { Help, Version, InstallEngine, ArchiveLocale, ExtractHere, Convert };
 
 // What an option takes after its name.
 enum class OptionTakes {
@@ -67,6 +67,10 @@ struct ParsedArguments {
 // that takes a value); so must a short name. Everything else is an operand.
 ParsedArguments ParseArguments(const QStringList& arguments,
                                std::span<const CommandOption> options = ProgramOptions());
+
+// What is wrong with the values of "--convert FORMAT ARCHIVE...", as a misuse message; empty
+// when they are fine.
+QString ConvertArgumentsProblem(const QStringList& values);
 
 // The two lines printed on standard error for a misuse.
 QString UsageErrorText(const QString& error);

@@ -58,7 +58,7 @@ TEST_F(EntryMenu, ARightClickOnAnEntryOffersOpenAndExtract) {
     QMenu* menu = shownMenu();
     ASSERT_NE(menu, nullptr);
     EXPECT_EQ(menu->objectName(), "EntryMenu");
-    EXPECT_EQ(captions(menu), QStringList({"Open", "Extract…", "View"}));
+    EXPECT_EQ(captions(menu), QStringList({"Open", "Extract…", "Convert…", "View"}));
     choose(1);
     EXPECT_EQ(apri().opened, QStringList({"extract selected"}));
     EXPECT_EQ(window_.selectedStoredNames(), QStringList({"root.txt"}));

@@ -24,9 +24,8 @@ void frmApri::showConvertDialog() {
     run.destinationFolder = dialog.folder();
     run.knownPassword = lister_.listing().password;
     if (RunConvert(*this, run) == 0 && !run.made.isEmpty())
-        prompter_->information(
-            tr("The archive was converted and every entry checked:\n%1")
-                .arg(QDir::toNativeSeparators(run.made.constFirst())));
+        prompter_->information(tr("The archive was converted and every entry checked:\n%1")
+                                   .arg(QDir::toNativeSeparators(run.made.constFirst())));
 }
 
 } // namespace quovara

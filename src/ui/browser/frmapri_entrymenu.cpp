@@ -19,7 +19,7 @@ void frmApri::buildEntryMenu() {
     QAction* extract = entryMenu_->addAction(QStringLiteral("&Extract…"));
     extract->setObjectName(QStringLiteral("EntryExtract"));
     // The whole archive, whatever is selected: into an open format.
-    QAction* convert = entryMenu_->addAction(QStringLiteral("Con&vert…"));
+    QAction* convert = entryMenu_->addAction(QStringLiteral("&Convert…"));
     convert->setObjectName(QStringLiteral("EntryConvert"));
     connect(convert, &QAction::triggered, this, &frmApri::showConvertDialog);
     entryMenu_->addSeparator();

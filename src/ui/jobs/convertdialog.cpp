@@ -26,11 +26,10 @@ ConvertDialog::ConvertDialog(const QString& archivePath, QWidget* parent)
     format_ = new QComboBox(this);
     format_->setObjectName(QStringLiteral("ConvertFormat"));
     for (const QString& name : ConvertFormatNames())
-        format_->addItem(QStringLiteral("%1 (.%2)").arg(name == QLatin1String("zip")
-                                                            ? QStringLiteral("ZIP")
-                                                            : name,
-                                                        name),
-                         name);
+        format_->addItem(
+            QStringLiteral("%1 (.%2)")
+                .arg(name == QLatin1String("zip") ? QStringLiteral("ZIP") : name, name),
+            name);
     auto* formatLabel = new QLabel(tr(convert_dialog::FormatLabel), this);
     formatLabel->setBuddy(format_);
     form->addRow(formatLabel, format_);

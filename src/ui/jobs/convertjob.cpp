@@ -71,8 +71,8 @@ QString ConvertOne(frmApri& main, Prompter& outer, const QString& given, const C
     lister.setNamesOnly(true);
     if (!ListForPassword(lister, prompter, path, tr(convert_job::NoPassword), knownPassword))
         return QString();
-    const std::vector<ListedFile> files = ReadListedFiles(ReadEngineLines(
-        WorkFile(names::ListLog), nullptr, ActiveEngineCodec()));
+    const std::vector<ListedFile> files =
+        ReadListedFiles(ReadEngineLines(WorkFile(names::ListLog), nullptr, ActiveEngineCodec()));
     // Entries whose names would climb out of the folder are never extracted; without them the
     // conversion would not be whole.
     const QStringList unsafe = lister.lastPass().unsafeNames;
@@ -117,8 +117,8 @@ QString ConvertOne(frmApri& main, Prompter& outer, const QString& given, const C
             prompter.critical(tr(convert_job::NotConverted).arg(outcome.problem));
         return QString();
     }
-    qCDebug(lcConvert) << path << "converted to" << outcome.placedPath << outcome.files
-                       << "files" << outcome.folders << "folders";
+    qCDebug(lcConvert) << path << "converted to" << outcome.placedPath << outcome.files << "files"
+                       << outcome.folders << "folders";
     return outcome.placedPath;
 }
 

@@ -94,8 +94,7 @@ void ConvertWindow::showProgress() {
         stageLabel_->setText(tr(convert_window::Checking));
         break;
     case ConvertStage::Writing:
-        stageLabel_->setText(
-            tr(convert_window::Writing).arg(ConvertFormatName(request_.format)));
+        stageLabel_->setText(tr(convert_window::Writing).arg(ConvertFormatName(request_.format)));
         break;
     case ConvertStage::ReadingBack:
         stageLabel_->setText(tr(convert_window::ReadingBack));

@@ -5,6 +5,7 @@ entry: type (d or f), mode (octal), size, CRC-32 (8 hex digits, files only), mod
 
     read_converted.py zip|7z|tar.xz|tar.zst ARCHIVE
 """
+import struct
 import subprocess
 import sys
 import tarfile
@@ -25,12 +26,26 @@ def tar_lines(tar):
     return out
 
 
+def unix_time(info):
+    """The zip's own time in seconds: the extended timestamp (extra field 0x5455) when the
+    member has one, else its DOS date and time (local time, two-second steps)."""
+    extra = info.extra
+    at = 0
+    while at + 4 <= len(extra):
+        tag, size = struct.unpack("<HH", extra[at:at + 4])
+        body = extra[at + 4:at + 4 + size]
+        if tag == 0x5455 and size >= 5 and body[0] & 1:
+            return struct.unpack("<I", body[1:5])[0]
+        at += 4 + size
+    return int(time.mktime(info.date_time + (0, 0, -1)))
+
+
 def zip_lines(path):
     out = []
     with zipfile.ZipFile(path) as z:
         for i in z.infolist():
             mode = (i.external_attr >> 16) & 0o7777
-            stamp = int(time.mktime(i.date_time + (0, 0, -1)))
+            stamp = unix_time(i)
             utf8 = "utf8" if i.flag_bits & 0x800 else "noutf8"
             crc = "" if i.is_dir() else "%08X" % i.CRC
             if not i.is_dir():
