@@ -119,8 +119,10 @@ ConvertOutcome ConvertExtracted(const ConvertRequest& request, const std::atomic
         };
     };
 
+    qCDebug(lcFiles) << "convert: checking" << request.files.size() << "files";
     const StagingCheck check =
-        CheckStaging(request.staging, request.files, stop, report(ConvertStage::Checking));
+        CheckStaging(request.staging, request.files, stop, report(ConvertStage::Checking),
+                     request.names ? &*request.names : nullptr);
     if (check.stopped)
         return stopped();
     if (!check.ok()) {
@@ -133,6 +135,7 @@ ConvertOutcome ConvertExtracted(const ConvertRequest& request, const std::atomic
 
     const QString unfinished =
         QDir(request.staging).filePath(QString::fromLatin1(UnfinishedArchiveName));
+    qCDebug(lcFiles) << "convert: writing" << items.size() << "entries";
     done = 0;
     const ConvertWriteResult written = WriteConvertedArchive(unfinished, request.format, items,
                                                              stop, report(ConvertStage::Writing));
@@ -142,6 +145,7 @@ ConvertOutcome ConvertExtracted(const ConvertRequest& request, const std::atomic
         outcome.problem = written.problem;
         return outcome;
     }
+    qCDebug(lcFiles) << "convert: reading back";
     done = 0;
     const QString readBack =
         ReadBackProblem(unfinished, items, stop, report(ConvertStage::ReadingBack));
@@ -151,6 +155,7 @@ ConvertOutcome ConvertExtracted(const ConvertRequest& request, const std::atomic
         outcome.problem = readBack;
         return outcome;
     }
+    qCDebug(lcFiles) << "convert: placing";
     const PlacedExtraction placed =
         MoveToFreeName(unfinished, request.destinationFolder, [&](int n) {
             return ConvertedNameNumbered(request.archivePath, request.format, n);

@@ -14,6 +14,7 @@
 
 #include <atomic>
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace quovara {
@@ -24,6 +25,8 @@ struct ConvertRequest {
     QString destinationFolder; // where the new archive goes
     ConvertFormat format = ConvertFormat::Zip;
     std::vector<ListedFile> files; // the archive's listing
+    // The code page a Windows engine made the folders in; none for an engine that writes UTF-8.
+    std::optional<EngineCodec> names;
 };
 
 enum class ConvertStage { Checking, Writing, ReadingBack };

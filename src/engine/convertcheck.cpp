@@ -93,7 +93,9 @@ bool FileCrc32(const QString& path, quint32* crc, quint64* size, const std::atom
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return false;
-    QByteArray piece(kPiece, Qt::Uninitialized);
+    // One piece for every file read on this thread: a new one per file would be mapped and
+    // faulted in again each time.
+    thread_local QByteArray piece(kPiece, Qt::Uninitialized);
     uLong value = crc32(0L, Z_NULL, 0);
     quint64 total = 0;
     for (;;) {
@@ -114,15 +116,37 @@ bool FileCrc32(const QString& path, quint32* crc, quint64* size, const std::atom
     return true;
 }
 
+QStringList EngineMadeCuts(const QString& folderPath, const EngineCodec& names) {
+    QStringList cuts;
+    if (names.isUtf8())
+        return cuts;
+    for (qsizetype i = 1; i < folderPath.size(); ++i) {
+        const QChar c = folderPath.at(i);
+        if (c == QLatin1Char('/') || c.unicode() < 0x80)
+            continue;
+        const QByteArray bytes = names.encode(QString(c));
+        if (bytes.size() == 2 && bytes.at(1) == '\\' && folderPath.at(i - 1) != QLatin1Char('/'))
+            cuts << folderPath.left(i);
+    }
+    return cuts;
+}
+
 StagingCheck CheckStaging(const QString& staging, const std::vector<ListedFile>& files,
                           const std::atomic<bool>* stop,
-                          const std::function<void(quint64)>& progress) {
+                          const std::function<void(quint64)>& progress, const EngineCodec* names) {
     StagingCheck check;
     const QDir root(staging);
     QSet<QString> expected;
+    QSet<QString> engineMade;
     for (const ListedFile& file : files) {
         const QString name = ConvertedEntryName(file.name);
         expected.insert(name);
+        if (names) {
+            const qsizetype slash = name.lastIndexOf(QLatin1Char('/'));
+            if (slash > 0)
+                for (const QString& cut : EngineMadeCuts(name.left(slash), *names))
+                    engineMade.insert(cut);
+        }
         check.bytes += file.details.size.value_or(0);
         const QString path = root.filePath(name);
         const QFileInfo info(path);
@@ -162,8 +186,12 @@ StagingCheck CheckStaging(const QString& staging, const std::vector<ListedFile>&
         const QString name = root.relativeFilePath(path);
         if (info.isDir() && !info.isSymLink()) {
             if (QDir(path).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System |
-                                   QDir::NoDotAndDotDot))
-                check.emptyFolders << name;
+                                   QDir::NoDotAndDotDot)) {
+                if (engineMade.contains(name))
+                    qCDebug(lcFiles) << "left out a folder the engine made by mistake:" << name;
+                else
+                    check.emptyFolders << name;
+            }
             continue;
         }
         if (!expected.contains(name))

@@ -6,6 +6,8 @@
 
 #include "entrydetails.h"
 
+#include "core/codepage.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -49,10 +51,18 @@ struct StagingCheck {
 };
 
 // Reads every extracted file under `staging` once. `progress` is told the bytes read so far;
-// `stop` ends the check early (stopped).
+// `stop` ends the check early (stopped). `names` is the code page the engine made the folders
+// in (see EngineMadeCuts); none for an engine that writes UTF-8.
 StagingCheck CheckStaging(const QString& staging, const std::vector<ListedFile>& files,
                           const std::atomic<bool>* stop = nullptr,
-                          const std::function<void(quint64)>& progress = {});
+                          const std::function<void(quint64)>& progress = {},
+                          const EngineCodec* names = nullptr);
+
+// The folders the engine makes by mistake for a folder path in a double-byte code page: a
+// letter whose second byte is 0x5C ("\", as "表" in code page 932) cuts the path there, so
+// extracting "予定表\図表.txt" also makes an empty "予定". The paths cut before each such letter
+// ("a/b" style); nothing for other code pages.
+QStringList EngineMadeCuts(const QString& folderPath, const EngineCodec& names);
 
 // The CRC-32 of a file's bytes and how many there were, read in pieces; false when it cannot
 // be read.

@@ -65,7 +65,7 @@ QString copyData(struct archive* a, const ConvertItem& item, const std::atomic<b
     QFile file(item.sourcePath);
     if (!file.open(QIODevice::ReadOnly))
         return tr("%1 cannot be read (%2)").arg(item.name, file.errorString());
-    QByteArray piece(kPiece, Qt::Uninitialized);
+    thread_local QByteArray piece(kPiece, Qt::Uninitialized);
     uLong crc = crc32(0L, Z_NULL, 0);
     quint64 copied = 0;
     for (;;) {

@@ -47,7 +47,7 @@ template <typename T> void put(std::string& s, T v) {
 } // namespace
 
 ReadResult readArchive(const std::filesystem::path& path, const std::string& ownVersion,
-                       const std::string& password, Archive& out) {
+                       const std::string& password, Archive& out, bool headersOnly) {
     ReadResult res;
     std::error_code ec;
     if (!std::filesystem::is_regular_file(path, ec)) {
@@ -59,7 +59,16 @@ ReadResult readArchive(const std::filesystem::path& path, const std::string& own
         res.status = ReadStatus::CantOpen;
         return res;
     }
-    Bytes data((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    // Read in one piece: a byte at a time would make a big archive slow to open.
+    in.seekg(0, std::ios::end);
+    const std::streamoff length = in.tellg();
+    in.seekg(0, std::ios::beg);
+    Bytes data(length > 0 ? static_cast<std::size_t>(length) : 0);
+    if (!data.empty() &&
+        !in.read(reinterpret_cast<char*>(data.data()), static_cast<std::streamsize>(data.size()))) {
+        res.status = ReadStatus::CantOpen;
+        return res;
+    }
     // A file that is a beginning of the magic (an empty one too) is a truncated archive.
     std::size_t common = std::min(data.size(), kMagicSize);
     if (common > 0 && std::memcmp(data.data(), kMagic, common) != 0) {
@@ -116,10 +125,15 @@ ReadResult readArchive(const std::filesystem::path& path, const std::string& own
             return res;
         }
         e.method = static_cast<char>(m);
-        e.packed.assign(p, p + packedLen);
-        if (out.isProtected)
-            scramble(e.packed, password, i);
+        e.packedLength = packedLen;
         out.entries.push_back(std::move(e));
+        // A listing reads the headers only, as the engine's does: the data is not unpacked.
+        if (headersOnly)
+            continue;
+        Entry& kept = out.entries.back();
+        kept.packed.assign(p, p + packedLen);
+        if (out.isProtected)
+            scramble(kept.packed, password, i);
     }
     return res;
 }

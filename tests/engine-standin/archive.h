@@ -45,7 +45,8 @@ struct Entry {
     std::uint8_t attr = AttrArchive;
     std::uint32_t crc = 0;
     char method = '2';
-    Bytes packed; // plain packed bytes (not scrambled)
+    Bytes packed;                   // plain packed bytes (not scrambled)
+    std::uint64_t packedLength = 0; // as stored, also when the data was not read
 };
 
 struct Archive {
@@ -71,9 +72,10 @@ struct ReadResult {
     bool headerRead = false; // magic, version and creation time were read
 };
 
-// Reads a whole archive; `password` descrambles protected data.
+// Reads a whole archive; `password` descrambles protected data. With `headersOnly` the entries'
+// packed data is left out (a listing needs only names and details).
 ReadResult readArchive(const std::filesystem::path& path, const std::string& ownVersion,
-                       const std::string& password, Archive& out);
+                       const std::string& password, Archive& out, bool headersOnly = false);
 
 // Writes archives entry by entry, so that an interrupted add leaves a partial file.
 class ArchiveWriter {

@@ -137,9 +137,9 @@ void failOnRead(Output& out, const ReadResult& r, const Archive& a) {
     }
 }
 
-Archive openArchive(Output& out, const Options& o) {
+Archive openArchive(Output& out, const Options& o, bool headersOnly = false) {
     Archive a;
-    ReadResult r = readArchive(hostPath(o.archive), kVersion, o.password, a);
+    ReadResult r = readArchive(hostPath(o.archive), kVersion, o.password, a, headersOnly);
     if (r.headerRead)
         out.line("Processing archive \"" + o.archive + "\" (created: " + createdText(a.created) +
                  ").");
@@ -163,7 +163,7 @@ std::vector<const Entry*> selectEntries(const Archive& a, const Options& o) {
 // l: list
 
 [[noreturn]] void commandList(Output& out, const Options& o) {
-    Archive a = openArchive(out, o);
+    Archive a = openArchive(out, o, true);
     auto sel = selectEntries(a, o);
     takeFolders(sel); // never listed nor counted
     // Listed in the order of their file names, as the engine lists them.
@@ -180,7 +180,7 @@ std::vector<const Entry*> selectEntries(const Archive& a, const Options& o) {
         out.line(listDetailLine(e->size, e->mtime, e->attr, e->crc));
         faultPoint(out);
         size += e->size;
-        packed += e->packed.size();
+        packed += e->packedLength;
     }
     faultPoint(out);
     out.line(kDashes);

@@ -309,3 +309,39 @@ TEST(ConvertFormats, NamesAndNumberedNames) {
 
 } // namespace
 } // namespace quovara
+
+namespace quovara {
+namespace {
+
+TEST(EngineMadeCuts, AreThePathsCutBeforeEachLetterWhoseSecondByteIsABackslash) {
+    const EngineCodec cp932 = EngineCodec::ForCodePage(932);
+    ASSERT_TRUE(cp932.isValid());
+    // 予 (0x97 0x5C) and 表 (0x95 0x5C); 定 and 展 are not.
+    EXPECT_EQ(EngineMadeCuts(QString::fromUtf8("予定表"), cp932),
+              QStringList{QString::fromUtf8("予定")});
+    EXPECT_EQ(EngineMadeCuts(QString::fromUtf8("予定表/展開表"), cp932),
+              (QStringList{QString::fromUtf8("予定"), QString::fromUtf8("予定表/展開")}));
+    EXPECT_TRUE(EngineMadeCuts(QString::fromUtf8("日本語/ファイル"), cp932).isEmpty());
+    EXPECT_TRUE(EngineMadeCuts(QString::fromUtf8("予定表"), EngineCodec::Utf8()).isEmpty());
+    EXPECT_TRUE(
+        EngineMadeCuts(QString::fromUtf8("Документы"), EngineCodec::ForCodePage(866)).isEmpty());
+}
+
+TEST(EngineMadeCuts, SuchAnEmptyFolderIsNotTakenIntoTheNewArchive) {
+    QTemporaryDir dir;
+    const QString staging = dir.path() + "/s";
+    QDir().mkpath(staging + QString::fromUtf8("/予定表"));
+    QDir().mkpath(staging + QString::fromUtf8("/予定")); // made by the engine's mistake
+    QDir().mkpath(staging + "/kept/empty");              // stored empty
+    quovara::testing::writeFile(staging + QString::fromUtf8("/予定表/図表.txt"), "x");
+    const std::vector<ListedFile> files{
+        {QString::fromUtf8("予定表\\図表.txt"),
+         ParseDetailLine(u"1  15-Mar-2024  10:20:30  ---A  8CDC1683")}};
+    const EngineCodec cp932 = EngineCodec::ForCodePage(932);
+    const StagingCheck check = CheckStaging(staging, files, nullptr, {}, &cp932);
+    EXPECT_TRUE(check.ok()) << check.problem().toStdString();
+    EXPECT_EQ(check.emptyFolders, QStringList{"kept/empty"});
+}
+
+} // namespace
+} // namespace quovara

@@ -5,6 +5,7 @@
 #include "extractherejob.h"
 #include "frmprogress.h"
 
+#include "core/enginelocale.h"
 #include "core/places.h"
 #include "core/processcontrol.h"
 #include "engine/convert.h"
@@ -110,6 +111,8 @@ QString ConvertOne(frmApri& main, Prompter& outer, const QString& given, const C
     request.destinationFolder = destination;
     request.format = run.format;
     request.files = files;
+    if (const EngineTextCodecs codecs = ActiveEngineCodecs(); codecs.windows)
+        request.names = codecs.text;
     ConvertWindow window(request, main.isVisible() ? &main : nullptr);
     const ConvertOutcome outcome = window.run();
     if (!outcome.ok) {
