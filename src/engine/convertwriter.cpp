@@ -25,7 +25,7 @@ QString tr(const char* text) {
 }
 
 QString libraryError(struct archive* a) {
-    const char* text = archive_error_string(a);
+    const char* text = a ? archive_error_string(a) : nullptr;
     return text ? QString::fromLocal8Bit(text) : tr("unknown error");
 }
 
@@ -104,14 +104,20 @@ ConvertWriteResult WriteConvertedArchive(const QString& path, ConvertFormat form
         result.problem = tr("%1 cannot be created (%2)").arg(path, file.errorString());
         return result;
     }
+    std::unique_ptr<struct archive, WriteCloser> a(archive_write_new());
     auto fail = [&](const QString& problem) {
         result.problem = problem;
+        // The library lets go of the file before it is closed: it writes nothing more (a
+        // zip's central directory, say) into a descriptor that may be reused meanwhile.
+        if (a) {
+            archive_write_fail(a.get());
+            a.reset();
+        }
         file.close();
         if (!QFile::remove(path))
             qCDebug(lcFiles) << "could not remove the unfinished archive" << path;
         return result;
     };
-    std::unique_ptr<struct archive, WriteCloser> a(archive_write_new());
     if (!a || !chooseFormat(a.get(), format))
         return fail(tr("This system's libarchive cannot write %1 (%2)")
                         .arg(ConvertFormatName(format), libraryError(a.get())));

@@ -8,6 +8,7 @@
 #include "core/enginelocale.h"
 #include "core/places.h"
 #include "core/processcontrol.h"
+#include "core/runner.h"
 #include "engine/convert.h"
 #include "engine/extracthere.h"
 #include "engine/grammar.h"
@@ -61,8 +62,10 @@ QString ConvertOne(frmApri& main, Prompter& outer, const QString& given, const C
         QString staging;
         int work;
         ~StagingGuard() {
+            // Ten thousand extracted files take a while to delete: beside the window's thread,
+            // which stays live meanwhile; the program goes on only once they are gone.
+            RunBeside([this] { DiscardExtractStaging(staging); });
             RemoveTerminationWork(work);
-            DiscardExtractStaging(staging);
         }
     } guard{staging, AddTerminationWork([staging] { DiscardExtractStaging(staging); })};
 
