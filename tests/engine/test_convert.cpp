@@ -78,7 +78,7 @@ std::vector<Listed> sampleEntries() {
     e.push_back({QStringLiteral("folder\\empty.txt"), QByteArray()});
     QByteArray big(3 << 20, Qt::Uninitialized);
     for (int i = 0; i < big.size(); ++i)
-        big[i] = char((i * 7919) >> 3);
+        big[i] = char((quint32(i) * 7919u) >> 3);
     e.push_back({QStringLiteral("folder\\sub\\big.bin"), big});
     return e;
 }
