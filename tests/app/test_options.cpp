@@ -28,13 +28,30 @@ const CommandOption kWithValue[] = {
 
 TEST(Options, TheProgramHasHelpVersionInstallEngineAndArchiveLocale) {
     EXPECT_EQ(OptionNames(), QStringList({"-h", "--help", "--version", "--install-engine",
-                                          "--extract-here", "--archive-locale"}));
+                                          "--extract-here", "--convert", "--archive-locale"}));
+    ASSERT_NE(option(OptionId::Convert), nullptr);
+    EXPECT_EQ(option(OptionId::Convert)->takes, OptionTakes::Rest);
     ASSERT_NE(option(OptionId::ArchiveLocale), nullptr);
     EXPECT_EQ(option(OptionId::ArchiveLocale)->takes, OptionTakes::Value);
     ASSERT_NE(option(OptionId::InstallEngine), nullptr);
     EXPECT_EQ(option(OptionId::InstallEngine)->takes, OptionTakes::Rest);
     EXPECT_EQ(option(OptionId::Help)->takes, OptionTakes::Nothing);
     EXPECT_EQ(option(OptionId::Version)->takes, OptionTakes::Nothing);
+}
+
+TEST(Options, ConvertTakesAFormatThenArchives) {
+    const ParsedArguments p = ParseArguments({"--convert", "tar.zst", "a.uha", "b.uha"});
+    ASSERT_EQ(p.options.size(), 1u);
+    EXPECT_EQ(p.options[0].option->id, OptionId::Convert);
+    EXPECT_EQ(p.options[0].values, QStringList({"tar.zst", "a.uha", "b.uha"}));
+    EXPECT_EQ(ConvertArgumentsProblem(p.options[0].values), QString());
+    EXPECT_EQ(ConvertArgumentsProblem({"ZIP", "a.uha"}), QString());
+    EXPECT_EQ(ConvertArgumentsProblem({}),
+              "option '--convert' needs a format (zip, 7z, tar.xz, tar.zst) and an archive");
+    EXPECT_EQ(ConvertArgumentsProblem({"rar", "a.uha"}),
+              "unknown format 'rar' for '--convert' (zip, 7z, tar.xz, tar.zst)");
+    EXPECT_EQ(ConvertArgumentsProblem({"7z"}),
+              "option '--convert' needs an archive after the format");
 }
 
 TEST(Options, HelpAndItsShortNameAreFound) {
