@@ -11,15 +11,29 @@ namespace standin {
 
 namespace {
 
+// Reads an archive piece by piece from its file, so that a listing can pass over the packed
+// data (the engine's listing reads the headers only) and nothing holds the whole file.
 class Reader {
 public:
-    explicit Reader(const Bytes& data) : d_(data) {}
+    Reader(std::istream& in, std::size_t size) : in_(in), size_(size) {}
+    // The next `n` bytes; `p` stays valid until the next call.
     bool bytes(std::size_t n, const std::uint8_t*& p) {
-        if (d_.size() - pos_ < n)
+        if (size_ - pos_ < n)
             return false;
-        p = d_.data() + pos_;
+        buffer_.resize(n);
+        if (n > 0 &&
+            !in_.read(reinterpret_cast<char*>(buffer_.data()), static_cast<std::streamsize>(n)))
+            return false;
+        p = buffer_.data();
         pos_ += n;
         return true;
+    }
+    bool skip(std::size_t n) {
+        if (size_ - pos_ < n)
+            return false;
+        in_.seekg(static_cast<std::streamoff>(n), std::ios::cur);
+        pos_ += n;
+        return static_cast<bool>(in_);
     }
     template <typename T> bool num(T& v) {
         const std::uint8_t* p = nullptr;
@@ -31,11 +45,13 @@ public:
         v = static_cast<T>(x);
         return true;
     }
-    std::size_t left() const { return d_.size() - pos_; }
+    std::size_t left() const { return size_ - pos_; }
 
 private:
-    const Bytes& d_;
+    std::istream& in_;
+    std::size_t size_;
     std::size_t pos_ = 0;
+    Bytes buffer_;
 };
 
 template <typename T> void put(std::string& s, T v) {
@@ -59,29 +75,26 @@ ReadResult readArchive(const std::filesystem::path& path, const std::string& own
         res.status = ReadStatus::CantOpen;
         return res;
     }
-    // Read in one piece: a byte at a time would make a big archive slow to open.
     in.seekg(0, std::ios::end);
     const std::streamoff length = in.tellg();
     in.seekg(0, std::ios::beg);
-    Bytes data(length > 0 ? static_cast<std::size_t>(length) : 0);
-    if (!data.empty() &&
-        !in.read(reinterpret_cast<char*>(data.data()), static_cast<std::streamsize>(data.size()))) {
+    const std::size_t size = length > 0 ? static_cast<std::size_t>(length) : 0;
+    Reader r(in, size);
+    const std::uint8_t* p = nullptr;
+    // A file that is a beginning of the magic (an empty one too) is a truncated archive.
+    const std::size_t common = std::min(size, kMagicSize);
+    if (!r.bytes(common, p)) {
         res.status = ReadStatus::CantOpen;
         return res;
     }
-    // A file that is a beginning of the magic (an empty one too) is a truncated archive.
-    std::size_t common = std::min(data.size(), kMagicSize);
-    if (common > 0 && std::memcmp(data.data(), kMagic, common) != 0) {
+    if (common > 0 && std::memcmp(p, kMagic, common) != 0) {
         res.status = ReadStatus::NotArchive;
         return res;
     }
-    if (data.size() < kMagicSize + 3) {
+    if (size < kMagicSize + 3) {
         res.status = ReadStatus::Corrupt;
         return res;
     }
-    Reader r(data);
-    const std::uint8_t* p = nullptr;
-    r.bytes(kMagicSize, p);
     r.bytes(3, p);
     out.version.assign(reinterpret_cast<const char*>(p), 3);
     if (out.version != ownVersion) {
@@ -120,7 +133,8 @@ ReadResult readArchive(const std::filesystem::path& path, const std::string& own
         // Names are kept in the OEM code page when the stand-in plays one.
         e.name = fromOem(std::string(reinterpret_cast<const char*>(p), nameLen));
         if (!r.num(e.size) || !r.num(e.mtime) || !r.num(e.attr) || !r.num(e.crc) || !r.num(m) ||
-            !r.num(packedLen) || packedLen > r.left() || !r.bytes(packedLen, p)) {
+            !r.num(packedLen) || packedLen > r.left() ||
+            (headersOnly ? !r.skip(packedLen) : !r.bytes(packedLen, p))) {
             res.status = ReadStatus::Corrupt;
             return res;
         }
