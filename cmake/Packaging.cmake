@@ -3,7 +3,8 @@
 # AppStream metainfo and the manual page, installed under /usr. Its dependencies on shared
 # libraries (Qt 6 and the C++ run-time) are found by dpkg-shlibdeps (package dpkg-dev); it
 # also depends on xdg-utils, whose xdg-open opens files, and on libarchive13, which writes the
-# archives a conversion makes.
+# archives a conversion makes, and on qt6-translations-l10n, which translates Qt's own buttons and
+# dialogs.
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME quovara)
@@ -34,7 +35,7 @@ set(CPACK_DEBIAN_PACKAGE_HOMEPAGE "https://quovara.example.org")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # Files are opened (a single item run, an extraction's folder) through xdg-open; the
 # dependencies on shared libraries found by dpkg-shlibdeps are added to this list.
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "xdg-utils, libarchive13")
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "xdg-utils, libarchive13, qt6-translations-l10n")
 # The engine runs through wine; without it the program says so and how to install it.
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "wine")
 

@@ -14,6 +14,7 @@ packages=(
     dbus-x11 dbus-daemon at-spi2-core python3-pyatspi
     xdg-utils
     libarchive-dev libarchive-tools zstd p7zip-full python3
+    qt6-l10n-tools qt6-tools-dev qt6-translations-l10n
     pcmanfm xdotool openbox
     locales
 )

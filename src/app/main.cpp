@@ -2,6 +2,7 @@
 #include "app/archivelocale.h"
 #include "app/consolecommands.h"
 #include "app/display.h"
+#include "app/language.h"
 #include "app/options.h"
 #include "core/engineinstall.h"
 #include "core/launcherserver.h"
@@ -26,6 +27,7 @@ namespace {
 int RunOption(int argc, char** argv, const quovara::OptionUse& use) {
     QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("quovara"));
+    quovara::InstallTranslations(app);
     QTextStream out(stdout);
     QTextStream err(stderr);
     switch (use.option->id) {
@@ -127,6 +129,7 @@ int main(int argc, char** argv) {
 
     QApplication app(qtArgc, qtArgv.data());
     QApplication::setApplicationName(QStringLiteral("quovara"));
+    quovara::InstallTranslations(app);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/quovara.svg")));
     // A Qt resource static library needs its resources pulled in explicitly.
     Q_INIT_RESOURCE(quovara);

@@ -55,7 +55,7 @@ grep -qx '  quovara --install-engine puts it in place.' <<<"$info" ||
     fail "the long description: $(printf '%s\n' "$info" | sed -n '/Description:/,/^ [A-Z]/p')"
 depends="$(field Depends)"
 echo "Depends: $depends"
-for lib in libqt6core6 libqt6gui6 libqt6widgets6 libqt6dbus6 libc6 libstdc++6 xdg-utils; do
+for lib in libqt6core6 libqt6gui6 libqt6widgets6 libqt6dbus6 libc6 libstdc++6 xdg-utils libarchive13 qt6-translations-l10n; do
     grep -q "^ *$lib\b" <<<"${depends//,/$'\n'}" || fail "Depends lacks $lib"
 done
 
