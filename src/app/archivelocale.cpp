@@ -2,6 +2,8 @@
 
 #include "core/enginelocale.h"
 
+#include <QCoreApplication>
+
 namespace quovara {
 
 QString ArchiveLocaleOfArguments(const ParsedArguments& parsed) {
@@ -18,9 +20,12 @@ QString ArchiveLocaleOfArguments(const ParsedArguments& parsed) {
 QString UseArchiveLocale(const QString& text) {
     const QString locale = NormalizedLocale(text);
     if (locale.isEmpty())
-        return QStringLiteral("quovara: '%1' names no locale (for example ru_RU.UTF-8, or ru)\n"
-                              "Try 'quovara --help' for more information.")
-            .arg(text);
+        return QStringLiteral("quovara: ") +
+               QCoreApplication::translate("Options",
+                                           "'%1' names no locale (for example ru_RU.UTF-8, or ru)")
+                   .arg(text) +
+               QLatin1Char('\n') +
+               QCoreApplication::translate("Options", "Try 'quovara --help' for more information.");
     if (!LocaleInstalled(locale))
         return LocaleMissingMessage(locale);
     SetArchiveLocale(locale);

@@ -1,5 +1,7 @@
 #include "display.h"
 
+#include <QCoreApplication>
+
 namespace quovara {
 
 namespace {
@@ -36,7 +38,7 @@ QString MissingDisplayMessage(const QStringList& arguments, const QProcessEnviro
         if (!name.isEmpty() && !needsDisplayServer(name))
             return QString();
     }
-    return QLatin1String(NoDisplayMessage);
+    return QCoreApplication::translate("Display", NoDisplayMessage);
 }
 
 } // namespace quovara

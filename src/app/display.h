@@ -5,11 +5,12 @@
 #include <QProcessEnvironment>
 #include <QString>
 #include <QStringList>
+#include <QtGlobal>
 
 namespace quovara {
 
-inline constexpr char NoDisplayMessage[] =
-    "Quovara needs a graphical display; DISPLAY or WAYLAND_DISPLAY is not set";
+inline constexpr char NoDisplayMessage[] = QT_TRANSLATE_NOOP(
+    "Display", "Quovara needs a graphical display; DISPLAY or WAYLAND_DISPLAY is not set");
 
 // The platform the windows would use: the value of the last "-platform NAME" among `arguments`
 // (what Qt reads), else QT_QPA_PLATFORM; empty for Qt's default.

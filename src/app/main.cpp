@@ -18,6 +18,7 @@
 #include <QTextStream>
 
 #include <cstdio>
+#include <functional>
 #include <vector>
 
 namespace {
@@ -59,6 +60,15 @@ int EndAfterNotices(int status) {
     return status;
 }
 
+// Prints on standard error a message made once the catalogues are loaded (the program's
+// texts are translated only while an application object lives), and ends with `status`.
+int PrintTranslated(int argc, char** argv, const std::function<QString()>& message, int status) {
+    QCoreApplication app(argc, argv);
+    quovara::InstallTranslations(app);
+    std::fputs(message().toLocal8Bit().constData(), stderr);
+    return status;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -67,8 +77,9 @@ int main(int argc, char** argv) {
         arguments << QString::fromLocal8Bit(argv[i]);
     const quovara::ParsedArguments parsed = quovara::ParseArguments(arguments);
     if (!parsed.error.isEmpty()) {
-        std::fputs(quovara::UsageErrorText(parsed.error).toLocal8Bit().constData(), stderr);
-        return 2;
+        return PrintTranslated(
+            argc, argv,
+            [&] { return quovara::UsageErrorText(quovara::ParseArguments(arguments).error); }, 2);
     }
     // The archive locale changes how the engine is run for the whole session (and for
     // --install-engine's check); every other option does its work and ends.
@@ -76,8 +87,10 @@ int main(int argc, char** argv) {
     if (!archiveLocale.isEmpty()) {
         const QString problem = quovara::UseArchiveLocale(archiveLocale);
         if (!problem.isEmpty()) {
-            std::fputs((problem + QLatin1Char('\n')).toLocal8Bit().constData(), stderr);
-            return problem.startsWith(QLatin1String("quovara:")) ? 2 : 1;
+            return PrintTranslated(
+                argc, argv,
+                [&] { return quovara::UseArchiveLocale(archiveLocale) + QLatin1Char('\n'); },
+                problem.startsWith(QLatin1String("quovara:")) ? 2 : 1);
         }
     }
     QStringList extractHere;
@@ -97,19 +110,21 @@ int main(int argc, char** argv) {
             return RunOption(argc, argv, use);
     }
     if (extractHereGiven && extractHere.isEmpty()) {
-        std::fputs(quovara::UsageErrorText(QStringLiteral("option '--extract-here' needs an "
-                                                          "archive"))
-                       .toLocal8Bit()
-                       .constData(),
-                   stderr);
-        return 2;
+        return PrintTranslated(
+            argc, argv,
+            [] {
+                return quovara::UsageErrorText(QCoreApplication::translate(
+                    "Options", "option '--extract-here' needs an archive"));
+            },
+            2);
     }
-    if (convert) {
-        if (const QString problem = quovara::ConvertArgumentsProblem(convert->values);
-            !problem.isEmpty()) {
-            std::fputs(quovara::UsageErrorText(problem).toLocal8Bit().constData(), stderr);
-            return 2;
-        }
+    if (convert && !quovara::ConvertArgumentsProblem(convert->values).isEmpty()) {
+        return PrintTranslated(
+            argc, argv,
+            [&] {
+                return quovara::UsageErrorText(quovara::ConvertArgumentsProblem(convert->values));
+            },
+            2);
     }
 
     // Everything else opens a window. Qt sees only the arguments before "--" and takes its
@@ -118,8 +133,14 @@ int main(int argc, char** argv) {
     const QString noDisplay =
         quovara::MissingDisplayMessage(shownToQt, QProcessEnvironment::systemEnvironment());
     if (!noDisplay.isEmpty()) {
-        std::fputs((noDisplay + QLatin1Char('\n')).toLocal8Bit().constData(), stderr);
-        return 1;
+        return PrintTranslated(
+            argc, argv,
+            [&] {
+                return quovara::MissingDisplayMessage(shownToQt,
+                                                      QProcessEnvironment::systemEnvironment()) +
+                       QLatin1Char('\n');
+            },
+            1);
     }
     std::vector<char*> qtArgv{argv[0]};
     for (qsizetype i = 0; i < parsed.operandsBeforeEnd; ++i)

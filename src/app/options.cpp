@@ -1,5 +1,7 @@
 #include "options.h"
 
+#include <QCoreApplication>
+
 #include "core/engineinstall.h"
 #include "engine/convertformat.h"
 
@@ -11,30 +13,47 @@ namespace quovara {
 
 namespace {
 
+// The descriptions are translated where --help shows them (context "Options").
 const CommandOption kOptions[] = {
-    {OptionId::Help, "--help", "-h", OptionTakes::Nothing, "", "print this help and end"},
+    {OptionId::Help, "--help", "-h", OptionTakes::Nothing, "",
+     QT_TRANSLATE_NOOP("Options", "print this help and end")},
     {OptionId::Version, "--version", "", OptionTakes::Nothing, "",
-     "print the version of Quovara and of the engine found in the program folder, and end"},
+     QT_TRANSLATE_NOOP(
+         "Options",
+         "print the version of Quovara and of the engine found in the program folder, and end")},
     {OptionId::InstallEngine, InstallEngineSwitch, "", OptionTakes::Rest, "FILE...",
-     "copy the engine files (uharc.exe, Uharc0.4.fns, Uharc0.6.fns, SFX.exe) into the "
-     "program folder, check that the engine runs, and end; no window opens"},
+     QT_TRANSLATE_NOOP(
+         "Options",
+         "copy the engine files (uharc.exe, Uharc0.4.fns, Uharc0.6.fns, SFX.exe) into the "
+         "program folder, check that the engine runs, and end; no window opens")},
     {OptionId::ExtractHere, "--extract-here", "", OptionTakes::Rest, "ARCHIVE...",
-     "extract each archive beside itself, never into or over anything that exists: an "
-     "archive of one top-level folder or one file as it is, any other into a new folder named "
-     "after it (\"name (2)\" when that is taken); a progress window shows each, and the "
-     "status is 0 only when every archive was extracted"},
+     QT_TRANSLATE_NOOP(
+         "Options",
+         "extract each archive beside itself, never into or over anything that exists: an "
+         "archive of one top-level folder or one file as it is, any other into a new folder named "
+         "after it (\"name (2)\" when that is taken); a progress window shows each, and the "
+         "status is 0 only when every archive was extracted")},
     {OptionId::Convert, "--convert", "", OptionTakes::Rest, "FORMAT ARCHIVE...",
-     "convert each archive into FORMAT (zip, 7z, tar.xz or tar.zst) beside itself, as "
-     "name.FORMAT (\"name (2).FORMAT\" when that is taken, never over anything): every "
-     "file is extracted into a private folder, checked against the archive's listing (size and "
-     "CRC-32), written, and the new archive read back; the new archive has no password; a "
-     "progress window shows each, and the status is 0 only when every archive was converted "
-     "and checked"},
+     QT_TRANSLATE_NOOP(
+         "Options",
+         "convert each archive into FORMAT (zip, 7z, tar.xz or tar.zst) beside itself, as "
+         "name.FORMAT (\"name (2).FORMAT\" when that is taken, never over anything): every "
+         "file is extracted into a private folder, checked against the archive's listing (size and "
+         "CRC-32), written, and the new archive read back; the new archive has no password; a "
+         "progress window shows each, and the status is 0 only when every archive was converted "
+         "and checked")},
     {OptionId::ArchiveLocale, "--archive-locale", "", OptionTakes::Value, "LOCALE",
-     "run the engine under LOCALE (for example ru_RU.UTF-8, or ru) to show, search and "
-     "extract the names of archives made on a system of that language; the same as the "
-     "variable QUOVARA_ARCHIVE_LOCALE"},
+     QT_TRANSLATE_NOOP(
+         "Options",
+         "run the engine under LOCALE (for example ru_RU.UTF-8, or ru) to show, search and "
+         "extract the names of archives made on a system of that language; the same as the "
+         "variable QUOVARA_ARCHIVE_LOCALE")},
 };
+
+// An option's description, marked for translation in the table.
+QString described(const char* text) {
+    return QCoreApplication::translate("Options", text);
+}
 
 // The column where descriptions start in the help, and the width they are wrapped to.
 constexpr int kDescriptionColumn = 29;
@@ -120,13 +139,15 @@ ParsedArguments ParseArguments(const QStringList& arguments,
             const QString name = equals < 0 ? a : a.left(equals);
             option = findLong(options, name);
             if (!option) {
-                parsed.error = QStringLiteral("unrecognized option '%1'").arg(a);
+                parsed.error =
+                    QCoreApplication::translate("Options", "unrecognized option '%1'").arg(a);
                 return parsed;
             }
             if (equals >= 0) {
                 if (option->takes != OptionTakes::Value) {
-                    parsed.error =
-                        QStringLiteral("option '%1' doesn't allow an argument").arg(name);
+                    parsed.error = QCoreApplication::translate(
+                                       "Options", "option '%1' doesn't allow an argument")
+                                       .arg(name);
                     return parsed;
                 }
                 value = a.mid(equals + 1);
@@ -148,7 +169,9 @@ ParsedArguments ParseArguments(const QStringList& arguments,
         case OptionTakes::Value:
             if (!hasValue) {
                 if (i + 1 >= arguments.size()) {
-                    parsed.error = QStringLiteral("option '%1' requires an argument").arg(a);
+                    parsed.error =
+                        QCoreApplication::translate("Options", "option '%1' requires an argument")
+                            .arg(a);
                     return parsed;
                 }
                 value = arguments.at(++i);
@@ -167,67 +190,72 @@ ParsedArguments ParseArguments(const QStringList& arguments,
 
 QString ConvertArgumentsProblem(const QStringList& values) {
     if (values.isEmpty())
-        return QStringLiteral("option '--convert' needs a format (%1) and an archive")
+        return QCoreApplication::translate("Options",
+                                           "option '--convert' needs a format (%1) and an archive")
             .arg(ConvertFormatNames().join(QStringLiteral(", ")));
     if (!ConvertFormatByName(values.constFirst()))
-        return QStringLiteral("unknown format '%1' for '--convert' (%2)")
+        return QCoreApplication::translate("Options", "unknown format '%1' for '--convert' (%2)")
             .arg(values.constFirst(), ConvertFormatNames().join(QStringLiteral(", ")));
     if (values.size() < 2)
-        return QStringLiteral("option '--convert' needs an archive after the format");
+        return QCoreApplication::translate("Options",
+                                           "option '--convert' needs an archive after the format");
     return QString();
 }
 
 QString UsageErrorText(const QString& error) {
-    return QStringLiteral("quovara: ") + error +
-           QStringLiteral("\nTry 'quovara --help' for more information.\n");
+    return QStringLiteral("quovara: ") + error + QLatin1Char('\n') +
+           QCoreApplication::translate("Options", "Try 'quovara --help' for more information.") +
+           QLatin1Char('\n');
 }
 
 QString HelpText(std::span<const CommandOption> options) {
-    QString text = QStringLiteral(
-        "Usage: quovara [ARCHIVE.uha]\n"
-        "  or:  quovara \"WORD  PATH\"\n"
-        "  or:  quovara \"WORD \" PATH\n"
-        "  or:  quovara OPTION...\n"
-        "\n"
-        "Quovara browses, extracts, tests and creates UHARC archives (.uha); every\n"
-        "operation is a run of the UHARC engine uharc.exe, kept in the program folder.\n"
-        "\n"
-        "Without arguments the main window opens on the home folder. With the path of\n"
-        "an archive (a name ending in .uha), the archive is opened in it.\n"
-        "\n"
-        "A request word opens one window only, for PATH; Quovara ends when it closes:\n");
+    QString text = QCoreApplication::translate(
+        "Help", "Usage: quovara [ARCHIVE.uha]\n"
+                "  or:  quovara \"WORD  PATH\"\n"
+                "  or:  quovara \"WORD \" PATH\n"
+                "  or:  quovara OPTION...\n"
+                "\n"
+                "Quovara browses, extracts, tests and creates UHARC archives (.uha); every\n"
+                "operation is a run of the UHARC engine uharc.exe, kept in the program folder.\n"
+                "\n"
+                "Without arguments the main window opens on the home folder. With the path of\n"
+                "an archive (a name ending in .uha), the archive is opened in it.\n"
+                "\n"
+                "A request word opens one window only, for PATH; Quovara ends when it closes:\n");
     text += entry(QStringLiteral("extract  PATH"),
-                  QStringLiteral("the Extract window for the archive PATH"));
-    text += entry(QStringLiteral("add  PATH"),
-                  QStringLiteral("the Add window for the file or folder PATH"));
+                  QCoreApplication::translate("Help", "the Extract window for the archive PATH"));
+    text +=
+        entry(QStringLiteral("add  PATH"),
+              QCoreApplication::translate("Help", "the Add window for the file or folder PATH"));
     text += entry(QStringLiteral("sfx  PATH"),
-                  QStringLiteral("the Make SFX window for the archive PATH"));
-    text += QStringLiteral(
-        "The arguments are joined with single blanks, and the word is followed by two\n"
-        "separator characters before the path: two blanks inside one argument\n"
-        "(\"extract  /data/a.uha\"), or a blank at the end of the word and the path as\n"
-        "the next argument (\"extract \" /data/a.uha).\n"
-        "\n"
-        "Options:\n");
+                  QCoreApplication::translate("Help", "the Make SFX window for the archive PATH"));
+    text += QCoreApplication::translate(
+        "Help", "The arguments are joined with single blanks, and the word is followed by two\n"
+                "separator characters before the path: two blanks inside one argument\n"
+                "(\"extract  /data/a.uha\"), or a blank at the end of the word and the path as\n"
+                "the next argument (\"extract \" /data/a.uha).\n"
+                "\n"
+                "Options:\n");
     for (const CommandOption& o : options) {
         QString names = *o.shortName ? QLatin1String(o.shortName) + QStringLiteral(", ")
                                      : QStringLiteral("    ");
         names += QLatin1String(o.name);
         if (o.takes != OptionTakes::Nothing)
             names += QLatin1Char(' ') + QLatin1String(o.valueName);
-        text += entry(names, QLatin1String(o.description));
+        text += entry(names, described(o.description));
     }
     text += entry(QLatin1String(EndOfOptions),
-                  QStringLiteral("end of the options: every argument after it is a request "
-                                 "word or a path, even one that starts with \"-\" (a path can "
-                                 "also be written ./-name.uha)"));
-    text += QStringLiteral(
-        "\n"
-        "Qt's own options, such as -platform NAME, are taken too. Without one, or\n"
-        "QT_QPA_PLATFORM, a window needs DISPLAY or WAYLAND_DISPLAY.\n"
-        "\n"
-        "Exit status: 0 when done; 1 without a graphical display; 2 for an unknown or\n"
-        "misused option. --install-engine ends with 0 to 3, as quovara(1) says.\n");
+                  QCoreApplication::translate(
+                      "Help", "end of the options: every argument after it is a request word or a "
+                              "path, even one that starts with \"-\" (a path can also be written "
+                              "./-name.uha)"));
+    text += QCoreApplication::translate(
+        "Help", "\n"
+                "Qt's own options, such as -platform NAME, are taken too. Without one, or\n"
+                "QT_QPA_PLATFORM, a window needs DISPLAY or WAYLAND_DISPLAY.\n"
+                "\n"
+                "Exit status: 0 when done; 1 without a graphical display; 2 for an unknown or\n"
+                "misused option. --install-engine ends with 0 to 3, as quovara(1) says.\n");
     return text;
 }
 
