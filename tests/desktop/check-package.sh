@@ -155,6 +155,13 @@ grep -q '<launchable type="desktop-id">quovara.desktop</launchable>' "$metainfo"
     fail "metainfo launchable"
 grep -q 'Convert archives to ZIP, 7z, tar.xz or tar.zst' "$metainfo" ||
     fail "the metainfo does not mention the conversions"
+# In twelve languages: the summary, and the desktop entry's texts.
+for lang in cs de es fr it ja pl pt_BR ru tr uk zh_CN; do
+    grep -q "<summary xml:lang=\"$lang\">" "$metainfo" || fail "no $lang summary in the metainfo"
+    grep -q "^Comment\[$lang\]=" "$desktop" || fail "no $lang comment in the desktop entry"
+done
+expect_line "$desktop" 'Name[de]=Hier entpacken'
+expect_line "$kde" 'Name[fr]=Extraire ici avec Quovara'
 
 # The manual page: section 1, the command line, the installer and the environment.
 man="$(gzip -dc "$share/man/man1/quovara.1.gz")" || fail "the manual page is not gzip data"

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Installs Quovara into a temporary prefix and checks the desktop integration: the program,
 # the desktop entry (accepted by desktop-file-validate) with its actions, the file managers'
-# actions, the MIME package for ".uha" files with its glob and "UHA" signature, the file
-# association and the icons.
+# actions (in twelve languages), the MIME package for ".uha" files with its glob and "UHA"
+# signature, the file association and the icons.
 # Usage: check-install.sh <cmake> <build folder>. Exit 77: a needed tool is missing (skipped).
 set -uo pipefail
 cmake="$1"
@@ -81,6 +81,31 @@ for action in "extract-here|--extract-here|Extract here" "convert-zip|--convert 
     has_line "$caja" 'SelectionCount=>0'
     has_line "$caja" 'MimeTypes=application/x-uharc;'
 done
+
+# The shown texts of the desktop entry and of every action in twelve languages: for each key,
+# as many translations in each language as English lines (the program's name, "Quovara", stays
+# untranslated), in UTF-8.
+languages="cs de es fr it ja pl pt_BR ru tr uk zh_CN"
+for f in applications/quovara.desktop kio/servicemenus/*.desktop nemo/actions/*.nemo_action \
+         file-manager/actions/quovara-*.desktop; do
+    for path in "$share"/$f; do
+        name="${path#"$share/"}"
+        iconv -f UTF-8 -t UTF-8 "$path" >/dev/null 2>&1 || fail "$name is not UTF-8"
+        for key in Name GenericName Comment Keywords Tooltip; do
+            english="$(grep "^$key=" "$path" | grep -cvx 'Name=Quovara')"
+            for lang in $languages; do
+                n="$(grep -c "^$key\[$lang\]=" "$path")"
+                [ "$n" = "$english" ] || fail "$name: $n $key[$lang] line(s) for $english English"
+            done
+        done
+    done
+done
+has_line applications/quovara.desktop 'GenericName[de]=Archivverwaltung'
+has_line applications/quovara.desktop 'Name[ru]=Распаковать сюда'
+has_line applications/quovara.desktop 'Name[fr]=Extraire…'
+has_line kio/servicemenus/quovara.desktop 'Name[ja]=Quovara でここに展開'
+has_line nemo/actions/quovara-extract-here.nemo_action 'Name[zh_CN]=用 Quovara 解压到此处'
+has_line file-manager/actions/quovara-extract-here.desktop 'Name[de]=Mit Quovara hier entpacken'
 
 # The MIME database built from the package knows the glob and the signature.
 env -u DESTDIR update-mime-database "$share/mime" >/dev/null 2>&1 || fail "update-mime-database"
