@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 
+#include <vector>
+
 #include "core/engineinstall.h"
 #include "engine/convertformat.h"
 
@@ -74,16 +76,69 @@ const CommandOption* findShort(std::span<const CommandOption> options, const QSt
 }
 
 // `text` wrapped at blanks into lines of at most `width - indent` characters, each indented.
+// How many terminal columns a character takes: two for the wide letters of Chinese, Japanese
+// and Korean, one for the rest.
+int columns(char32_t c) {
+    const bool wide = (c >= 0x1100 && c <= 0x115F) || (c >= 0x2E80 && c <= 0xA4CF) ||
+                      (c >= 0xAC00 && c <= 0xD7A3) || (c >= 0xF900 && c <= 0xFAFF) ||
+                      (c >= 0xFE30 && c <= 0xFE4F) || (c >= 0xFF00 && c <= 0xFF60) ||
+                      (c >= 0xFFE0 && c <= 0xFFE6) || (c >= 0x20000 && c <= 0x3FFFD);
+    return wide ? 2 : 1;
+}
+
+int columns(const QString& text) {
+    int n = 0;
+    for (char32_t c : text.toUcs4())
+        n += columns(c);
+    return n;
+}
+
+// `text` wrapped into lines of at most `width - indent` columns, each indented. Lines break at
+// blanks, and also between two wide letters (Chinese and Japanese use no blanks).
 QString wrapped(const QString& text, int indent, int width) {
     const QString pad(indent, QLatin1Char(' '));
+    // The pieces a line may break between, each with whether a blank goes before it.
+    struct Piece {
+        QString text;
+        bool blankBefore;
+    };
+    std::vector<Piece> pieces;
+    for (const QString& word : text.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+        bool first = true; // the word's first piece has a blank before it
+        QString run;       // narrow letters, kept together
+        for (char32_t c : word.toUcs4()) {
+            if (columns(c) == 1) {
+                run += QString::fromUcs4(&c, 1);
+                continue;
+            }
+            if (!run.isEmpty()) {
+                pieces.push_back({run, first});
+                first = false;
+                run.clear();
+            }
+            pieces.push_back({QString::fromUcs4(&c, 1), first});
+            first = false;
+        }
+        if (!run.isEmpty())
+            pieces.push_back({run, first});
+    }
     QString out;
     QString line;
-    for (const QString& word : text.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
-        if (!line.isEmpty() && indent + line.size() + 1 + word.size() > width) {
+    int used = 0;
+    for (const Piece& piece : pieces) {
+        const int blank = piece.blankBefore && !line.isEmpty() ? 1 : 0;
+        const int need = columns(piece.text);
+        if (!line.isEmpty() && indent + used + blank + need > width) {
             out += pad + line + QLatin1Char('\n');
             line.clear();
+            used = 0;
         }
-        line += (line.isEmpty() ? QString() : QStringLiteral(" ")) + word;
+        if (!line.isEmpty() && piece.blankBefore) {
+            line += QLatin1Char(' ');
+            ++used;
+        }
+        line += piece.text;
+        used += need;
     }
     if (!line.isEmpty())
         out += pad + line + QLatin1Char('\n');
