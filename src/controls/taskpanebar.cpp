@@ -191,10 +191,10 @@ bool TaskPaneBar::OpenLink(const QString& sLink) {
 }
 
 void TaskPaneBar::About() {
-    ShowControlMessage(this, ControlMessageIcon::Information, QStringLiteral("TaskPaneBar"),
-                       QStringLiteral("TaskPaneBar Control.\n"
-                                      "A pane of collapsible task groups with links, details "
-                                      "and hosted controls, drawn in the desktop's colours."));
+    ShowControlMessage(this, ControlMessageIcon::Information, tr("TaskPaneBar"),
+                       tr("TaskPaneBar Control.\n"
+                          "A pane of collapsible task groups with links, details "
+                          "and hosted controls, drawn in the desktop's colours."));
 }
 
 void TaskPaneBar::ClearStructure() {
@@ -292,9 +292,9 @@ int TaskPaneBar::findItem(const Group& g, const QVariant& item) const {
 }
 
 void TaskPaneBar::itemNotFound() {
-    ShowControlMessage(this, ControlMessageIcon::Critical, QStringLiteral("glakre"),
-                       QStringLiteral("An Error has ocurred!\n"
-                                      "Item Key Especified doesn't match with the existing Items"));
+    ShowControlMessage(this, ControlMessageIcon::Critical, tr("glakre"),
+                       tr("An Error has ocurred!\n"
+                          "Item Key Especified doesn't match with the existing Items"));
 }
 
 TaskPaneBar::Item* TaskPaneBar::itemToChange(const QVariant& Group, const QVariant& item,

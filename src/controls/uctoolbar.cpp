@@ -27,8 +27,8 @@ ucToolbar::ucToolbar(QWidget* parent) : QWidget(parent) {
     m_overflow->setObjectName(QStringLiteral("Overflow"));
     m_overflow->setArrowType(Qt::DownArrow);
     m_overflow->setAutoRaise(true);
-    m_overflow->setToolTip(QStringLiteral("More buttons"));
-    m_overflow->setAccessibleName(QStringLiteral("More buttons"));
+    m_overflow->setToolTip(tr("More buttons"));
+    m_overflow->setAccessibleName(tr("More buttons"));
     m_overflow->hide();
     connect(m_overflow, &QToolButton::clicked, this, &ucToolbar::showOverflowMenu);
 }

@@ -79,15 +79,15 @@ void XP_ProgressBar::SetValue(int value) {
 
 QString XP_ProgressBar::DisplayText() const {
     if (m_scrolling == 2)
-        return QStringLiteral("Searching..");
+        return tr("Searching..");
     if (m_max == 0)
-        return QStringLiteral("0 %"); // no percentage can be made; show nought
+        return tr("%1 %").arg(0); // no percentage can be made; show nought
     // Whole part (rounded down) of Value / Max * 100, worked out exactly in integers.
     const qint64 scaled = qint64(m_value) * 100;
     qint64 whole = scaled / m_max;
     if ((scaled % m_max != 0) && ((scaled < 0) != (m_max < 0)))
         --whole;
-    return QString::number(whole) + QStringLiteral(" %");
+    return tr("%1 %").arg(whole);
 }
 
 void XP_ProgressBar::ReadProperties(const QVariantMap& PropBag) {

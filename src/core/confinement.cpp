@@ -2,6 +2,7 @@
 
 #include "logging.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -93,13 +94,16 @@ bool LauncherDrive::make(const QString& prefix, const QString& folder, QString* 
         qCDebug(lcRunner) << "could not make the destination" << target;
     if (!QFileInfo(target).isDir()) {
         if (error)
-            *error = QStringLiteral("the destination %1 is not a folder").arg(folder);
+            *error =
+                QCoreApplication::translate("Confinement", "the destination %1 is not a folder")
+                    .arg(folder);
         return false;
     }
     const QString devices = prefix + QStringLiteral("/dosdevices");
     if (!QDir().mkpath(devices)) {
         if (error)
-            *error = QStringLiteral("cannot make the folder %1").arg(devices);
+            *error = QCoreApplication::translate("Confinement", "cannot make the folder %1")
+                         .arg(devices);
         return false;
     }
 #ifdef Q_OS_UNIX
@@ -117,15 +121,17 @@ bool LauncherDrive::make(const QString& prefix, const QString& folder, QString* 
             return true;
         }
         if (errno != EEXIST) {
+            const QString reason = QString::fromLocal8Bit(std::strerror(errno));
             if (error)
-                *error = QStringLiteral("cannot link a drive to %1: %2")
-                             .arg(target, QString::fromLocal8Bit(std::strerror(errno)));
+                *error = QCoreApplication::translate("Confinement", "cannot link a drive to %1: %2")
+                             .arg(target, reason);
             return false;
         }
     }
 #endif
     if (error)
-        *error = QStringLiteral("no drive letter of the engine's prefix is free");
+        *error = QCoreApplication::translate("Confinement",
+                                             "no drive letter of the engine's prefix is free");
     return false;
 }
 
@@ -151,7 +157,7 @@ int MakeWriteConfinement(const QString& folder, QString* error) {
         ::syscall(SYS_landlock_create_ruleset, nullptr, 0, LANDLOCK_CREATE_RULESET_VERSION);
     if (abi < 1) {
         if (error)
-            *error = QStringLiteral("this system has no Landlock");
+            *error = QCoreApplication::translate("Confinement", "this system has no Landlock");
         return -1;
     }
     __u64 handled = LANDLOCK_ACCESS_FS_WRITE_FILE | LANDLOCK_ACCESS_FS_REMOVE_DIR |
@@ -172,9 +178,11 @@ int MakeWriteConfinement(const QString& folder, QString* error) {
     const int ruleset =
         static_cast<int>(::syscall(SYS_landlock_create_ruleset, &attr, sizeof attr, 0));
     if (ruleset < 0) {
+        const QString reason = QString::fromLocal8Bit(std::strerror(errno));
         if (error)
-            *error = QStringLiteral("cannot make a Landlock rule set: %1")
-                         .arg(QString::fromLocal8Bit(std::strerror(errno)));
+            *error =
+                QCoreApplication::translate("Confinement", "cannot make a Landlock rule set: %1")
+                    .arg(reason);
         return -1;
     }
     const int dir = ::open(QFile::encodeName(folder).constData(), O_PATH | O_DIRECTORY | O_CLOEXEC);
@@ -183,9 +191,10 @@ int MakeWriteConfinement(const QString& folder, QString* error) {
     beneath.parent_fd = dir;
     if (dir < 0 ||
         ::syscall(SYS_landlock_add_rule, ruleset, LANDLOCK_RULE_PATH_BENEATH, &beneath, 0) != 0) {
+        const QString reason = QString::fromLocal8Bit(std::strerror(errno));
         if (error)
-            *error = QStringLiteral("cannot confine the job to %1: %2")
-                         .arg(folder, QString::fromLocal8Bit(std::strerror(errno)));
+            *error = QCoreApplication::translate("Confinement", "cannot confine the job to %1: %2")
+                         .arg(folder, reason);
         if (dir >= 0)
             ::close(dir);
         ::close(ruleset);
@@ -196,7 +205,7 @@ int MakeWriteConfinement(const QString& folder, QString* error) {
 #else
     Q_UNUSED(folder);
     if (error)
-        *error = QStringLiteral("this system has no Landlock");
+        *error = QCoreApplication::translate("Confinement", "this system has no Landlock");
     return -1;
 #endif
 }

@@ -128,19 +128,22 @@ QString ShellOpenFailureText(int code, const QString& parameters) {
     QString text;
     switch (code) {
     case 0:
-        text = QStringLiteral("Memoria o risorse del sistema esaurite. ");
+        text = QCoreApplication::translate("quovara::Desktop",
+                                           "Memoria o risorse del sistema esaurite. ");
         break;
     case 2:
-        text = QStringLiteral("Impossibile trovare il file. ");
+        text = QCoreApplication::translate("quovara::Desktop", "Impossibile trovare il file. ");
         break;
     case 3:
-        text = QStringLiteral("Impossibile trovare la cartella. ");
+        text = QCoreApplication::translate("quovara::Desktop", "Impossibile trovare la cartella. ");
         break;
     case 11:
-        text = QString::fromUtf8("Il formato del file non \u00e8 valido. ");
+        text =
+            QCoreApplication::translate("quovara::Desktop", "Il formato del file non è valido. ");
         break;
     case 31:
-        text = QStringLiteral(
+        text = QCoreApplication::translate(
+            "quovara::Desktop",
             "Il sistema in uso non presenta alcuna associazione per questo tipo di file");
         break;
     default:
@@ -149,7 +152,7 @@ QString ShellOpenFailureText(int code, const QString& parameters) {
     text += QStringLiteral("\r\r");
     const QString trimmed = parameters.trimmed();
     if (!trimmed.isEmpty())
-        text += QStringLiteral("Parametri: '") + trimmed + QStringLiteral("'");
+        text += QCoreApplication::translate("quovara::Desktop", "Parametri: '%1'").arg(trimmed);
     return text;
 }
 

@@ -9,6 +9,7 @@
 #include "places.h"
 #include "scriptexec.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -97,7 +98,8 @@ bool installFile(const QString& source, const QString& folder, const QString& na
         }
     }
     if (!QFile::setPermissions(target, modeFor(name))) {
-        error = QStringLiteral("cannot set the permissions of %1").arg(target);
+        error = QCoreApplication::translate("EngineInstall", "cannot set the permissions of %1")
+                    .arg(target);
         return false;
     }
     const QStringList entries = QDir(folder).entryList(QDir::Files | QDir::Hidden);
@@ -216,8 +218,8 @@ TerminalRun RunOnTerminal(const QString& program, const QStringList& arguments,
     ::close(failure[0]);
     run.started = !execFailed;
     if (execFailed)
-        run.startError =
-            QStringLiteral("%1 could not be started: %2").arg(program, qt_error_string(execErrno));
+        run.startError = QCoreApplication::translate("EngineInstall", "%1 could not be started: %2")
+                             .arg(program, qt_error_string(execErrno));
 
     QElapsedTimer clock;
     clock.start();
@@ -325,9 +327,11 @@ EngineCheck CheckEngine(const QString& folder, int timeoutMs) {
 int InstallEngineCommand(const QStringList& files, QTextStream& out, QTextStream& err) {
     const QString expected = InstallableEngineFileNames().join(QStringLiteral(", "));
     if (files.isEmpty()) {
-        err << "Usage: quovara " << InstallEngineSwitch << " FILE...\n"
-            << "Copies the engine files into Quovara's program folder. Expected names: " << expected
-            << " (in any case).\n";
+        err << QCoreApplication::translate("EngineInstall",
+                                           "Usage: quovara %1 FILE...\n"
+                                           "Copies the engine files into Quovara's program "
+                                           "folder. Expected names: %2 (in any case).\n")
+                   .arg(QLatin1String(InstallEngineSwitch), expected);
         return 1;
     }
     // Every name is checked before anything is copied.
@@ -335,11 +339,13 @@ int InstallEngineCommand(const QStringList& files, QTextStream& out, QTextStream
     for (const QString& file : files) {
         const QFileInfo info(file);
         if (InstallableEngineFileName(info.fileName()).isEmpty()) {
-            err << "Not an engine file: " << file << "\n"
-                << "Expected names: " << expected << " (in any case).\n";
+            err << QCoreApplication::translate("EngineInstall",
+                                               "Not an engine file: %1\n"
+                                               "Expected names: %2 (in any case).\n")
+                       .arg(file, expected);
             named = false;
         } else if (!info.isFile()) {
-            err << "No such file: " << file << "\n";
+            err << QCoreApplication::translate("EngineInstall", "No such file: %1\n").arg(file);
             named = false;
         }
     }
@@ -351,10 +357,12 @@ int InstallEngineCommand(const QStringList& files, QTextStream& out, QTextStream
         const QString name = InstallableEngineFileName(QFileInfo(file).fileName());
         QString error;
         if (!installFile(file, folder, name, error)) {
-            err << "Could not copy " << file << " to " << folder << ": " << error << "\n";
+            err << QCoreApplication::translate("EngineInstall", "Could not copy %1 to %2: %3\n")
+                       .arg(file, folder, error);
             return 1;
         }
-        out << "Installed " << PathStyle::host().join(folder, name) << "\n";
+        out << QCoreApplication::translate("EngineInstall", "Installed %1\n")
+                   .arg(PathStyle::host().join(folder, name));
     }
     out.flush();
 
@@ -375,43 +383,64 @@ int InstallEngineCommand(const QStringList& files, QTextStream& out, QTextStream
     const EngineCheck check = CheckEngine(folder, checkTimeoutMs());
     switch (check.result) {
     case EngineCheck::Runs:
-        out << "The engine runs" << (check.launcher.isEmpty() ? "" : " through ") << check.launcher
-            << ": " << check.banner << "\n";
+        if (check.launcher.isEmpty())
+            out << QCoreApplication::translate("EngineInstall", "The engine runs: %1\n")
+                       .arg(check.banner);
+        else
+            out << QCoreApplication::translate("EngineInstall", "The engine runs through %1: %2\n")
+                       .arg(check.launcher, check.banner);
         if (!check.launcher.isEmpty()) {
             const EngineTextCodecs codecs = WindowsEngineCodecs(EngineLocale());
-            out << "It runs in the wine prefix " << LauncherPrefixFolder() << " under the locale "
-                << codecs.locale << ": code page " << codecs.pages.oem
-                << " for its text and the names it stores, " << codecs.pages.ansi
-                << " for the names it reads.\n";
+            out << QCoreApplication::translate(
+                       "EngineInstall",
+                       "It runs in the wine prefix %1 under the locale %2: code page %3 for its "
+                       "text and the names it stores, %4 for the names it reads.\n")
+                       .arg(LauncherPrefixFolder(), codecs.locale,
+                            QString::number(codecs.pages.oem), QString::number(codecs.pages.ansi));
             if (!LocaleInstalled(codecs.locale))
                 out << LocaleMissingMessage(codecs.locale) << "\n";
         }
         if (QDir(ProgramFolder()) != QDir(folder))
-            out << "Note: Quovara now uses the engine in " << ProgramFolder()
-                << ", which holds a uharc.exe of its own.\n";
+            out << QCoreApplication::translate("EngineInstall",
+                                               "Note: Quovara now uses the engine in %1, which "
+                                               "holds a uharc.exe of its own.\n")
+                       .arg(ProgramFolder());
         return 0;
     case EngineCheck::NoEngine:
-        err << "There is no uharc.exe in " << folder
-            << ": Quovara needs it. Install it with: quovara " << InstallEngineSwitch
-            << " /path/to/uharc.exe\n";
+        err << QCoreApplication::translate("EngineInstall",
+                                           "There is no uharc.exe in %1: Quovara needs it. "
+                                           "Install it with: quovara %2 /path/to/uharc.exe\n")
+                   .arg(folder, QLatin1String(InstallEngineSwitch));
         return 2;
     case EngineCheck::NoLauncher:
         if (!check.output.isEmpty())
             err << check.output << "\n";
-        err << "wine was not found (set QUOVARA_WINE to the launcher, or put wine on the "
-               "PATH): Quovara runs the engine, a Windows program, with it.\n"
-            << "On Debian, install it with:\n    " << WineInstallCommand << "\n";
+        err << QCoreApplication::translate(
+                   "EngineInstall",
+                   "wine was not found (set QUOVARA_WINE to the launcher, or put wine on the "
+                   "PATH): Quovara runs the engine, a Windows program, with it.\n"
+                   "On Debian, install it with:\n    %1\n")
+                   .arg(QLatin1String(WineInstallCommand));
         return 3;
     case EngineCheck::LauncherIncomplete:
-        err << check.launcher << " cannot run the engine " << check.engine
-            << ": its 32-bit part is missing.\n"
+        err << QCoreApplication::translate("EngineInstall",
+                                           "%1 cannot run the engine %2: its 32-bit part is "
+                                           "missing.\n")
+                   .arg(check.launcher, check.engine)
             << lastLines(check.output, 5) << "\n"
-            << "On Debian, install it with:\n    " << WineInstallCommand << "\n";
+            << QCoreApplication::translate("EngineInstall", "On Debian, install it with:\n    %1\n")
+                   .arg(QLatin1String(WineInstallCommand));
         return 3;
     case EngineCheck::NoBanner:
-        err << "The engine " << check.engine << " did not print its banner"
-            << (check.launcher.isEmpty() ? QString() : QStringLiteral(" through ") + check.launcher)
-            << ".\n";
+        if (check.launcher.isEmpty())
+            err << QCoreApplication::translate("EngineInstall",
+                                               "The engine %1 did not print its banner.\n")
+                       .arg(check.engine);
+        else
+            err << QCoreApplication::translate("EngineInstall",
+                                               "The engine %1 did not print its banner through "
+                                               "%2.\n")
+                       .arg(check.engine, check.launcher);
         if (!check.output.trimmed().isEmpty())
             err << lastLines(check.output, 5) << "\n";
         return 2;

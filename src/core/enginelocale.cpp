@@ -4,6 +4,7 @@
 #include "logging.h"
 #include "places.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QMutex>
 
@@ -213,7 +214,8 @@ bool LocaleInstalled(const QString& locale) {
 }
 
 QString LocaleMissingMessage(const QString& locale) {
-    return QStringLiteral(
+    return QCoreApplication::translate(
+               "EngineLocale",
                "The locale %1 is not installed on this system, so the engine cannot read or "
                "write names in its letters. Add it with\n"
                "sudo sed -i 's/^# *%1 /%1 /' /etc/locale.gen && sudo locale-gen\n"
@@ -296,9 +298,8 @@ EngineTextCodecs ActiveEngineCodecs() {
 }
 
 QString CodePageDescription(const EngineTextCodecs& codecs, bool ansi) {
-    return QStringLiteral("code page %1 (the locale %2)")
-        .arg(ansi ? codecs.pages.ansi : codecs.pages.oem)
-        .arg(codecs.locale);
+    return QCoreApplication::translate("EngineLocale", "code page %1 (the locale %2)")
+        .arg(QString::number(ansi ? codecs.pages.ansi : codecs.pages.oem), codecs.locale);
 }
 
 } // namespace quovara

@@ -3,6 +3,8 @@
 #include "enginefiles.h"
 #include "places.h"
 
+#include <QCoreApplication>
+
 namespace quovara {
 
 namespace {
@@ -36,17 +38,31 @@ InstalledEngine FindInstalledEngine(const QString& folder) {
 
 QString InstalledEngineText(const InstalledEngine& engine) {
     if (engine.engine.isEmpty())
-        return QStringLiteral("Engine: none in %1 (quovara --install-engine puts it there)\n")
+        return QCoreApplication::translate(
+                   "EngineVersion", "Engine: none in %1 (quovara --install-engine puts it there)\n")
             .arg(engine.folder);
-    const QString version = engine.version.isEmpty() ? QStringLiteral(", version not known")
-                                                     : QLatin1Char(' ') + engine.version;
-    QString text =
-        engine.windowsProgram
-            ? QStringLiteral("Engine: UHARC%1 (Windows program, run through wine) in %2\n")
-            : QStringLiteral("Engine: demonstration stand-in%1 (not UHARC) in %2\n");
-    text = text.arg(version, engine.folder);
+    QString text;
+    if (engine.version.isEmpty())
+        text = engine.windowsProgram
+                   ? QCoreApplication::translate("EngineVersion",
+                                                 "Engine: UHARC, version not known (Windows "
+                                                 "program, run through wine) in %1\n")
+                         .arg(engine.folder)
+                   : QCoreApplication::translate("EngineVersion",
+                                                 "Engine: demonstration stand-in, version not "
+                                                 "known (not UHARC) in %1\n")
+                         .arg(engine.folder);
+    else
+        text = engine.windowsProgram
+                   ? QCoreApplication::translate(
+                         "EngineVersion",
+                         "Engine: UHARC %1 (Windows program, run through wine) in %2\n")
+                         .arg(engine.version, engine.folder)
+                   : QCoreApplication::translate(
+                         "EngineVersion", "Engine: demonstration stand-in %1 (not UHARC) in %2\n")
+                         .arg(engine.version, engine.folder);
     if (!engine.storedVersions.isEmpty())
-        text += QStringLiteral("Stored engine versions: %1\n")
+        text += QCoreApplication::translate("EngineVersion", "Stored engine versions: %1\n")
                     .arg(engine.storedVersions.join(QStringLiteral(", ")));
     return text;
 }

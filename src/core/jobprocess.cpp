@@ -11,6 +11,7 @@
 #include "places.h"
 #include "processcontrol.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -74,12 +75,14 @@ QString engineOf(const QString& written, QString& error) {
     const QString resolved =
         named.isAbsolute() ? ResolveEngineFile(named.absolutePath(), named.fileName()) : QString();
     if (engine.isEmpty() || resolved.isEmpty()) {
-        error = QStringLiteral("the engine %1 does not exist").arg(written);
+        error =
+            QCoreApplication::translate("JobProcess", "the engine %1 does not exist").arg(written);
         return QString();
     }
     if (QFileInfo(resolved).canonicalFilePath() != QFileInfo(engine).canonicalFilePath()) {
-        error = QStringLiteral("the job names %1, which is not the engine of the program "
-                               "folder %2; it was not started")
+        error = QCoreApplication::translate(
+                    "JobProcess", "the job names %1, which is not the engine of the program "
+                                  "folder %2; it was not started")
                     .arg(written, program);
         return QString();
     }
@@ -115,7 +118,7 @@ QString writeLauncherList(const QString& listPath, const QString& copyPath,
                           const EngineTextCodecs& engine) {
     QFile list(listPath);
     if (!list.open(QIODevice::ReadOnly))
-        return QStringLiteral("the list file %1 cannot be read: %2")
+        return QCoreApplication::translate("JobProcess", "the list file %1 cannot be read: %2")
             .arg(listPath, list.errorString());
     const QString text = QString::fromLocal8Bit(list.readAll());
     QStringList lines;
@@ -127,7 +130,8 @@ QString writeLauncherList(const QString& listPath, const QString& copyPath,
                    : QString(line).replace(QLatin1Char('/'), QLatin1Char('\\'));
         const QString why = ValueProblemForEngine(line, QStringLiteral("name"), false, engine);
         if (!why.isEmpty())
-            return QStringLiteral("the list file %1 names a file the engine cannot take. %2")
+            return QCoreApplication::translate(
+                       "JobProcess", "the list file %1 names a file the engine cannot take. %2")
                 .arg(listPath, why);
         lines << line;
     }
@@ -135,7 +139,9 @@ QString writeLauncherList(const QString& listPath, const QString& copyPath,
         copyPath, engine.text.encode(lines.join(QStringLiteral("\r\n")) +
                                      (lines.isEmpty() ? QString() : QStringLiteral("\r\n"))));
     if (!why.isEmpty())
-        return QStringLiteral("the list file's copy %1 cannot be written: %2").arg(copyPath, why);
+        return QCoreApplication::translate("JobProcess",
+                                           "the list file's copy %1 cannot be written: %2")
+            .arg(copyPath, why);
     return QString();
 }
 
@@ -152,19 +158,24 @@ bool JobProcess::start(const QString& scriptPath, const QString& workingFolder) 
     // from the pieces it was written from, never from a re-reading of its text.
     const std::optional<WrittenScript> written = WrittenJobScript(scriptPath);
     if (!written)
-        return refuse(
-            QStringLiteral("the job script %1 was not written by this program").arg(scriptPath));
+        return refuse(QCoreApplication::translate(
+                          "JobProcess", "the job script %1 was not written by this program")
+                          .arg(scriptPath));
     bool readOk = false;
     const QByteArray onDisk = readScript(scriptPath, readOk);
     if (!readOk)
-        return refuse(QStringLiteral("cannot read the job script %1").arg(scriptPath));
+        return refuse(QCoreApplication::translate("JobProcess", "cannot read the job script %1")
+                          .arg(scriptPath));
     if (onDisk != written->bytes)
         return refuse(
-            QStringLiteral("the job script %1 was changed after it was written; it was not run")
+            QCoreApplication::translate(
+                "JobProcess", "the job script %1 was changed after it was written; it was not run")
                 .arg(scriptPath));
     const ParsedJob& job = written->job;
     if (!job.isValid())
-        return refuse(QStringLiteral("the job script %1 names no command").arg(scriptPath));
+        return refuse(
+            QCoreApplication::translate("JobProcess", "the job script %1 names no command")
+                .arg(scriptPath));
     // The script's own "cd /d" line comes first: the Add job runs in the folder that holds
     // what it adds, so that the archive stores names relative to it.
     const QString folder = !job.workingFolder.isEmpty() ? job.workingFolder
@@ -179,8 +190,9 @@ bool JobProcess::start(const QString& scriptPath, const QString& workingFolder) 
     if (!job.outputTarget.isEmpty()) {
         target = QDir::cleanPath(QFileInfo(QDir(folder), job.outputTarget).absoluteFilePath());
         if (target != QDir::cleanPath(WorkFile(names::ConsoleOutput)))
-            return refuse(QStringLiteral("the job asks to write its output to %1, which is not "
-                                         "the console output file of the work folder")
+            return refuse(QCoreApplication::translate(
+                              "JobProcess", "the job asks to write its output to %1, which is not "
+                                            "the console output file of the work folder")
                               .arg(job.outputTarget));
     }
 
@@ -201,8 +213,10 @@ bool JobProcess::start(const QString& scriptPath, const QString& workingFolder) 
     if (windowsProgram) {
         const QString launcher = LauncherPath();
         if (launcher.isEmpty())
-            return refuse(QStringLiteral("%1 is a Windows program and no launcher (wine) was found")
-                              .arg(engine));
+            return refuse(
+                QCoreApplication::translate(
+                    "JobProcess", "%1 is a Windows program and no launcher (wine) was found")
+                    .arg(engine));
         // The engine runs in a wine prefix of its own, made on first use.
         QString prefixError;
         if (!EnsureLauncherPrefix(launcher, &prefixError))
@@ -223,8 +237,10 @@ bool JobProcess::start(const QString& scriptPath, const QString& workingFolder) 
                 if (IsAddJob(job.arguments)) {
                     const QFileInfo info(archive);
                     if (!drive_.make(LauncherPrefixFolder(), info.absolutePath(), &why))
-                        return refuse(QStringLiteral("the archive's folder cannot be given to the "
-                                                     "engine: %1")
+                        return refuse(QCoreApplication::translate(
+                                          "JobProcess",
+                                          "the archive's folder cannot be given to the "
+                                          "engine: %1")
                                           .arg(why));
                     driveFolder_ = info.absolutePath();
                     driveRoot_ = drive_.root();
@@ -232,7 +248,8 @@ bool JobProcess::start(const QString& scriptPath, const QString& workingFolder) 
                 } else {
                     if (!archiveLink_.make(WorkFolder(), archive, &why))
                         return refuse(
-                            QStringLiteral("the archive cannot be given to the engine: %1")
+                            QCoreApplication::translate(
+                                "JobProcess", "the archive cannot be given to the engine: %1")
                                 .arg(why));
                     args[archiveAt - 1] = archiveLink_.path();
                 }
@@ -243,8 +260,9 @@ bool JobProcess::start(const QString& scriptPath, const QString& workingFolder) 
             // as its target, and Windows path rules stop ".." there.
             QString driveError;
             if (!drive_.make(LauncherPrefixFolder(), destination, &driveError))
-                return refuse(QStringLiteral("the extraction cannot be confined to its "
-                                             "destination: %1")
+                return refuse(QCoreApplication::translate(
+                                  "JobProcess", "the extraction cannot be confined to its "
+                                                "destination: %1")
                                   .arg(driveError));
             driveFolder_ = destination;
             driveRoot_ = drive_.root();
@@ -313,8 +331,9 @@ bool JobProcess::start(const QString& scriptPath, const QString& workingFolder) 
             O_WRONLY | O_CREAT | O_NOFOLLOW | O_CLOEXEC | (job.appendOutput ? O_APPEND : O_TRUNC);
         outFd = ::open(QFile::encodeName(target).constData(), flags, 0600);
         if (outFd < 0)
-            return refuse(QStringLiteral("cannot create the output file %1: %2")
-                              .arg(target, QString::fromLocal8Bit(std::strerror(errno))));
+            return refuse(
+                QCoreApplication::translate("JobProcess", "cannot create the output file %1: %2")
+                    .arg(target, QString::fromLocal8Bit(std::strerror(errno))));
     }
     // The engine needs a console: without one the real engine waits for a key for ever, and it
     // asks its questions there. Every engine gets a pseudo-terminal as standard input and
@@ -384,8 +403,8 @@ bool JobProcess::start(const QString& scriptPath, const QString& workingFolder) 
 #endif
     if (!started) {
         closeTerminal();
-        return refuse(
-            QStringLiteral("%1 could not be started: %2").arg(program_, process_->errorString()));
+        return refuse(QCoreApplication::translate("JobProcess", "%1 could not be started: %2")
+                          .arg(program_, process_->errorString()));
     }
     group_ = process_->processId();
     RegisterJobGroup(group_);

@@ -8,6 +8,7 @@
 #include "logging.h"
 #include "places.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -174,6 +175,29 @@ QString fieldName(const ScriptPart& part) {
     return part.field.isEmpty() ? QStringLiteral("command line") : part.field;
 }
 
+// The names of the fields a message can name, marked so that a catalogue translates them.
+[[maybe_unused]] const char* const kFieldNames[] = {
+    QT_TRANSLATE_NOOP("JobScript", "archive"),
+    QT_TRANSLATE_NOOP("JobScript", "archive name"),
+    QT_TRANSLATE_NOOP("JobScript", "command line"),
+    QT_TRANSLATE_NOOP("JobScript", "destination folder"),
+    QT_TRANSLATE_NOOP("JobScript", "dictionary size"),
+    QT_TRANSLATE_NOOP("JobScript", "exclusion"),
+    QT_TRANSLATE_NOOP("JobScript", "file type"),
+    QT_TRANSLATE_NOOP("JobScript", "item"),
+    QT_TRANSLATE_NOOP("JobScript", "list file"),
+    QT_TRANSLATE_NOOP("JobScript", "name"),
+    QT_TRANSLATE_NOOP("JobScript", "password"),
+    QT_TRANSLATE_NOOP("JobScript", "program folder"),
+    QT_TRANSLATE_NOOP("JobScript", "source"),
+    QT_TRANSLATE_NOOP("JobScript", "temporary folder"),
+};
+
+// A field's name as a message shows it (the field itself stays the key that code compares).
+QString shownField(const QString& field) {
+    return QCoreApplication::translate("JobScript", field.toUtf8().constData());
+}
+
 // How much of a path the engine reads as it is written: the job runner hands it a plain
 // stand-in for the rest (launcherpaths.h, confinement.h).
 enum class PlainPath { None, Whole, FileName };
@@ -235,14 +259,19 @@ QString ValueProblemForEngine(const QString& value, const QString& field, bool s
                               const EngineTextCodecs& engine) {
     if (!engine.windows)
         return QString();
-    const QString what = secret ? QStringLiteral("The password holds")
-                                : QStringLiteral("The %1\n%2\nholds").arg(field, value);
     bool ascii = true;
     for (const QChar c : value)
         ascii = ascii && c.unicode() < 0x80;
-    if (!ascii && !LocaleInstalled(engine.locale))
-        return what + QStringLiteral(" letters beyond ASCII. ") +
-               LocaleMissingMessage(engine.locale) + QStringLiteral(" Nothing was run.");
+    if (!ascii && !LocaleInstalled(engine.locale)) {
+        const QString install = LocaleMissingMessage(engine.locale);
+        if (secret)
+            return QCoreApplication::translate(
+                       "JobScript", "The password holds letters beyond ASCII. %1 Nothing was run.")
+                .arg(install);
+        return QCoreApplication::translate(
+                   "JobScript", "The %1\n%2\nholds letters beyond ASCII. %3 Nothing was run.")
+            .arg(shownField(field), value, install);
+    }
     // The engine reads a name through the ANSI code page and keeps it in the OEM one: a
     // letter either lacks does not come back (the real engine then says it cannot read the
     // file, "?uro.txt" for "€uro.txt" under code page 437).
@@ -257,12 +286,12 @@ QString ValueProblemForEngine(const QString& value, const QString& field, bool s
     }
     QString pages;
     if (!lackAnsi.isEmpty() && !lackOem.isEmpty() && engine.pages.ansi != engine.pages.oem)
-        pages = QStringLiteral("code pages %1 and %2 lack")
-                    .arg(engine.pages.ansi)
-                    .arg(engine.pages.oem);
+        pages = QCoreApplication::translate("JobScript", "(its code pages %1 and %2 lack them)")
+                    .arg(QString::number(engine.pages.ansi), QString::number(engine.pages.oem));
     else
-        pages = QStringLiteral("code page %1 lacks")
-                    .arg(lackAnsi.isEmpty() ? engine.pages.oem : engine.pages.ansi);
+        pages =
+            QCoreApplication::translate("JobScript", "(its code page %1 lacks them)")
+                .arg(QString::number(lackAnsi.isEmpty() ? engine.pages.oem : engine.pages.ansi));
     // The letters of a password are never shown. Each letter is named too: a Cyrillic "о"
     // looks like a Latin "o".
     QString letters;
@@ -279,18 +308,24 @@ QString ValueProblemForEngine(const QString& value, const QString& field, bool s
     const QString locale = secret ? QString() : LocaleForLetters(missing);
     const QString goOn =
         locale.isEmpty()
-            ? QStringLiteral("start Quovara with \"--archive-locale LOCALE\" naming a locale "
-                             "whose code pages have them.")
-            : QStringLiteral("start Quovara with \"--archive-locale %1\", a locale whose code "
-                             "pages have them.")
+            ? QCoreApplication::translate("JobScript",
+                                          "start Quovara with \"--archive-locale LOCALE\" "
+                                          "naming a locale whose code pages have them.")
+            : QCoreApplication::translate("JobScript",
+                                          "start Quovara with \"--archive-locale %1\", a locale "
+                                          "whose code pages have them.")
                   .arg(locale);
-    return what +
-           QStringLiteral(" letters that the engine cannot take under the locale %1%2 "
-                          "(its %3 them). Nothing was run. To go on, %4 with other "
-                          "letters, or %5")
-               .arg(engine.locale, letters, pages,
-                    secret ? QStringLiteral("choose a password") : QStringLiteral("rename it"),
-                    goOn);
+    if (secret)
+        return QCoreApplication::translate(
+                   "JobScript",
+                   "The password holds letters that the engine cannot take under the locale %1 "
+                   "%2. Nothing was run. To go on, choose a password with other letters, or %3")
+            .arg(engine.locale, pages, goOn);
+    return QCoreApplication::translate(
+               "JobScript",
+               "The %1\n%2\nholds letters that the engine cannot take under the locale %3%4 %5. "
+               "Nothing was run. To go on, rename it with other letters, or %6")
+        .arg(shownField(field), value, engine.locale, letters, pages, goOn);
 }
 
 QString CommandPiecesProblem(const CommandPieces& commandPieces, const EngineTextCodecs& engine) {
@@ -298,8 +333,9 @@ QString CommandPiecesProblem(const CommandPieces& commandPieces, const EngineTex
     // The working folder reaches the engine as its current folder, never as text it reads, so
     // only its line must stay one line.
     if (holdsLineBreak(commandPieces.workingFolder()))
-        return QStringLiteral("The folder\n%1\nholds a line break, which a job script cannot "
-                              "carry. Nothing was run.")
+        return QCoreApplication::translate("JobScript",
+                                           "The folder\n%1\nholds a line break, which a job "
+                                           "script cannot carry. Nothing was run.")
             .arg(QString(commandPieces.workingFolder())
                      .replace(QLatin1Char('\r'), QStringLiteral("\\r"))
                      .replace(QLatin1Char('\n'), QStringLiteral("\\n"))
@@ -309,14 +345,17 @@ QString CommandPiecesProblem(const CommandPieces& commandPieces, const EngineTex
             const bool secret = p.field == QLatin1String("password");
             if (holdsLineBreak(p.text)) {
                 if (secret)
-                    return QStringLiteral("The password holds a line break, which a job line "
-                                          "cannot carry. Nothing was run.");
-                return QStringLiteral("The %1 holds a line break, which a job line cannot "
-                                      "carry:\n%2\nNothing was run.")
-                    .arg(fieldName(p), QString(p.text)
-                                           .replace(QLatin1Char('\r'), QStringLiteral("\\r"))
-                                           .replace(QLatin1Char('\n'), QStringLiteral("\\n"))
-                                           .replace(QChar(0), QStringLiteral("\\0")));
+                    return QCoreApplication::translate("JobScript",
+                                                       "The password holds a line break, which a "
+                                                       "job line cannot carry. Nothing was run.");
+                return QCoreApplication::translate("JobScript",
+                                                   "The %1 holds a line break, which a job line "
+                                                   "cannot carry:\n%2\nNothing was run.")
+                    .arg(shownField(fieldName(p)),
+                         QString(p.text)
+                             .replace(QLatin1Char('\r'), QStringLiteral("\\r"))
+                             .replace(QLatin1Char('\n'), QStringLiteral("\\n"))
+                             .replace(QChar(0), QStringLiteral("\\0")));
             }
             if (engine.windows && p.isValue) {
                 QString value = p.text;
@@ -347,13 +386,15 @@ QString WritePrivateFile(const QString& path, const QByteArray& bytes) {
         ::open(name.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW | O_CLOEXEC, 0600);
     if (fd < 0) {
         if (errno == ELOOP)
-            return QStringLiteral("a symbolic link stands where the file belongs");
+            return QCoreApplication::translate("JobScript",
+                                               "a symbolic link stands where the file belongs");
         return QString::fromLocal8Bit(std::strerror(errno));
     }
     struct stat st;
     if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode) || st.st_uid != ::geteuid()) {
         ::close(fd);
-        return QStringLiteral("the file that stands where the file belongs is not ours");
+        return QCoreApplication::translate(
+            "JobScript", "the file that stands where the file belongs is not ours");
     }
     qsizetype done = 0;
     while (done < bytes.size()) {
@@ -422,7 +463,9 @@ bool WriteJobScript(const QString& path, Preamble preamble, const CommandPieces&
     writtenScripts().remove(scriptKey(path));
     const QString why = WritePrivateFile(path, written.bytes);
     if (!why.isEmpty())
-        return refuse(QStringLiteral("The job script %1 cannot be written: %2.").arg(path, why));
+        return refuse(
+            QCoreApplication::translate("JobScript", "The job script %1 cannot be written: %2.")
+                .arg(path, why));
     writtenScripts().insert(scriptKey(path), written);
     return true;
 }

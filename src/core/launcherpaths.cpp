@@ -4,6 +4,7 @@
 #include "logging.h"
 #include "scriptexec.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -46,15 +47,18 @@ bool ArchiveLink::make(const QString& folder, const QString& archive, QString* e
             return true;
         }
         if (errno != EEXIST) {
+            const QString reason = QString::fromLocal8Bit(std::strerror(errno));
             if (error)
-                *error = QStringLiteral("cannot link %1 into %2: %3")
-                             .arg(target, folder, QString::fromLocal8Bit(std::strerror(errno)));
+                *error = QCoreApplication::translate("LauncherPaths", "cannot link %1 into %2: %3")
+                             .arg(target, folder, reason);
             return false;
         }
     }
 #endif
     if (error)
-        *error = QStringLiteral("no plain name is free in %1 for a link to %2").arg(folder, target);
+        *error = QCoreApplication::translate("LauncherPaths",
+                                             "no plain name is free in %1 for a link to %2")
+                     .arg(folder, target);
     return false;
 }
 

@@ -4,6 +4,7 @@
 #include "logging.h"
 #include "places.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QEventLoop>
@@ -95,7 +96,7 @@ void SetPrefixPreparingNotice(PrefixPreparingNotice n) {
 }
 
 QString PreparingEngineText() {
-    return QStringLiteral("Preparing the engine for its first use…");
+    return QCoreApplication::translate("LauncherPrefix", "Preparing the engine for its first use…");
 }
 
 bool EnsureLauncherPrefix(const QString& launcher, QString* error, int timeoutSeconds) {
@@ -105,15 +106,18 @@ bool EnsureLauncherPrefix(const QString& launcher, QString* error, int timeoutSe
     auto fail = [&](const QString& why) {
         qCDebug(lcRunner) << "wine prefix" << prefix << "not made:" << why;
         if (error)
-            *error = QStringLiteral("The engine could not be prepared for its first use: %1.\n"
-                                    "(wine prefix %2)")
-                         .arg(why, prefix);
+            *error =
+                QCoreApplication::translate(
+                    "LauncherPrefix", "The engine could not be prepared for its first use: %1.\n"
+                                      "(wine prefix %2)")
+                    .arg(why, prefix);
         return false;
     };
     // The folder above is made private to the user; wine makes the prefix itself.
     const QString parent = QFileInfo(prefix).absolutePath();
     if (!QDir().mkpath(parent))
-        return fail(QStringLiteral("the folder %1 cannot be made").arg(parent));
+        return fail(QCoreApplication::translate("LauncherPrefix", "the folder %1 cannot be made")
+                        .arg(parent));
     QFile::setPermissions(parent,
                           QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
 
@@ -144,17 +148,20 @@ bool EnsureLauncherPrefix(const QString& launcher, QString* error, int timeoutSe
         loop.exec(QEventLoop::ExcludeUserInputEvents);
     }
     if (boot.error() == QProcess::FailedToStart)
-        return fail(QStringLiteral("%1 could not be started").arg(launcher));
+        return fail(
+            QCoreApplication::translate("LauncherPrefix", "%1 could not be started").arg(launcher));
     if (boot.state() != QProcess::NotRunning) {
         boot.kill();
         boot.waitForFinished(2000);
-        return fail(QStringLiteral("it took more than %1 seconds").arg(timeoutSeconds));
+        return fail(QCoreApplication::translate("LauncherPrefix", "it took more than %n seconds",
+                                                nullptr, timeoutSeconds));
     }
     qCDebug(lcRunner) << "wine prefix made in" << took.elapsed() << "ms, exit" << boot.exitCode();
     if (boot.exitStatus() != QProcess::NormalExit || boot.exitCode() != 0 ||
         !QFileInfo(prefix).isDir())
-        return fail(
-            QStringLiteral("wine ended with code %1 without making it").arg(boot.exitCode()));
+        return fail(QCoreApplication::translate("LauncherPrefix",
+                                                "wine ended with code %1 without making it")
+                        .arg(boot.exitCode()));
     QFile mark(preparedMark());
     if (!mark.open(QIODevice::WriteOnly))
         qCDebug(lcRunner) << "could not mark the prefix as made:" << mark.errorString();

@@ -42,6 +42,13 @@ PathStyle PathStyle::windows() {
 namespace {
 
 #ifdef Q_OS_UNIX
+// A problem sentence of the "Places" context with the system's reason for the last failed call
+// (errno, read before anything else can change it) in place of %1.
+QString systemProblem(const char* sentence) {
+    const QString reason = QString::fromLocal8Bit(std::strerror(errno));
+    return QCoreApplication::translate("Places", sentence).arg(reason);
+}
+
 QString currentUserName() {
     const uid_t uid = ::geteuid();
     long size = ::sysconf(_SC_GETPW_R_SIZE_MAX);
@@ -88,35 +95,33 @@ QString PrivateFolderProblem(const QString& folder, bool create) {
     struct stat st;
     if (::lstat(path.constData(), &st) != 0) {
         if (errno != ENOENT || !create)
-            return QStringLiteral("it cannot be reached (%1)")
-                .arg(QString::fromLocal8Bit(std::strerror(errno)));
+            return systemProblem(QT_TRANSLATE_NOOP("Places", "it cannot be reached (%1)"));
         if (::mkdir(path.constData(), 0700) != 0 && errno != EEXIST)
-            return QStringLiteral("it cannot be created (%1)")
-                .arg(QString::fromLocal8Bit(std::strerror(errno)));
+            return systemProblem(QT_TRANSLATE_NOOP("Places", "it cannot be created (%1)"));
         if (::lstat(path.constData(), &st) != 0)
-            return QStringLiteral("it cannot be reached (%1)")
-                .arg(QString::fromLocal8Bit(std::strerror(errno)));
+            return systemProblem(QT_TRANSLATE_NOOP("Places", "it cannot be reached (%1)"));
     }
     if (S_ISLNK(st.st_mode))
-        return QStringLiteral("it is a symbolic link");
+        return QCoreApplication::translate("Places", "it is a symbolic link");
     if (!S_ISDIR(st.st_mode))
-        return QStringLiteral("it is not a folder");
+        return QCoreApplication::translate("Places", "it is not a folder");
     if (st.st_uid != ::geteuid())
-        return QStringLiteral("it belongs to another user");
+        return QCoreApplication::translate("Places", "it belongs to another user");
     if ((st.st_mode & 077) != 0)
-        return QStringLiteral("other users have access to it (mode %1)")
+        return QCoreApplication::translate("Places", "other users have access to it (mode %1)")
             .arg(st.st_mode & 07777, 4, 8, QLatin1Char('0'));
     return QString();
 #else
     if (!QFileInfo(folder).isDir() && !(create && QDir().mkpath(folder)))
-        return QStringLiteral("it cannot be created");
+        return QCoreApplication::translate("Places", "it cannot be created");
     return QString();
 #endif
 }
 
 QString WorkFolderMessage(const QString& folder, const QString& problem) {
-    return QStringLiteral("Quovara cannot use its work folder\n%1\nbecause %2.\n"
-                          "Nothing is written there, and no job runs until this is put right.")
+    return QCoreApplication::translate(
+               "Places", "Quovara cannot use its work folder\n%1\nbecause %2.\n"
+                         "Nothing is written there, and no job runs until this is put right.")
         .arg(folder, problem);
 }
 

@@ -220,7 +220,8 @@ qint64 TerminateProcessByName(const QString& name, Prompter* prompter) {
         break;
     }
     if (::closedir(dir) != 0 && prompter)
-        prompter->plain(QStringLiteral("Couldn't terminate process"));
+        prompter->plain(
+            QCoreApplication::translate("ProcessControl", "Couldn't terminate process"));
     return ended;
 #else
     Q_UNUSED(name);

@@ -30,7 +30,7 @@ bool PrepareWorkFolder(Prompter& prompter) {
 bool PrepareEngine(Prompter& prompter) {
     const QString program = ProgramFolder();
     if (!FileExists(PathStyle::host().join(program, QStringLiteral("Uharc.exe")))) {
-        prompter.critical(QString::fromLatin1(kEngineMissingText));
+        prompter.critical(QCoreApplication::translate("Workspace", kEngineMissingText));
         return false;
     }
     StartupEngineSwap(program);

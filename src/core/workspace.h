@@ -1,6 +1,7 @@
 // Start-up preparation of the work folder and the engine files.
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 namespace quovara {
@@ -8,7 +9,8 @@ namespace quovara {
 class Prompter;
 
 // The start-up message when no engine is found.
-inline constexpr char kEngineMissingText[] = "Uharc 0.4 not detected, program will be end";
+inline constexpr char kEngineMissingText[] =
+    QT_TRANSLATE_NOOP("Workspace", "Uharc 0.4 not detected, program will be end");
 
 // Deletes the previous run's WorkFolder and makes it again, private to the user. A folder that
 // cannot be made private is named in a message and false returned: the program must end.

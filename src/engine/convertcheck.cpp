@@ -23,10 +23,6 @@ constexpr qint64 kPiece = 1 << 20;
 // How many names of each kind a message lists before "and n more".
 constexpr int kNamesShown = 10;
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("Convert", text);
-}
-
 QString listed(const QStringList& names) {
     QStringList shown = names.mid(0, kNamesShown);
     QString text = QStringLiteral("  ") + shown.join(QStringLiteral("\n  "));
@@ -73,17 +69,21 @@ QString ConvertedEntryName(const QString& storedName) {
 
 QString StagingCheck::problem() const {
     if (stopped)
-        return tr("The conversion was stopped.");
+        return QCoreApplication::translate("Convert", "The conversion was stopped.");
     QStringList parts;
     if (!missing.isEmpty())
-        parts << tr("The engine did not extract these entries of the listing:\n%1")
+        parts << QCoreApplication::translate(
+                     "Convert", "The engine did not extract these entries of the listing:\n%1")
                      .arg(listed(missing));
     if (!mismatched.isEmpty())
-        parts << tr("These entries were extracted with another size or CRC-32 than the listing "
-                    "gives:\n%1")
+        parts << QCoreApplication::translate(
+                     "Convert",
+                     "These entries were extracted with another size or CRC-32 than the listing "
+                     "gives:\n%1")
                      .arg(listed(mismatched));
     if (!unlisted.isEmpty())
-        parts << tr("The engine extracted files the listing does not have:\n%1")
+        parts << QCoreApplication::translate(
+                     "Convert", "The engine extracted files the listing does not have:\n%1")
                      .arg(listed(unlisted));
     return parts.join(QStringLiteral("\n\n"));
 }
@@ -169,7 +169,8 @@ StagingCheck CheckStaging(const QString& staging, const std::vector<ListedFile>&
         const bool crcOk = file.details.crc && *file.details.crc == crc;
         if (!sizeOk || !crcOk)
             check.mismatched
-                << tr("%1 (size %2, CRC-32 %3; listed: size %4, CRC-32 %5)")
+                << QCoreApplication::translate(
+                       "Convert", "%1 (size %2, CRC-32 %3; listed: size %4, CRC-32 %5)")
                        .arg(file.name, QString::number(size),
                             QStringLiteral("%1").arg(crc, 8, 16, QLatin1Char('0')).toUpper(),
                             file.details.size ? QString::number(*file.details.size)

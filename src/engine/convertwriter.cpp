@@ -20,13 +20,10 @@ namespace {
 
 constexpr qint64 kPiece = 1 << 20;
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("Convert", text);
-}
-
 QString libraryError(struct archive* a) {
     const char* text = a ? archive_error_string(a) : nullptr;
-    return text ? QString::fromLocal8Bit(text) : tr("unknown error");
+    return text ? QString::fromLocal8Bit(text)
+                : QCoreApplication::translate("Convert", "unknown error");
 }
 
 struct WriteCloser {
@@ -64,18 +61,20 @@ QString copyData(struct archive* a, const ConvertItem& item, const std::atomic<b
                  const std::function<void(quint64)>& progress, bool* stopped) {
     QFile file(item.sourcePath);
     if (!file.open(QIODevice::ReadOnly))
-        return tr("%1 cannot be read (%2)").arg(item.name, file.errorString());
+        return QCoreApplication::translate("Convert", "%1 cannot be read (%2)")
+            .arg(item.name, file.errorString());
     thread_local QByteArray piece(kPiece, Qt::Uninitialized);
     uLong crc = crc32(0L, Z_NULL, 0);
     quint64 copied = 0;
     for (;;) {
         if (stop && stop->load()) {
             *stopped = true;
-            return tr("The conversion was stopped.");
+            return QCoreApplication::translate("Convert", "The conversion was stopped.");
         }
         const qint64 got = file.read(piece.data(), kPiece);
         if (got < 0)
-            return tr("%1 cannot be read (%2)").arg(item.name, file.errorString());
+            return QCoreApplication::translate("Convert", "%1 cannot be read (%2)")
+                .arg(item.name, file.errorString());
         if (got == 0)
             break;
         crc = crc32(crc, reinterpret_cast<const Bytef*>(piece.constData()), uInt(got));
@@ -88,7 +87,8 @@ QString copyData(struct archive* a, const ConvertItem& item, const std::atomic<b
             progress(quint64(got));
     }
     if (copied != item.size || quint32(crc) != item.crc)
-        return tr("%1 changed after it was checked").arg(item.name);
+        return QCoreApplication::translate("Convert", "%1 changed after it was checked")
+            .arg(item.name);
     return QString();
 }
 
@@ -101,7 +101,8 @@ ConvertWriteResult WriteConvertedArchive(const QString& path, ConvertFormat form
     ConvertWriteResult result;
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
-        result.problem = tr("%1 cannot be created (%2)").arg(path, file.errorString());
+        result.problem = QCoreApplication::translate("Convert", "%1 cannot be created (%2)")
+                             .arg(path, file.errorString());
         return result;
     }
     std::unique_ptr<struct archive, WriteCloser> a(archive_write_new());
@@ -119,8 +120,9 @@ ConvertWriteResult WriteConvertedArchive(const QString& path, ConvertFormat form
         return result;
     };
     if (!a || !chooseFormat(a.get(), format))
-        return fail(tr("This system's libarchive cannot write %1 (%2)")
-                        .arg(ConvertFormatName(format), libraryError(a.get())));
+        return fail(
+            QCoreApplication::translate("Convert", "This system's libarchive cannot write %1 (%2)")
+                .arg(ConvertFormatName(format), libraryError(a.get())));
     if (archive_write_open_fd(a.get(), file.handle()) != ARCHIVE_OK)
         return fail(libraryError(a.get()));
     std::unique_ptr<struct archive_entry, EntryCloser> entry(archive_entry_new());
@@ -135,7 +137,8 @@ ConvertWriteResult WriteConvertedArchive(const QString& path, ConvertFormat form
         if (header == ARCHIVE_WARN)
             qCDebug(lcFiles) << "libarchive warns of" << item.name << ":" << libraryError(a.get());
         else if (header != ARCHIVE_OK)
-            return fail(tr("%1 cannot be written (%2)").arg(item.name, libraryError(a.get())));
+            return fail(QCoreApplication::translate("Convert", "%1 cannot be written (%2)")
+                            .arg(item.name, libraryError(a.get())));
         if (item.folder)
             continue;
         bool stopped = false;
@@ -148,7 +151,8 @@ ConvertWriteResult WriteConvertedArchive(const QString& path, ConvertFormat form
     if (archive_write_close(a.get()) != ARCHIVE_OK)
         return fail(libraryError(a.get()));
     if (!file.flush() || !file.isOpen())
-        return fail(tr("%1 cannot be written (%2)").arg(path, file.errorString()));
+        return fail(QCoreApplication::translate("Convert", "%1 cannot be written (%2)")
+                        .arg(path, file.errorString()));
     file.close();
     result.ok = true;
     return result;
@@ -165,7 +169,8 @@ QString ReadBackProblem(const QString& path, const std::vector<ConvertItem>& ite
     archive_read_support_filter_all(a.get());
     if (archive_read_open_filename(a.get(), QFile::encodeName(path).constData(), 1 << 16) !=
         ARCHIVE_OK)
-        return tr("The new archive cannot be read back (%1).").arg(libraryError(a.get()));
+        return QCoreApplication::translate("Convert", "The new archive cannot be read back (%1).")
+            .arg(libraryError(a.get()));
     QStringList wrong;
     qsizetype count = 0;
     QByteArray piece(kPiece, Qt::Uninitialized);
@@ -175,7 +180,9 @@ QString ReadBackProblem(const QString& path, const std::vector<ConvertItem>& ite
         if (next == ARCHIVE_EOF)
             break;
         if (next != ARCHIVE_OK && next != ARCHIVE_WARN)
-            return tr("The new archive cannot be read back (%1).").arg(libraryError(a.get()));
+            return QCoreApplication::translate("Convert",
+                                               "The new archive cannot be read back (%1).")
+                .arg(libraryError(a.get()));
         ++count;
         const char* utf8 = archive_entry_pathname_utf8(entry);
         QString name = utf8 ? QString::fromUtf8(utf8) : QString();
@@ -193,10 +200,12 @@ QString ReadBackProblem(const QString& path, const std::vector<ConvertItem>& ite
         quint64 size = 0;
         for (;;) {
             if (stop && stop->load())
-                return tr("The conversion was stopped.");
+                return QCoreApplication::translate("Convert", "The conversion was stopped.");
             const la_ssize_t got = archive_read_data(a.get(), piece.data(), size_t(piece.size()));
             if (got < 0)
-                return tr("The new archive cannot be read back (%1).").arg(libraryError(a.get()));
+                return QCoreApplication::translate("Convert",
+                                                   "The new archive cannot be read back (%1).")
+                    .arg(libraryError(a.get()));
             if (got == 0)
                 break;
             crc = crc32(crc, reinterpret_cast<const Bytef*>(piece.constData()), uInt(got));
@@ -208,11 +217,13 @@ QString ReadBackProblem(const QString& path, const std::vector<ConvertItem>& ite
             wrong << name;
     }
     if (count != qsizetype(items.size()))
-        return tr("The new archive holds %1 entries where %2 were written.")
+        return QCoreApplication::translate(
+                   "Convert", "The new archive holds %1 entries where %2 were written.")
             .arg(count)
             .arg(items.size());
     if (!wrong.isEmpty())
-        return tr("The new archive does not read back as written: %1.")
+        return QCoreApplication::translate("Convert",
+                                           "The new archive does not read back as written: %1.")
             .arg(wrong.mid(0, 10).join(QStringLiteral(", ")));
     return QString();
 }

@@ -2,6 +2,7 @@
 
 #include "core/logging.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -80,7 +81,8 @@ QString MakeExtractStaging(const QString& archivePath, QString* problem) {
     QTemporaryDir staging(QDir(folder).filePath(QStringLiteral(".quovara-extract-XXXXXX")));
     if (!staging.isValid()) {
         if (problem)
-            *problem = QStringLiteral("the folder %1 cannot be written to (%2)")
+            *problem = QCoreApplication::translate("ExtractHere",
+                                                   "the folder %1 cannot be written to (%2)")
                            .arg(QDir::toNativeSeparators(folder), staging.errorString());
         return QString();
     }
@@ -104,13 +106,15 @@ PlacedExtraction MoveToFreeName(const QString& from, const QString& folder,
             return result;
         }
         if (error != EEXIST) {
-            result.problem = QStringLiteral("it could not be moved to %1 (%2)")
-                                 .arg(QDir::toNativeSeparators(to),
-                                      QString::fromLocal8Bit(std::strerror(error)));
+            result.problem =
+                QCoreApplication::translate("ExtractHere", "it could not be moved to %1 (%2)")
+                    .arg(QDir::toNativeSeparators(to),
+                         QString::fromLocal8Bit(std::strerror(error)));
             return result;
         }
     }
-    result.problem = QStringLiteral("no free name was found for %1").arg(nameFor(1));
+    result.problem =
+        QCoreApplication::translate("ExtractHere", "no free name was found for %1").arg(nameFor(1));
     return result;
 }
 

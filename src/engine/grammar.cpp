@@ -1,5 +1,7 @@
 #include "grammar.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace quovara {
@@ -31,8 +33,12 @@ Fragment workFile(const QString& tempRoot, PathStyle style, const char* name) {
 } // namespace
 
 QStringList MethodItems() {
-    return {QStringLiteral("Store"),    QStringLiteral("ALZ Fast"), QStringLiteral("ALZ Normal"),
-            QStringLiteral("ALZ Best"), QStringLiteral("PPM"),      QStringLiteral("LZP")};
+    return {QCoreApplication::translate("Methods", "Store"),
+            QCoreApplication::translate("Methods", "ALZ Fast"),
+            QCoreApplication::translate("Methods", "ALZ Normal"),
+            QCoreApplication::translate("Methods", "ALZ Best"),
+            QCoreApplication::translate("Methods", "PPM"),
+            QCoreApplication::translate("Methods", "LZP")};
 }
 
 QStringList DictionaryItems() {

@@ -99,7 +99,8 @@ QString FileCountText(const QString& field) {
 }
 
 QString ListingFailedMessage(const QString& archive, const QString& problem) {
-    return QStringLiteral(
+    return QCoreApplication::translate(
+               "Listing",
                "Quovara cannot show the archive\n%1\nbecause %2.\nNothing of it is shown.")
         .arg(archive, problem);
 }
@@ -142,7 +143,8 @@ public:
         writer_.emplace(treeFolder);
         if (!writer_->rootOk())
             pass_.treeProblem =
-                QStringLiteral("it cannot create the folder view %1").arg(treeFolder);
+                QCoreApplication::translate("Listing", "it cannot create the folder view %1")
+                    .arg(treeFolder);
     }
 
     void reserveDetails(qsizetype entries) { details_->reserve(entries); }
@@ -200,7 +202,8 @@ public:
         if (!separatorSeen_) {
             qCDebug(lcListing) << "listing ends before its separator line";
             if (pass_.treeProblem.isEmpty())
-                pass_.treeProblem = QStringLiteral("the engine's listing is incomplete");
+                pass_.treeProblem =
+                    QCoreApplication::translate("Listing", "the engine's listing is incomplete");
             return;
         }
         pass_.treeComplete = pass_.treeProblem.isEmpty();
@@ -276,7 +279,7 @@ ListingPass ReadListingLog(const QString& logPath, const EngineCodec& codec,
         if (got <= 0)
             break;
         if (stop && stop->load()) {
-            pass.treeProblem = QStringLiteral("the reading was stopped");
+            pass.treeProblem = QCoreApplication::translate("Listing", "the reading was stopped");
             return pass;
         }
         const char* p = chunk.constData();
@@ -345,11 +348,11 @@ std::optional<ArchiveTotals> ReadTotals(const QStringList& lines) {
         ratioText = line2.mid(66);
     }
     if (field.contains(QLatin1Char('3')))
-        t.modeText = QStringLiteral("ALZ Best");
+        t.modeText = QCoreApplication::translate("Methods", "ALZ Best");
     else if (field.contains(QLatin1Char('2')))
-        t.modeText = QStringLiteral("ALZ Normal");
+        t.modeText = QCoreApplication::translate("Methods", "ALZ Normal");
     else if (field.contains(QLatin1Char('1')))
-        t.modeText = QStringLiteral("ALZ Fast");
+        t.modeText = QCoreApplication::translate("Methods", "ALZ Fast");
     else
         t.modeText = field;
     ratioText.chop(1); // the per-cent sign
@@ -495,7 +498,8 @@ ListStatus ArchiveLister::FileInArchivio(const QString& selectedPath) {
         case ListStatus::PasswordRequired:
             // Only a right password leads out: an empty or cancelled answer lists again
             // without one and asks again.
-            listing_.password = prompter_->askPassword(QStringLiteral("Insert Password"));
+            listing_.password =
+                prompter_->askPassword(QCoreApplication::translate("Listing", "Insert Password"));
             continue;
         case ListStatus::EngineSwitched:
             return listing_.status;
@@ -509,7 +513,8 @@ ListStatus ArchiveLister::FileInArchivio(const QString& selectedPath) {
             const QString staging = stagingFolder();
             QString problem = pass_.treeProblem;
             if (problem.isEmpty() && !pass_.totals)
-                problem = QStringLiteral("the engine's listing is incomplete");
+                problem =
+                    QCoreApplication::translate("Listing", "the engine's listing is incomplete");
             if (problem.isEmpty()) {
                 bool replaced = false;
                 RunBeside([&] {
@@ -517,7 +522,8 @@ ListStatus ArchiveLister::FileInArchivio(const QString& selectedPath) {
                         ClearAway(ScratchFolder()) && QDir().rename(staging, ScratchFolder());
                 });
                 if (!replaced)
-                    problem = QStringLiteral("it cannot replace the previous folder view");
+                    problem = QCoreApplication::translate(
+                        "Listing", "it cannot replace the previous folder view");
                 else {
                     shownAliases_ = pass_.aliases;
                     shownUnsafe_ = pass_.unsafeNames;

@@ -12,6 +12,7 @@
 #include "core/codepage.h"
 #include "core/places.h"
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 #include <atomic>
@@ -33,14 +34,18 @@ struct ArchiveTotals {
     // Empty when the engine's ratio does not fit 16 bits: the ratio bar then keeps its value.
     std::optional<qint16> ratio;
 
-    QString filesLabel() const { return QStringLiteral("Files: ") + fileCountText; }
+    QString filesLabel() const {
+        return QCoreApplication::translate("ArchiveTotals", "Files: %1").arg(fileCountText);
+    }
     QString normalSizeLabel() const {
-        return QStringLiteral("Normal size: ") + normalSizeMB + QStringLiteral(" MB");
+        return QCoreApplication::translate("ArchiveTotals", "Normal size: %1 MB").arg(normalSizeMB);
     }
     QString packedSizeLabel() const {
-        return QStringLiteral("Packed size: ") + packedSizeMB + QStringLiteral(" MB");
+        return QCoreApplication::translate("ArchiveTotals", "Packed size: %1 MB").arg(packedSizeMB);
     }
-    QString modeLabel() const { return QStringLiteral("Mode: ") + modeText; }
+    QString modeLabel() const {
+        return QCoreApplication::translate("ArchiveTotals", "Mode: %1").arg(modeText);
+    }
 };
 
 struct ArchiveListing {

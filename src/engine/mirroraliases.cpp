@@ -1,5 +1,7 @@
 #include "mirroraliases.h"
 
+#include <QCoreApplication>
+
 namespace quovara {
 
 void MirrorAliases::add(const QString& shown, const QString& stored) {
@@ -41,12 +43,20 @@ QString AliasName(const QString& name, int n) {
 }
 
 QString AliasesMessage(const QString& archive, qsizetype count) {
-    return QStringLiteral("Some names of the archive\n%1\ncannot stand as they are on this system "
-                          "(a name longer than 255 bytes, or a file and a folder of one name): "
-                          "%2 shown shortened or numbered. They are extracted under their "
-                          "stored names.")
-        .arg(archive,
-             count == 1 ? QStringLiteral("1 name is") : QStringLiteral("%1 names are").arg(count));
+    if (count == 1)
+        return QCoreApplication::translate(
+                   "MirrorAliases",
+                   "Some names of the archive\n%1\ncannot stand as they are on this system (a "
+                   "name longer than 255 bytes, or a file and a folder of one name): 1 name is "
+                   "shown shortened or numbered. They are extracted under their stored names.")
+            .arg(archive);
+    return QCoreApplication::translate(
+               "MirrorAliases",
+               "Some names of the archive\n%1\ncannot stand as they are on this system (a name "
+               "longer than 255 bytes, or a file and a folder of one name): %n names are shown "
+               "shortened or numbered. They are extracted under their stored names.",
+               nullptr, int(count))
+        .arg(archive);
 }
 
 } // namespace quovara

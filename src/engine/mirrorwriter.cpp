@@ -4,6 +4,7 @@
 #include "engine/listing.h"
 #include "engine/unsafenames.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -237,8 +238,9 @@ int MirrorWriter::ensureDir(const QByteArray& path) {
 
 void MirrorWriter::fail(int error) {
     if (failure_.isEmpty())
-        failure_ = QStringLiteral("it cannot create the folder view: %1")
-                       .arg(QString::fromLocal8Bit(std::strerror(error)).toLower());
+        failure_ =
+            QCoreApplication::translate("MirrorWriter", "it cannot create the folder view: %1")
+                .arg(QString::fromLocal8Bit(std::strerror(error)).toLower());
 }
 
 int MirrorWriter::folderHandle(const QByteArray& folder) {

@@ -3,6 +3,8 @@
 #include "core/codepage.h"
 #include "core/vbtext.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -75,9 +77,9 @@ void ParseExtractProgress(const QString& line, ProgressState& state) {
 }
 
 QString SizesText(const ProgressState& s) {
-    return QStringLiteral("Progress: ") + NumberText(s.doneMB) + QStringLiteral(" MB (Packed  ") +
-           NumberText(s.packedMB) + QStringLiteral(" MB) of ") + NumberText(s.totalMB) +
-           QStringLiteral(" MB Ratio: ") + s.ratioText;
+    return QCoreApplication::translate("Progress",
+                                       "Progress: %1 MB (Packed  %2 MB) of %3 MB Ratio: %4")
+        .arg(NumberText(s.doneMB), NumberText(s.packedMB), NumberText(s.totalMB), s.ratioText);
 }
 
 std::optional<qint16> BarValue(double percent) {
@@ -112,9 +114,10 @@ QString DurationText(qint64 seconds) {
 }
 
 QString TimeLineText(qint64 totalSeconds, qint64 remainingSeconds, qint64 elapsedSeconds) {
-    return QStringLiteral("Total: ") + DurationText(totalSeconds) +
-           QStringLiteral("       Remaining: ") + DurationText(remainingSeconds) +
-           QStringLiteral("       Elapsed: ") + DurationText(elapsedSeconds);
+    return QCoreApplication::translate("Progress",
+                                       "Total: %1       Remaining: %2       Elapsed: %3")
+        .arg(DurationText(totalSeconds), DurationText(remainingSeconds),
+             DurationText(elapsedSeconds));
 }
 
 std::optional<QString> EstimateTime(ProgressState& s, const QDateTime& now) {
@@ -141,8 +144,8 @@ std::optional<QString> EstimateTime(ProgressState& s, const QDateTime& now) {
 }
 
 QString TrayTipText(double percent, qint64 remainingSeconds) {
-    return QStringLiteral("Completed: ") + NumberText(percent) + QStringLiteral(" % Remaining: ") +
-           DurationText(remainingSeconds);
+    return QCoreApplication::translate("Progress", "Completed: %1 % Remaining: %2")
+        .arg(NumberText(percent), DurationText(remainingSeconds));
 }
 
 QString DecodeConsoleLine(const char* data, qsizetype size, const EngineCodec& codec) {

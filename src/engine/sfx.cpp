@@ -4,6 +4,7 @@
 #include "core/jobscript.h"
 #include "core/places.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -36,7 +37,8 @@ constexpr size_t KernelCopySize = size_t(1) << 30;
 bool appendFile(QFile& out, const QString& sourcePath, QString& failure) {
     QFile in(sourcePath);
     if (!in.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-        failure = QStringLiteral("cannot read %1 (%2)").arg(sourcePath, in.errorString());
+        failure = QCoreApplication::translate("Sfx", "cannot read %1 (%2)")
+                      .arg(sourcePath, in.errorString());
         return false;
     }
 #ifdef Q_OS_UNIX
@@ -61,7 +63,8 @@ bool appendFile(QFile& out, const QString& sourcePath, QString& failure) {
             kernelCopy = false;
             break;
         }
-        failure = QStringLiteral("cannot copy %1 (%2)").arg(sourcePath, qt_error_string(errno));
+        const QString reason = qt_error_string(errno);
+        failure = QCoreApplication::translate("Sfx", "cannot copy %1 (%2)").arg(sourcePath, reason);
         return false;
     }
     std::unique_ptr<char[]> buffer(new char[ChunkSize]);
@@ -70,7 +73,9 @@ bool appendFile(QFile& out, const QString& sourcePath, QString& failure) {
         if (got < 0 && errno == EINTR)
             continue;
         if (got < 0) {
-            failure = QStringLiteral("cannot read %1 (%2)").arg(sourcePath, qt_error_string(errno));
+            const QString reason = qt_error_string(errno);
+            failure =
+                QCoreApplication::translate("Sfx", "cannot read %1 (%2)").arg(sourcePath, reason);
             return false;
         }
         if (got == 0)
@@ -81,8 +86,9 @@ bool appendFile(QFile& out, const QString& sourcePath, QString& failure) {
             if (put < 0 && errno == EINTR)
                 continue;
             if (put <= 0) {
-                failure = QStringLiteral("cannot write %1 (%2)")
-                              .arg(out.fileName(), qt_error_string(errno));
+                const QString reason = qt_error_string(errno);
+                failure = QCoreApplication::translate("Sfx", "cannot write %1 (%2)")
+                              .arg(out.fileName(), reason);
                 return false;
             }
             p += put;
@@ -94,13 +100,15 @@ bool appendFile(QFile& out, const QString& sourcePath, QString& failure) {
     for (;;) {
         const qint64 got = in.read(buffer.get(), ChunkSize);
         if (got < 0) {
-            failure = QStringLiteral("cannot read %1 (%2)").arg(sourcePath, in.errorString());
+            failure = QCoreApplication::translate("Sfx", "cannot read %1 (%2)")
+                          .arg(sourcePath, in.errorString());
             return false;
         }
         if (got == 0)
             return true;
         if (out.write(buffer.get(), got) != got) {
-            failure = QStringLiteral("cannot write %1 (%2)").arg(out.fileName(), out.errorString());
+            failure = QCoreApplication::translate("Sfx", "cannot write %1 (%2)")
+                          .arg(out.fileName(), out.errorString());
             return false;
         }
     }
@@ -117,8 +125,9 @@ bool appendBytes(QFile& out, const QByteArray& bytes, QString& failure) {
         if (put < 0 && errno == EINTR)
             continue;
         if (put <= 0) {
-            failure =
-                QStringLiteral("cannot write %1 (%2)").arg(out.fileName(), qt_error_string(errno));
+            const QString reason = qt_error_string(errno);
+            failure = QCoreApplication::translate("Sfx", "cannot write %1 (%2)")
+                          .arg(out.fileName(), reason);
             return false;
         }
         p += put;
@@ -127,7 +136,8 @@ bool appendBytes(QFile& out, const QByteArray& bytes, QString& failure) {
     return true;
 #else
     if (out.write(bytes) != bytes.size()) {
-        failure = QStringLiteral("cannot write %1 (%2)").arg(out.fileName(), out.errorString());
+        failure = QCoreApplication::translate("Sfx", "cannot write %1 (%2)")
+                      .arg(out.fileName(), out.errorString());
         return false;
     }
     return true;
@@ -135,8 +145,8 @@ bool appendBytes(QFile& out, const QByteArray& bytes, QString& failure) {
 }
 
 void backToReady(SfxFeedback& feedback) {
-    feedback.setState(QString::fromLatin1(ReadyState));
-    feedback.setHint(QString::fromLatin1(ReadyHint));
+    feedback.setState(QCoreApplication::translate("Sfx", ReadyState));
+    feedback.setHint(QCoreApplication::translate("Sfx", ReadyHint));
 }
 
 } // namespace
@@ -149,8 +159,8 @@ QByteArray SfxInfoText(const SfxSettings& s) {
 
 bool BuildSfx(const QString& outputPath, const QString& archivePath, const QString& programFolder,
               const SfxSettings& settings, SfxFeedback& feedback) {
-    feedback.setState(QString::fromLatin1(SfxBusyState));
-    feedback.setHint(QString::fromLatin1(SfxBusyHint));
+    feedback.setState(QCoreApplication::translate("Sfx", SfxBusyState));
+    feedback.setHint(QCoreApplication::translate("Sfx", SfxBusyHint));
     feedback.repaint();
 
     auto fail = [&](const QString& message) {
@@ -164,15 +174,18 @@ bool BuildSfx(const QString& outputPath, const QString& archivePath, const QStri
     const QString sep = PathStyle::host().sep;
     const QString stub = ResolveEngineFile(programFolder, QString::fromLatin1(names::SfxStub));
     if (stub.isEmpty())
-        return fail(QStringLiteral("Cannot create the SFX: the stub file %1 is missing.")
+        return fail(QCoreApplication::translate(
+                        "Sfx", "Cannot create the SFX: the stub file %1 is missing.")
                         .arg(programFolder + sep + QString::fromLatin1(names::SfxStub)));
     const QString engine = ResolveEngineFile(programFolder, QStringLiteral("Uharc.exe"));
     if (engine.isEmpty())
-        return fail(QStringLiteral("Cannot create the SFX: the engine file %1 is missing.")
+        return fail(QCoreApplication::translate(
+                        "Sfx", "Cannot create the SFX: the engine file %1 is missing.")
                         .arg(programFolder + sep + QStringLiteral("Uharc.exe")));
     if (!QFileInfo(archivePath).isFile())
         return fail(
-            QStringLiteral("Cannot create the SFX: the archive %1 is missing.").arg(archivePath));
+            QCoreApplication::translate("Sfx", "Cannot create the SFX: the archive %1 is missing.")
+                .arg(archivePath));
 
     // The output is written under a temporary name beside its place and renamed into place
     // when complete, so a failure leaves nothing behind.
@@ -180,8 +193,9 @@ bool BuildSfx(const QString& outputPath, const QString& archivePath, const QStri
     QTemporaryFile out(target.absolutePath() + QStringLiteral("/.") + target.fileName() +
                        QStringLiteral(".XXXXXX"));
     if (!out.open())
-        return fail(QStringLiteral("Cannot create the SFX: %1 cannot be written (%2).")
-                        .arg(outputPath, out.errorString()));
+        return fail(
+            QCoreApplication::translate("Sfx", "Cannot create the SFX: %1 cannot be written (%2).")
+                .arg(outputPath, out.errorString()));
     out.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner |
                        QFileDevice::ReadGroup | QFileDevice::ExeGroup | QFileDevice::ReadOther |
                        QFileDevice::ExeOther);
@@ -194,18 +208,20 @@ bool BuildSfx(const QString& outputPath, const QString& archivePath, const QStri
         appendFile(out, engine, failure) && appendBytes(out, QByteArray(SfxInfoMarker), failure) &&
         appendBytes(out, SfxInfoText(settings), failure);
     if (!written)
-        return fail(QStringLiteral("Cannot create the SFX: %1.").arg(failure));
+        return fail(QCoreApplication::translate("Sfx", "Cannot create the SFX: %1.").arg(failure));
 
     if (QFile::exists(outputPath) && !QFile::remove(outputPath))
         return fail(
-            QStringLiteral("Cannot create the SFX: %1 cannot be replaced.").arg(outputPath));
+            QCoreApplication::translate("Sfx", "Cannot create the SFX: %1 cannot be replaced.")
+                .arg(outputPath));
     if (!out.rename(outputPath))
-        return fail(QStringLiteral("Cannot create the SFX: %1 cannot be written (%2).")
-                        .arg(outputPath, out.errorString()));
+        return fail(
+            QCoreApplication::translate("Sfx", "Cannot create the SFX: %1 cannot be written (%2).")
+                .arg(outputPath, out.errorString()));
     out.setAutoRemove(false);
 
     backToReady(feedback);
-    feedback.information(QString::fromLatin1(SfxCreatedMessage));
+    feedback.information(QCoreApplication::translate("Sfx", SfxCreatedMessage));
     return true;
 }
 

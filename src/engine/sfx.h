@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QString>
 
 namespace quovara {
@@ -15,11 +16,11 @@ inline constexpr char SfxInfoMarker[] = "InfoScript\x05";
 inline constexpr char SfxSeparator[] = "<|>";
 
 // Status texts while the SFX is built.
-inline constexpr char SfxBusyState[] = "Quovara is creating the SFX";
-inline constexpr char SfxBusyHint[] = "Please Wait ...";
-inline constexpr char ReadyState[] = "Quovara is ready";
-inline constexpr char ReadyHint[] = "Select an action";
-inline constexpr char SfxCreatedMessage[] = "SFX Created";
+inline constexpr char SfxBusyState[] = QT_TRANSLATE_NOOP("Sfx", "Quovara is creating the SFX");
+inline constexpr char SfxBusyHint[] = QT_TRANSLATE_NOOP("Sfx", "Please Wait ...");
+inline constexpr char ReadyState[] = QT_TRANSLATE_NOOP("Sfx", "Quovara is ready");
+inline constexpr char ReadyHint[] = QT_TRANSLATE_NOOP("Sfx", "Select an action");
+inline constexpr char SfxCreatedMessage[] = QT_TRANSLATE_NOOP("Sfx", "SFX Created");
 
 // The seven texts of the settings record, in the order they are written.
 struct SfxSettings {

@@ -2,6 +2,7 @@
 
 #include "core/scriptexec.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
@@ -63,11 +64,16 @@ QString FindByEnd(const QString& folder, const QString& end, const QDateTime& st
     return best;
 }
 
-QString FilesText(int n) {
+// The first sentence of the message: how many files were extracted whole.
+QString StoppedText(int n) {
     if (n == 0)
-        return QStringLiteral("no file was extracted");
-    return n == 1 ? QStringLiteral("1 file was extracted whole")
-                  : QStringLiteral("%1 files were extracted whole").arg(n);
+        return QCoreApplication::translate("StoppedExtract",
+                                           "The extraction was stopped: no file was extracted.");
+    if (n == 1)
+        return QCoreApplication::translate(
+            "StoppedExtract", "The extraction was stopped: 1 file was extracted whole.");
+    return QCoreApplication::translate(
+        "StoppedExtract", "The extraction was stopped: %n files were extracted whole.", nullptr, n);
 }
 
 } // namespace
@@ -163,26 +169,33 @@ StoppedExtract CleanUpStoppedExtract(const ExtractTrail& trail, const StoppedExt
 }
 
 QString StoppedExtractMessage(const StoppedExtract& r) {
-    QString text = QStringLiteral("The extraction was stopped: ") + FilesText(r.wholeFiles) + '.';
+    QString text = StoppedText(r.wholeFiles);
     if (!r.removed.isEmpty()) {
         const QString name = QDir::toNativeSeparators(r.removed);
         if (r.notRemovedWhy.isEmpty())
-            text += QStringLiteral("\n\n\"%1\" was being written and was incomplete: it has been "
-                                   "removed.")
+            text += QCoreApplication::translate("StoppedExtract",
+                                                "\n\n\"%1\" was being written and was "
+                                                "incomplete: it has been removed.")
                         .arg(name);
         else
-            text += QStringLiteral("\n\n\"%1\" was being written and is incomplete, but it could "
-                                   "not be removed (%2): please delete it.")
+            text += QCoreApplication::translate("StoppedExtract",
+                                                "\n\n\"%1\" was being written and is incomplete, "
+                                                "but it could not be removed (%2): please delete "
+                                                "it.")
                         .arg(name, r.notRemovedWhy);
         if (r.replacedUsersFile)
-            text += QStringLiteral("\nIt had replaced a file of yours of the same name; the "
-                                   "engine had already overwritten that file, so its contents "
-                                   "are lost.");
+            text += QCoreApplication::translate("StoppedExtract",
+                                                "\nIt had replaced a file of yours of the same "
+                                                "name; the engine had already overwritten that "
+                                                "file, so its contents are lost.");
         else if (r.replacedUnsure)
-            text += QStringLiteral("\nIf a file of yours had that name, the engine had already "
-                                   "overwritten it, so its contents are lost.");
+            text += QCoreApplication::translate("StoppedExtract",
+                                                "\nIf a file of yours had that name, the engine "
+                                                "had already overwritten it, so its contents are "
+                                                "lost.");
     } else if (!r.notFound.isEmpty()) {
-        text += QStringLiteral("\n\nThe file being written (\"%1\") was not found on disk.")
+        text += QCoreApplication::translate(
+                    "StoppedExtract", "\n\nThe file being written (\"%1\") was not found on disk.")
                     .arg(QDir::toNativeSeparators(r.notFound));
     }
     return text;

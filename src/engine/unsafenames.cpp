@@ -1,5 +1,6 @@
 #include "unsafenames.h"
 
+#include <QCoreApplication>
 #include <QDirIterator>
 #include <QFileInfo>
 #include <atomic>
@@ -67,35 +68,44 @@ QString UnsafeNamesList(const QStringList& names, qsizetype count) {
         shown << names[i];
     QString text = shown.join(QLatin1Char('\n'));
     if (count > shown.size())
-        text += QStringLiteral("\n… and %1 more").arg(count - shown.size());
+        text += QCoreApplication::translate("UnsafeNames", "\n… and %n more", nullptr,
+                                            int(count - shown.size()));
     return text;
 }
 
 QString UnsafeEntriesMessage(const QString& archive, const QStringList& names, qsizetype count) {
     if (count == 1)
-        return QStringLiteral("The archive\n%1\nholds 1 entry whose name would climb out of any "
-                              "folder it is extracted into. It is shown, but will never be "
-                              "extracted:\n\n%2")
+        return QCoreApplication::translate("UnsafeNames",
+                                           "The archive\n%1\nholds 1 entry whose name would "
+                                           "climb out of any folder it is extracted into. It is "
+                                           "shown, but will never be extracted:\n\n%2")
             .arg(archive, UnsafeNamesList(names, count));
-    return QStringLiteral("The archive\n%1\nholds %2 entries whose names would climb out of any "
-                          "folder they are extracted into. They are shown, but will never be "
-                          "extracted:\n\n%3")
-        .arg(archive, QString::number(count), UnsafeNamesList(names, count));
+    return QCoreApplication::translate("UnsafeNames",
+                                       "The archive\n%1\nholds %n entries whose names would "
+                                       "climb out of any folder they are extracted into. They "
+                                       "are shown, but will never be extracted:\n\n%2",
+                                       nullptr, int(count))
+        .arg(archive, UnsafeNamesList(names, count));
 }
 
 QString LeftOutMessage(const QStringList& names) {
-    return QStringLiteral("%1 not extracted: %2 would place %3 outside the destination "
-                          "folder.\n\n%4")
-        .arg(names.size() == 1 ? QStringLiteral("1 entry was")
-                               : QStringLiteral("%1 entries were").arg(names.size()),
-             names.size() == 1 ? QStringLiteral("its name") : QStringLiteral("their names"),
-             names.size() == 1 ? QStringLiteral("it") : QStringLiteral("them"),
-             UnsafeNamesList(names, names.size()));
+    if (names.size() == 1)
+        return QCoreApplication::translate("UnsafeNames",
+                                           "1 entry was not extracted: its name would place it "
+                                           "outside the destination folder.\n\n%1")
+            .arg(UnsafeNamesList(names, names.size()));
+    return QCoreApplication::translate("UnsafeNames",
+                                       "%n entries were not extracted: their names would place "
+                                       "them outside the destination folder.\n\n%1",
+                                       nullptr, int(names.size()))
+        .arg(UnsafeNamesList(names, names.size()));
 }
 
 QString NothingSafeMessage(const QStringList& names) {
-    return QStringLiteral("Nothing was extracted: every entry of the archive has a name that "
-                          "would place it outside the destination folder.\n\n%1")
+    return QCoreApplication::translate("UnsafeNames",
+                                       "Nothing was extracted: every entry of the archive has a "
+                                       "name that would place it outside the destination "
+                                       "folder.\n\n%1")
         .arg(UnsafeNamesList(names, names.size()));
 }
 
@@ -110,10 +120,11 @@ bool LeftOutFits(const QStringList& names) {
 }
 
 QString TooManyUnsafeMessage(qsizetype count) {
-    return QStringLiteral("Nothing was extracted: the archive holds %1 entries whose names would "
-                          "place them outside the destination folder, too many to leave out "
-                          "one by one.")
-        .arg(count);
+    return QCoreApplication::translate("UnsafeNames",
+                                       "Nothing was extracted: the archive holds %n entries whose "
+                                       "names would place them outside the destination folder, "
+                                       "too many to leave out one by one.",
+                                       nullptr, int(count));
 }
 
 QString AddSourceProblem(const QString& source, bool recurse) {
@@ -121,9 +132,11 @@ QString AddSourceProblem(const QString& source, bool recurse) {
         return name.contains(QLatin1Char('\\')) || name.contains(QLatin1Char(':'));
     };
     auto message = [](const QString& path) {
-        return QStringLiteral("The name of\n%1\nholds \"\\\" or \":\", which the engine would "
-                              "store as a folder or a drive: extracted, it could land outside "
-                              "the folder it is extracted into. Nothing was run; rename it first.")
+        return QCoreApplication::translate(
+                   "UnsafeNames",
+                   "The name of\n%1\nholds \"\\\" or \":\", which the engine would store as a "
+                   "folder or a drive: extracted, it could land outside the folder it is "
+                   "extracted into. Nothing was run; rename it first.")
             .arg(path);
     };
     const QFileInfo info(source);
@@ -142,8 +155,9 @@ QString AddSourceProblem(const QString& source, bool recurse) {
 }
 
 QString UnsafeItemMessage(const QString& stored) {
-    return QStringLiteral("The entry\n%1\nis not extracted: its name would place it outside the "
-                          "destination folder.")
+    return QCoreApplication::translate("UnsafeNames",
+                                       "The entry\n%1\nis not extracted: its name would place "
+                                       "it outside the destination folder.")
         .arg(stored);
 }
 
