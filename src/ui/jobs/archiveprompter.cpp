@@ -4,6 +4,7 @@
 
 #include "engine/listing.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 namespace quovara {
@@ -19,7 +20,7 @@ QString ArchiveNamedPrompter::askPassword(const QString& prompt) {
 }
 
 QString ArchiveNamedPrompter::named(const QString& text) const {
-    return QString::fromLatin1(extract_here::AboutArchive).arg(name_, text);
+    return QCoreApplication::translate("ExtractHere", extract_here::AboutArchive).arg(name_, text);
 }
 
 bool ListForPassword(ArchiveLister& lister, ArchiveNamedPrompter& prompter, const QString& path,
@@ -44,7 +45,8 @@ bool ListForPassword(ArchiveLister& lister, ArchiveNamedPrompter& prompter, cons
                 return false;
             break;
         }
-        lister.listing().password = prompter.askPassword(QStringLiteral("Insert Password"));
+        lister.listing().password =
+            prompter.askPassword(QCoreApplication::translate("Listing", "Insert Password"));
         if (prompter.passwordCancelled()) {
             prompter.critical(noPassword);
             return false;

@@ -5,6 +5,7 @@
 #include "engine/convertformat.h"
 
 #include <QDialog>
+#include <QtGlobal>
 
 class QComboBox;
 class QLabel;
@@ -14,17 +15,20 @@ class QPushButton;
 namespace quovara {
 
 namespace convert_dialog {
-inline constexpr char Caption[] = "Convert %1";
-inline constexpr char FormatLabel[] = "&Format:";
-inline constexpr char FolderLabel[] = "&Save in:";
-inline constexpr char Browse[] = "&Browse…";
+inline constexpr char Caption[] = QT_TRANSLATE_NOOP("quovara::ConvertDialog", "Convert %1");
+inline constexpr char FormatLabel[] = QT_TRANSLATE_NOOP("quovara::ConvertDialog", "&Format:");
+inline constexpr char FolderLabel[] = QT_TRANSLATE_NOOP("quovara::ConvertDialog", "&Save in:");
+inline constexpr char Browse[] = QT_TRANSLATE_NOOP("quovara::ConvertDialog", "&Browse…");
 // %1 is the new archive's name.
-inline constexpr char NewName[] = "New archive: %1";
-inline constexpr char Checked[] =
+inline constexpr char NewName[] = QT_TRANSLATE_NOOP("quovara::ConvertDialog", "New archive: %1");
+inline constexpr char Checked[] = QT_TRANSLATE_NOOP(
+    "quovara::ConvertDialog",
     "Every file is checked against the archive's listing (size and CRC-32) before the new "
-    "archive is kept. Hidden and system attributes are not kept.";
-inline constexpr char NoFolder[] = "The folder %1 does not exist.";
-inline constexpr char NotAbsolute[] = "Type the whole path of a folder, from \"/\".";
+    "archive is kept. Hidden and system attributes are not kept.");
+inline constexpr char NoFolder[] =
+    QT_TRANSLATE_NOOP("quovara::ConvertDialog", "The folder %1 does not exist.");
+inline constexpr char NotAbsolute[] =
+    QT_TRANSLATE_NOOP("quovara::ConvertDialog", "Type the whole path of a folder, from \"/\".");
 } // namespace convert_dialog
 
 class ConvertDialog : public QDialog {

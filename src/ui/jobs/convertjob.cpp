@@ -27,8 +27,9 @@ Q_LOGGING_CATEGORY(lcConvert, "quovara.convert")
 
 namespace {
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("Convert", text);
+// A text of Convert as the user reads it.
+QString text(const char* source) {
+    return QCoreApplication::translate("Convert", source);
 }
 
 // Converts one archive; the new archive's path, or empty when it was not converted (the user
@@ -54,7 +55,7 @@ QString ConvertOne(frmApri& main, Prompter& outer, const QString& given, const C
     const QString staging =
         MakeExtractStaging(QDir(destination).filePath(QFileInfo(path).fileName()), &problem);
     if (staging.isEmpty()) {
-        prompter.critical(tr(convert_job::CannotWrite).arg(problem));
+        prompter.critical(text(convert_job::CannotWrite).arg(problem));
         return QString();
     }
     // Ended by a signal meanwhile, the program still removes the staging folder.
@@ -73,7 +74,7 @@ QString ConvertOne(frmApri& main, Prompter& outer, const QString& given, const C
     // it is.
     ArchiveLister lister(prompter, main.engineSwitch());
     lister.setNamesOnly(true);
-    if (!ListForPassword(lister, prompter, path, tr(convert_job::NoPassword), knownPassword))
+    if (!ListForPassword(lister, prompter, path, text(convert_job::NoPassword), knownPassword))
         return QString();
     const std::vector<ListedFile> files =
         ReadListedFiles(ReadEngineLines(WorkFile(names::ListLog), nullptr, ActiveEngineCodec()));
@@ -81,13 +82,13 @@ QString ConvertOne(frmApri& main, Prompter& outer, const QString& given, const C
     // conversion would not be whole.
     const QStringList unsafe = lister.lastPass().unsafeNames;
     if (!unsafe.isEmpty()) {
-        prompter.critical(tr(convert_job::UnsafeNames)
+        prompter.critical(text(convert_job::UnsafeNames)
                               .arg(QStringLiteral("  ") + unsafe.mid(0, 10).join(u"\n  ")));
         return QString();
     }
     const QString password = lister.listing().password;
     if (!password.isEmpty())
-        prompter.information(tr(convert_job::NotProtected));
+        prompter.information(text(convert_job::NotProtected));
 
     ExtractOptions options;
     options.fullPath = true;
@@ -120,7 +121,7 @@ QString ConvertOne(frmApri& main, Prompter& outer, const QString& given, const C
     const ConvertOutcome outcome = window.run();
     if (!outcome.ok) {
         if (!outcome.stopped)
-            prompter.critical(tr(convert_job::NotConverted).arg(outcome.problem));
+            prompter.critical(text(convert_job::NotConverted).arg(outcome.problem));
         return QString();
     }
     qCDebug(lcConvert) << path << "converted to" << outcome.placedPath << outcome.files << "files"
@@ -143,7 +144,7 @@ int RunConvert(frmApri& main, ConvertRun& run) {
             run.made << made;
     }
     if (!failed.isEmpty() && run.archives.size() > 1)
-        outer.critical(tr(convert_job::Summary).arg(failed.join(u'\n')));
+        outer.critical(text(convert_job::Summary).arg(failed.join(u'\n')));
     return failed.isEmpty() ? 0 : 1;
 }
 

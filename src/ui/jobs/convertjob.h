@@ -10,22 +10,27 @@
 
 #include <QString>
 #include <QStringList>
+#include <QtGlobal>
 
 namespace quovara {
 
 class frmApri;
 
 namespace convert_job {
-inline constexpr char NoPassword[] = "Nothing was converted: no password was given.";
-inline constexpr char NotProtected[] = "The new archive will not be protected by a password.";
-inline constexpr char CannotWrite[] = "Nothing was converted: %1.";
+inline constexpr char NoPassword[] =
+    QT_TRANSLATE_NOOP("Convert", "Nothing was converted: no password was given.");
+inline constexpr char NotProtected[] =
+    QT_TRANSLATE_NOOP("Convert", "The new archive will not be protected by a password.");
+inline constexpr char CannotWrite[] = QT_TRANSLATE_NOOP("Convert", "Nothing was converted: %1.");
 // %1 names the entries.
-inline constexpr char UnsafeNames[] =
+inline constexpr char UnsafeNames[] = QT_TRANSLATE_NOOP(
+    "Convert",
     "Nothing was converted: these entries have names that would leave any folder they were "
-    "extracted to, so the archive cannot be converted whole:\n%1";
-inline constexpr char NotConverted[] = "Nothing was converted. %1";
+    "extracted to, so the archive cannot be converted whole:\n%1");
+inline constexpr char NotConverted[] = QT_TRANSLATE_NOOP("Convert", "Nothing was converted. %1");
 // %1 is the list of archives, one per line.
-inline constexpr char Summary[] = "These archives were not converted:\n\n%1";
+inline constexpr char Summary[] =
+    QT_TRANSLATE_NOOP("Convert", "These archives were not converted:\n\n%1");
 } // namespace convert_job
 
 struct ConvertRun {

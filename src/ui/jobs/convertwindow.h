@@ -7,6 +7,7 @@
 #include "engine/convert.h"
 
 #include <QDialog>
+#include <QtGlobal>
 
 #include <atomic>
 
@@ -19,12 +20,15 @@ namespace quovara {
 
 namespace convert_window {
 // %1 is the archive's name.
-inline constexpr char Caption[] = "Converting %1";
-inline constexpr char Checking[] = "Checking the extracted files against the listing…";
+inline constexpr char Caption[] = QT_TRANSLATE_NOOP("quovara::ConvertWindow", "Converting %1");
+inline constexpr char Checking[] = QT_TRANSLATE_NOOP(
+    "quovara::ConvertWindow", "Checking the extracted files against the listing…");
 // %1 is the new archive's format ("zip").
-inline constexpr char Writing[] = "Writing the %1 archive…";
-inline constexpr char ReadingBack[] = "Reading the new archive back…";
-inline constexpr char Stop[] = "&Stop";
+inline constexpr char Writing[] =
+    QT_TRANSLATE_NOOP("quovara::ConvertWindow", "Writing the %1 archive…");
+inline constexpr char ReadingBack[] =
+    QT_TRANSLATE_NOOP("quovara::ConvertWindow", "Reading the new archive back…");
+inline constexpr char Stop[] = QT_TRANSLATE_NOOP("quovara::ConvertWindow", "&Stop");
 } // namespace convert_window
 
 class ConvertWindow : public QDialog {

@@ -14,6 +14,7 @@
 #include "engine/unsafenames.h"
 #include "ui/browser/frmapri.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QLoggingCategory>
@@ -23,6 +24,11 @@ namespace quovara {
 Q_LOGGING_CATEGORY(lcExtractHere, "quovara.extracthere")
 
 namespace {
+
+// A text of Extract Here as the user reads it.
+QString text(const char* source) {
+    return QCoreApplication::translate("ExtractHere", source);
+}
 
 enum class Outcome {
     Extracted,
@@ -43,18 +49,18 @@ Outcome ExtractOne(frmApri& main, Prompter& outer, const QString& given) {
     } restore{main, outer};
 
     if (!QFileInfo(path).isFile()) {
-        prompter.critical(QString::fromLatin1(extract_here::NotFound));
+        prompter.critical(text(extract_here::NotFound));
         return Outcome::NotExtracted;
     }
     if (QFileInfo(path).suffix().compare(QLatin1String("uha"), Qt::CaseInsensitive) != 0) {
-        prompter.critical(QString::fromLatin1(extract_here::NotAnArchive));
+        prompter.critical(text(extract_here::NotAnArchive));
         return Outcome::NotExtracted;
     }
     // Nothing is written unless the archive's folder takes a new folder.
     QString problem;
     const QString staging = MakeExtractStaging(path, &problem);
     if (staging.isEmpty()) {
-        prompter.critical(QString::fromLatin1(extract_here::CannotWrite).arg(problem));
+        prompter.critical(text(extract_here::CannotWrite).arg(problem));
         return Outcome::NotExtracted;
     }
     // Ended by a signal meanwhile, the program still removes the staging folder (after the
@@ -63,8 +69,7 @@ Outcome ExtractOne(frmApri& main, Prompter& outer, const QString& given) {
         int work;
         ~StagingGuard() { RemoveTerminationWork(work); }
     } guard{AddTerminationWork([staging] { DiscardExtractStaging(staging); })};
-    if (!ListForPassword(main.lister(), prompter, path,
-                         QString::fromLatin1(extract_here::NoPassword))) {
+    if (!ListForPassword(main.lister(), prompter, path, text(extract_here::NoPassword))) {
         DiscardExtractStaging(staging);
         return Outcome::NotExtracted;
     }
@@ -101,7 +106,7 @@ Outcome ExtractOne(frmApri& main, Prompter& outer, const QString& given) {
     }
     const PlacedExtraction placed = PlaceExtraction(staging, path);
     if (!placed.ok) {
-        const QString problem = QString::fromLatin1(extract_here::NotPlaced).arg(placed.problem);
+        const QString problem = text(extract_here::NotPlaced).arg(placed.problem);
         if (run.awayAtEnd)
             NotifyJobEnd({JobKind::Extract, JobOutcome::Failed, path, problem, QString()});
         prompter.critical(problem);
@@ -135,7 +140,7 @@ int RunExtractHere(frmApri& main, const QStringList& archives) {
         partly = partly || outcome == Outcome::PartlyExtracted;
     }
     if (!failed.isEmpty() && archives.size() > 1)
-        outer.critical(QString::fromLatin1(extract_here::Summary).arg(failed.join(u'\n')));
+        outer.critical(text(extract_here::Summary).arg(failed.join(u'\n')));
     return failed.isEmpty() && !partly ? 0 : 1;
 }
 

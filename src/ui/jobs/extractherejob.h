@@ -7,6 +7,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <QtGlobal>
 
 namespace quovara {
 
@@ -14,14 +15,19 @@ class frmApri;
 
 namespace extract_here {
 // %1 is the archive's name, %2 the message about it.
-inline constexpr char AboutArchive[] = "%1:\n%2";
-inline constexpr char NotFound[] = "There is no such file.";
-inline constexpr char NotAnArchive[] = "This is not a UHARC archive (.uha).";
-inline constexpr char CannotWrite[] = "Nothing was extracted: %1.";
-inline constexpr char NoPassword[] = "Nothing was extracted: no password was given.";
-inline constexpr char NotPlaced[] = "The files were extracted but %1; nothing was left behind.";
+inline constexpr char AboutArchive[] = QT_TRANSLATE_NOOP("ExtractHere", "%1:\n%2");
+inline constexpr char NotFound[] = QT_TRANSLATE_NOOP("ExtractHere", "There is no such file.");
+inline constexpr char NotAnArchive[] =
+    QT_TRANSLATE_NOOP("ExtractHere", "This is not a UHARC archive (.uha).");
+inline constexpr char CannotWrite[] =
+    QT_TRANSLATE_NOOP("ExtractHere", "Nothing was extracted: %1.");
+inline constexpr char NoPassword[] =
+    QT_TRANSLATE_NOOP("ExtractHere", "Nothing was extracted: no password was given.");
+inline constexpr char NotPlaced[] =
+    QT_TRANSLATE_NOOP("ExtractHere", "The files were extracted but %1; nothing was left behind.");
 // %1 is the list of archives, one per line.
-inline constexpr char Summary[] = "These archives were not extracted:\n\n%1";
+inline constexpr char Summary[] =
+    QT_TRANSLATE_NOOP("ExtractHere", "These archives were not extracted:\n\n%1");
 } // namespace extract_here
 
 // Runs Extract Here for `archives` with `main`'s engine and prompter; `main` stays hidden.

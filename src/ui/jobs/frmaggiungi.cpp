@@ -81,7 +81,7 @@ frmAggiungi::frmAggiungi(std::function<QString()> selection, Prompter& prompter,
     : QDialog(parent), selection_(std::move(selection)), prompter_(prompter),
       handOver_(std::move(handOver)), saveFile_(&AskSaveFileName) {
     setObjectName(QStringLiteral("frmAggiungi"));
-    setWindowTitle(text(aggiungi::DesignCaption));
+    setWindowTitle(tr(aggiungi::DesignCaption));
     buildControls();
     Form_Load();
 }
@@ -89,20 +89,20 @@ frmAggiungi::frmAggiungi(std::function<QString()> selection, Prompter& prompter,
 frmAggiungi::~frmAggiungi() = default;
 
 void frmAggiungi::buildControls() {
-    Label1 = named(new QLabel(text(aggiungi::SaveTo), this), "Label1");
+    Label1 = named(new QLabel(tr(aggiungi::SaveTo), this), "Label1");
     Text1 = named(new QLineEdit(this), "Text1");
-    Text1->setAccessibleName(QStringLiteral("Archive name"));
+    Text1->setAccessibleName(tr("Archive name"));
     Text1->setMinimumWidth(360);
     Label1->setBuddy(Text1);
-    Command1 = named(new QPushButton(text(aggiungi::Browse), this), "Command1");
+    Command1 = named(new QPushButton(tr(aggiungi::Browse), this), "Command1");
     Command1->setAutoDefault(false);
 
-    Frame1 = named(new QGroupBox(text(aggiungi::Options), this), "Frame1");
-    Check1 = named(new QCheckBox(text(aggiungi::IncludeSubdirectories)), "Check1");
+    Frame1 = named(new QGroupBox(tr(aggiungi::Options), this), "Frame1");
+    Check1 = named(new QCheckBox(tr(aggiungi::IncludeSubdirectories)), "Check1");
     Check1->setChecked(true);
-    Check4 = named(new QCheckBox(text(dialogtext::Password)), "Check4");
+    Check4 = named(new QCheckBox(DialogText(dialogtext::Password)), "Check4");
     Text2 = named(new QLineEdit(), "Text2");
-    Text2->setAccessibleName(text(dialogtext::Password));
+    Text2->setAccessibleName(DialogText(dialogtext::Password));
     Text2->setEchoMode(QLineEdit::Password);
     Text2->setStyleSheet(QStringLiteral("QLineEdit { lineedit-password-character: 42; }"));
     Text2->setEnabled(false);
@@ -114,15 +114,15 @@ void frmAggiungi::buildControls() {
     options->setColumnStretch(1, 1);
     options->setRowStretch(3, 1);
 
-    Frame2 = named(new QGroupBox(text(aggiungi::Compression), this), "Frame2");
+    Frame2 = named(new QGroupBox(tr(aggiungi::Compression), this), "Frame2");
     Combo1 = named(new QComboBox(), "Combo1");
-    Combo1->setAccessibleName(QStringLiteral("Method"));
-    Check2 = named(new QCheckBox(text(aggiungi::Multimedia)), "Check2");
+    Combo1->setAccessibleName(tr("Method"));
+    Check2 = named(new QCheckBox(tr(aggiungi::Multimedia)), "Check2");
     Check2->setChecked(true);
-    Check3 = named(new QCheckBox(text(aggiungi::Dictionary)), "Check3");
+    Check3 = named(new QCheckBox(tr(aggiungi::Dictionary)), "Check3");
     Check3->setChecked(true);
     Combo2 = named(new QComboBox(), "Combo2");
-    Combo2->setAccessibleName(QStringLiteral("Dictionary size"));
+    Combo2->setAccessibleName(tr("Dictionary size"));
     auto* compression = new QGridLayout(Frame2);
     compression->addWidget(Combo1, 0, 0, 1, 2);
     compression->addWidget(Check2, 1, 0, 1, 2);
@@ -131,13 +131,13 @@ void frmAggiungi::buildControls() {
     compression->setColumnStretch(1, 1);
     compression->setRowStretch(3, 1);
 
-    files_ = BuildFileChoiceFrame("Frame3", text(aggiungi::FileTypes), this);
+    files_ = BuildFileChoiceFrame("Frame3", tr(aggiungi::FileTypes), this);
 
     // "Create and Add File" and "Create and Move File": a group of their own.
     auto* mode = new QWidget(this);
     mode->setObjectName(QStringLiteral("AddMode"));
-    Option1 = named(new QRadioButton(text(aggiungi::CreateAndAdd), mode), "Option1");
-    Option2 = named(new QRadioButton(text(aggiungi::CreateAndMove), mode), "Option2");
+    Option1 = named(new QRadioButton(tr(aggiungi::CreateAndAdd), mode), "Option1");
+    Option2 = named(new QRadioButton(tr(aggiungi::CreateAndMove), mode), "Option2");
     auto* modeGroup = new QButtonGroup(mode);
     modeGroup->addButton(Option1);
     modeGroup->addButton(Option2);
@@ -149,11 +149,11 @@ void frmAggiungi::buildControls() {
     modeRow->addWidget(Option2);
     modeRow->addStretch(1);
 
-    Command2 = named(new QPushButton(text(aggiungi::Default), this), "Command2");
+    Command2 = named(new QPushButton(tr(aggiungi::Default), this), "Command2");
     Command2->setAutoDefault(false);
-    Command3 = named(new QPushButton(text(aggiungi::Ok), this), "Command3");
+    Command3 = named(new QPushButton(tr(aggiungi::Ok), this), "Command3");
     Command3->setDefault(true);
-    Command4 = named(new QPushButton(text(aggiungi::Cancel), this), "Command4");
+    Command4 = named(new QPushButton(tr(aggiungi::Cancel), this), "Command4");
     Command4->setAutoDefault(false);
 
     auto* layout = new QVBoxLayout(this);
@@ -191,7 +191,7 @@ void frmAggiungi::buildControls() {
 
 void frmAggiungi::Form_Load() {
     SourcePath = selection_ ? selection_() : QString();
-    setWindowTitle(text(aggiungi::CaptionPrefix) + SourcePath);
+    setWindowTitle(tr(aggiungi::Caption).arg(SourcePath));
     const bool folder = QFileInfo(SourcePath).isDir();
     Text1->setText(ProposedArchiveName(SourcePath, folder));
     if (!folder) {
@@ -212,8 +212,8 @@ void frmAggiungi::Check4_Click() {
 }
 
 void frmAggiungi::Command1_Click() {
-    const QString chosen = saveFile_ ? saveFile_(this, text(aggiungi::SaveTitle),
-                                                 text(aggiungi::SaveFilter), Text1->text())
+    const QString chosen = saveFile_ ? saveFile_(this, tr(aggiungi::SaveTitle),
+                                                 tr(aggiungi::SaveFilter), Text1->text())
                                      : QString();
     if (chosen.isEmpty()) {
         qCDebug(lcAddDialog) << "save dialog cancelled; the archive name stays" << Text1->text();
@@ -262,7 +262,7 @@ void frmAggiungi::Command3_Click() {
     Password = Text2->text();
     SourcePath = selection_ ? selection_() : QString();
     if (ArchivePath.isEmpty()) {
-        prompter_.information(text(aggiungi::NoArchiveName));
+        prompter_.information(tr(aggiungi::NoArchiveName));
         return;
     }
     // A name holding "\\" or ":" would be stored as another path.

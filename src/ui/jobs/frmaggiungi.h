@@ -6,6 +6,7 @@
 #include "frmaggiungi_shared.h"
 
 #include <QDialog>
+#include <QtGlobal>
 
 class QCheckBox;
 class QComboBox;
@@ -19,28 +20,37 @@ namespace quovara {
 
 class Prompter;
 
-// Texts of the Add dialog.
+// Texts of the Add dialog; their translation context is the dialog's.
 namespace aggiungi {
-inline constexpr char DesignCaption[] = "Add";
-inline constexpr char CaptionPrefix[] = "Add ";
-inline constexpr char SaveTo[] = "Save Archive To:";
-inline constexpr char Browse[] = "Browse";
-inline constexpr char Options[] = "Options";
-inline constexpr char IncludeSubdirectories[] = "Include Subdirectories ";
-inline constexpr char Compression[] = "Compression";
-inline constexpr char Multimedia[] = "Multimedia Compression";
-inline constexpr char Dictionary[] = "Dictionary";
-inline constexpr char FileTypes[] = "Only These Files: (e.g: *.dll,*.exe)";
-inline constexpr char CreateAndAdd[] = "Create and Add File";
-inline constexpr char CreateAndMove[] = "Create and Move File";
-inline constexpr char Default[] = "Default";
-inline constexpr char Ok[] = "OK";
-inline constexpr char Cancel[] = "Cancel";
-inline constexpr char NoArchiveName[] = "You have to specify the name of the archive";
+inline constexpr char DesignCaption[] = QT_TRANSLATE_NOOP("quovara::frmAggiungi", "Add");
+// %1 is the path of the source.
+inline constexpr char Caption[] = QT_TRANSLATE_NOOP("quovara::frmAggiungi", "Add %1");
+inline constexpr char SaveTo[] = QT_TRANSLATE_NOOP("quovara::frmAggiungi", "Save Archive To:");
+inline constexpr char Browse[] = QT_TRANSLATE_NOOP("quovara::frmAggiungi", "Browse");
+inline constexpr char Options[] = QT_TRANSLATE_NOOP("quovara::frmAggiungi", "Options");
+inline constexpr char IncludeSubdirectories[] =
+    QT_TRANSLATE_NOOP("quovara::frmAggiungi", "Include Subdirectories ");
+inline constexpr char Compression[] = QT_TRANSLATE_NOOP("quovara::frmAggiungi", "Compression");
+inline constexpr char Multimedia[] =
+    QT_TRANSLATE_NOOP("quovara::frmAggiungi", "Multimedia Compression");
+inline constexpr char Dictionary[] = QT_TRANSLATE_NOOP("quovara::frmAggiungi", "Dictionary");
+inline constexpr char FileTypes[] =
+    QT_TRANSLATE_NOOP("quovara::frmAggiungi", "Only These Files: (e.g: *.dll,*.exe)");
+inline constexpr char CreateAndAdd[] =
+    QT_TRANSLATE_NOOP("quovara::frmAggiungi", "Create and Add File");
+inline constexpr char CreateAndMove[] =
+    QT_TRANSLATE_NOOP("quovara::frmAggiungi", "Create and Move File");
+inline constexpr char Default[] = QT_TRANSLATE_NOOP("quovara::frmAggiungi", "Default");
+inline constexpr char Ok[] = QT_TRANSLATE_NOOP("quovara::frmAggiungi", "OK");
+inline constexpr char Cancel[] = QT_TRANSLATE_NOOP("quovara::frmAggiungi", "Cancel");
+inline constexpr char NoArchiveName[] =
+    QT_TRANSLATE_NOOP("quovara::frmAggiungi", "You have to specify the name of the archive");
 // The save-file dialog of "Browse": its title and its filter in the Windows form
 // (description|pattern pairs).
-inline constexpr char SaveTitle[] = "Salva il file";
-inline constexpr char SaveFilter[] = "Uha File (*.uha)|*.uha";
+inline constexpr char SaveTitle[] = QT_TRANSLATE_NOOP("quovara::frmAggiungi", "Salva il file");
+//: Only the description before the bar is translated; the bar and the pattern stay.
+inline constexpr char SaveFilter[] =
+    QT_TRANSLATE_NOOP("quovara::frmAggiungi", "Uha File (*.uha)|*.uha");
 // What the job's script could not be written says (the job is then not started).
 } // namespace aggiungi
 

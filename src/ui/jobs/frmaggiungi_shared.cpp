@@ -2,6 +2,7 @@
 
 #include <QButtonGroup>
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QDir>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -9,6 +10,10 @@
 #include <QRadioButton>
 
 namespace quovara {
+
+QString DialogText(const char* source) {
+    return QCoreApplication::translate("DialogText", source);
+}
 
 FileChoice FileChoiceControls::choice() const {
     if (OpFileType->isChecked())
@@ -25,17 +30,17 @@ QList<QWidget*> FileChoiceControls::tabOrder() const {
 FileChoiceControls BuildFileChoiceFrame(const char* frameName, const QString& fileTypesCaption,
                                         QWidget* parent) {
     FileChoiceControls c;
-    c.Frame = named(new QGroupBox(QString::fromLatin1(dialogtext::FileFrame), parent), frameName);
-    c.OpAllFile = named(new QRadioButton(QString::fromLatin1(dialogtext::AllFiles)), "OpAllFile");
+    c.Frame = named(new QGroupBox(DialogText(dialogtext::FileFrame), parent), frameName);
+    c.OpAllFile = named(new QRadioButton(DialogText(dialogtext::AllFiles)), "OpAllFile");
     c.OpFileType = named(new QRadioButton(fileTypesCaption), "OpFileType");
     c.TxtFileType = named(new QLineEdit(), "TxtFileType");
-    c.TxtFileType->setAccessibleName(QStringLiteral("File types"));
-    c.OpFileList = named(new QRadioButton(QString::fromLatin1(dialogtext::FileList)), "OpFileList");
+    c.TxtFileType->setAccessibleName(QCoreApplication::translate("DialogText", "File types"));
+    c.OpFileList = named(new QRadioButton(DialogText(dialogtext::FileList)), "OpFileList");
     c.TxtFileList = named(new QLineEdit(), "TxtFileList");
-    c.TxtFileList->setAccessibleName(QStringLiteral("List file"));
-    c.ChkExclude = named(new QCheckBox(QString::fromLatin1(dialogtext::Exclude)), "ChkExclude");
+    c.TxtFileList->setAccessibleName(QCoreApplication::translate("DialogText", "List file"));
+    c.ChkExclude = named(new QCheckBox(DialogText(dialogtext::Exclude)), "ChkExclude");
     c.TxtExclude = named(new QLineEdit(), "TxtExclude");
-    c.TxtExclude->setAccessibleName(QStringLiteral("Excluded files"));
+    c.TxtExclude->setAccessibleName(QCoreApplication::translate("DialogText", "Excluded files"));
 
     auto* group = new QButtonGroup(c.Frame);
     group->setObjectName(QStringLiteral("FileChoiceGroup"));

@@ -7,6 +7,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <QtGlobal>
 #include <functional>
 
 class QCheckBox;
@@ -23,13 +24,13 @@ namespace quovara {
 // hand over to a plain run of the script.
 using JobHandOver = std::function<void(const QString& archivePath)>;
 
-// Captions shared by both dialogs.
+// Captions shared by both dialogs; their translation context is "DialogText".
 namespace dialogtext {
-inline constexpr char FileFrame[] = "File to Extract";
-inline constexpr char AllFiles[] = "All Files";
-inline constexpr char FileList[] = "By File List (Full Path)";
-inline constexpr char Exclude[] = "Exclude: (e.g: *.dll *.exe)";
-inline constexpr char Password[] = "Password";
+inline constexpr char FileFrame[] = QT_TRANSLATE_NOOP("DialogText", "File to Extract");
+inline constexpr char AllFiles[] = QT_TRANSLATE_NOOP("DialogText", "All Files");
+inline constexpr char FileList[] = QT_TRANSLATE_NOOP("DialogText", "By File List (Full Path)");
+inline constexpr char Exclude[] = QT_TRANSLATE_NOOP("DialogText", "Exclude: (e.g: *.dll *.exe)");
+inline constexpr char Password[] = QT_TRANSLATE_NOOP("DialogText", "Password");
 } // namespace dialogtext
 
 // The controls of the "File to Extract" frame. `OpAllFile`, `OpFileType` and `OpFileList` are
@@ -63,10 +64,8 @@ template <typename W> W* named(W* widget, const char* name) {
     return widget;
 }
 
-// A fixed caption of the dialogs (Latin-1 text constants).
-inline QString text(const char* latin1) {
-    return QString::fromLatin1(latin1);
-}
+// A caption shared by both dialogs (a `dialogtext` constant) as the user reads it.
+QString DialogText(const char* source);
 
 // The same path written two ways ("/a/b/" and "/a/b", native or not) compares equal.
 bool SamePath(const QString& a, const QString& b);

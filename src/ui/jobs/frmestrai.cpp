@@ -36,7 +36,7 @@ frmEstrai::frmEstrai(const QString& archivePath, Prompter& prompter, JobHandOver
     : QDialog(parent), prompter_(prompter), handOver_(std::move(handOver)),
       ArchivePath(archivePath) {
     setObjectName(QStringLiteral("frmEstrai"));
-    setWindowTitle(text(estrai::DesignCaption));
+    setWindowTitle(tr(estrai::DesignCaption));
     buildControls();
     Form_Load();
 }
@@ -44,9 +44,9 @@ frmEstrai::frmEstrai(const QString& archivePath, Prompter& prompter, JobHandOver
 frmEstrai::~frmEstrai() = default;
 
 void frmEstrai::buildControls() {
-    Label2 = named(new QLabel(text(estrai::ExtractTo), this), "Label2");
+    Label2 = named(new QLabel(tr(estrai::ExtractTo), this), "Label2");
     TxTDir = named(new QLineEdit(this), "TxTDir");
-    TxTDir->setAccessibleName(text(estrai::ExtractTo));
+    TxTDir->setAccessibleName(tr(estrai::ExtractTo));
     Label2->setBuddy(TxTDir);
     connect(TxTDir, &QLineEdit::textEdited, this, [this] { typed_ = true; });
 
@@ -55,7 +55,7 @@ void frmEstrai::buildControls() {
     FolderView1 = named(new FolderTree(this), "FolderView1");
     folders_ = FolderView1->folders();
     folders_->setObjectName(QStringLiteral("FolderModel"));
-    FolderView1->setAccessibleName(QStringLiteral("Folders"));
+    FolderView1->setAccessibleName(tr("Folders"));
     // Small enough for the dialog to fit a 640x420 screen; it grows with the dialog.
     FolderView1->setMinimumSize(220, 140);
     connect(FolderView1->selectionModel(), &QItemSelectionModel::currentChanged, this,
@@ -67,14 +67,14 @@ void frmEstrai::buildControls() {
                     TxTDir->setText(QDir::toNativeSeparators(QDir(path).filePath(newName)));
             });
 
-    Command1 = named(new QPushButton(text(estrai::CreateNewFolder), this), "Command1");
+    Command1 = named(new QPushButton(tr(estrai::CreateNewFolder), this), "Command1");
     Command1->setAutoDefault(false);
 
     // "Extract files to current dir" stands alone in its option group: once chosen it cannot
     // be cleared.
     auto* currentDir = new QWidget(this);
     currentDir->setObjectName(QStringLiteral("CurrentDirGroup"));
-    Option1 = named(new QRadioButton(text(estrai::ToCurrentDir), currentDir), "Option1");
+    Option1 = named(new QRadioButton(tr(estrai::ToCurrentDir), currentDir), "Option1");
     auto* currentDirGroup = new QButtonGroup(currentDir);
     currentDirGroup->setExclusive(true);
     currentDirGroup->addButton(Option1);
@@ -82,14 +82,14 @@ void frmEstrai::buildControls() {
     currentDirRow->setContentsMargins(0, 0, 0, 0);
     currentDirRow->addWidget(Option1);
 
-    Frame1 = named(new QGroupBox(text(estrai::Option), this), "Frame1");
-    Check3 = named(new QCheckBox(text(estrai::FullPath)), "Check3");
-    Check2 = named(new QCheckBox(text(dialogtext::Password)), "Check2");
+    Frame1 = named(new QGroupBox(tr(estrai::Option), this), "Frame1");
+    Check3 = named(new QCheckBox(tr(estrai::FullPath)), "Check3");
+    Check2 = named(new QCheckBox(DialogText(dialogtext::Password)), "Check2");
     TxTPwd = named(new QLineEdit(), "TxTPwd");
-    TxTPwd->setAccessibleName(text(dialogtext::Password));
+    TxTPwd->setAccessibleName(DialogText(dialogtext::Password));
     TxTPwd->setEchoMode(QLineEdit::Password);
     TxTPwd->setStyleSheet(QStringLiteral("QLineEdit { lineedit-password-character: 42; }"));
-    Check1 = named(new QCheckBox(text(estrai::Overwrite)), "Check1");
+    Check1 = named(new QCheckBox(tr(estrai::Overwrite)), "Check1");
     auto* options = new QGridLayout(Frame1);
     options->setColumnMinimumWidth(0, 18);
     options->addWidget(Check3, 0, 0, 1, 2);
@@ -98,11 +98,11 @@ void frmEstrai::buildControls() {
     options->addWidget(Check1, 3, 0, 1, 2);
     options->setColumnStretch(1, 1);
 
-    files_ = BuildFileChoiceFrame("Frame2", text(estrai::FileTypes), this);
+    files_ = BuildFileChoiceFrame("Frame2", tr(estrai::FileTypes), this);
 
-    Command2 = named(new QPushButton(text(estrai::Ok), this), "Command2");
+    Command2 = named(new QPushButton(tr(estrai::Ok), this), "Command2");
     Command2->setDefault(true);
-    Command3 = named(new QPushButton(text(estrai::Cancel), this), "Command3");
+    Command3 = named(new QPushButton(tr(estrai::Cancel), this), "Command3");
     Command3->setAutoDefault(false);
 
     auto* left = new QVBoxLayout();
@@ -142,7 +142,7 @@ void frmEstrai::buildControls() {
 }
 
 void frmEstrai::Form_Load() {
-    setWindowTitle(text(estrai::CaptionPrefix) + ArchivePath);
+    setWindowTitle(tr(estrai::Caption).arg(ArchivePath));
     TxTPwd->setEnabled(false);
     // The tree starts at the folder that holds the archive (the home folder when that cannot
     // be shown). The dialog opens once the folders above it are read, or after a short
@@ -207,14 +207,14 @@ void frmEstrai::CreateNewFolder(bool editName) {
         return;
     }
     const QDir dir(folders_->filePath(parent));
-    QString name = text(estrai::NewFolderName);
+    QString name = tr(estrai::NewFolderName);
     for (int n = 2; dir.exists(name); ++n)
-        name = text(estrai::NewFolderName) + QStringLiteral(" (%1)").arg(n);
+        name = tr(estrai::NewFolderName) + QStringLiteral(" (%1)").arg(n);
     const QModelIndex made = folders_->mkdir(parent, name);
     if (!made.isValid()) {
         qCDebug(lcExtractDialog) << "could not create" << dir.filePath(name);
-        prompter_.exclamation(QStringLiteral("The new folder could not be created in ") +
-                              QDir::toNativeSeparators(dir.path()));
+        prompter_.exclamation(tr("The new folder could not be created in %1")
+                                  .arg(QDir::toNativeSeparators(dir.path())));
         return;
     }
     FolderView1->expand(parent);

@@ -8,6 +8,7 @@
 #include "frmaggiungi_shared.h"
 
 #include <QDialog>
+#include <QtGlobal>
 
 class QCheckBox;
 class QGroupBox;
@@ -23,22 +24,27 @@ class FolderTree;
 class FolderTreeModel;
 class Prompter;
 
-// Texts of the Extract dialog.
+// Texts of the Extract dialog; their translation context is the dialog's.
 namespace estrai {
-inline constexpr char DesignCaption[] = "Extract";
-inline constexpr char CaptionPrefix[] = "Extract ";
-inline constexpr char ExtractTo[] = "Extract To:";
-inline constexpr char CreateNewFolder[] = "Create New Folder";
-inline constexpr char ToCurrentDir[] = "Extract files to current dir";
-inline constexpr char Option[] = "Option";
-inline constexpr char FullPath[] = "Extract files with full path";
-inline constexpr char Overwrite[] = "Overwrite files";
-inline constexpr char FileTypes[] = "Only These Files:  (e.g: *.dll,*.exe)";
-inline constexpr char Ok[] = "OK";
-inline constexpr char Cancel[] = "Cancel";
+inline constexpr char DesignCaption[] = QT_TRANSLATE_NOOP("quovara::frmEstrai", "Extract");
+// %1 is the path of the archive.
+inline constexpr char Caption[] = QT_TRANSLATE_NOOP("quovara::frmEstrai", "Extract %1");
+inline constexpr char ExtractTo[] = QT_TRANSLATE_NOOP("quovara::frmEstrai", "Extract To:");
+inline constexpr char CreateNewFolder[] =
+    QT_TRANSLATE_NOOP("quovara::frmEstrai", "Create New Folder");
+inline constexpr char ToCurrentDir[] =
+    QT_TRANSLATE_NOOP("quovara::frmEstrai", "Extract files to current dir");
+inline constexpr char Option[] = QT_TRANSLATE_NOOP("quovara::frmEstrai", "Option");
+inline constexpr char FullPath[] =
+    QT_TRANSLATE_NOOP("quovara::frmEstrai", "Extract files with full path");
+inline constexpr char Overwrite[] = QT_TRANSLATE_NOOP("quovara::frmEstrai", "Overwrite files");
+inline constexpr char FileTypes[] =
+    QT_TRANSLATE_NOOP("quovara::frmEstrai", "Only These Files:  (e.g: *.dll,*.exe)");
+inline constexpr char Ok[] = QT_TRANSLATE_NOOP("quovara::frmEstrai", "OK");
+inline constexpr char Cancel[] = QT_TRANSLATE_NOOP("quovara::frmEstrai", "Cancel");
 // The name a new folder gets before the user renames it ("New Folder (2)" and so on when
 // taken).
-inline constexpr char NewFolderName[] = "New Folder";
+inline constexpr char NewFolderName[] = QT_TRANSLATE_NOOP("quovara::frmEstrai", "New Folder");
 } // namespace estrai
 
 class frmEstrai : public QDialog {

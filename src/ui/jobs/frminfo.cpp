@@ -83,30 +83,30 @@ QLabel* picture(const char* name, const char* resource, int size, const QString&
 frmInfo::frmInfo(QWidget* parent) : QDialog(parent) {
     initAboutResources();
     setObjectName(QStringLiteral("frmInfo"));
-    setWindowTitle(QString::fromLatin1(info::Caption));
+    setWindowTitle(tr(info::Caption));
     setMouseTracking(true);
 
     // The program: its picture, author line, licence note and the two contact links.
-    Frame2 = new QGroupBox(QString::fromLatin1(info::ProgramFrame), this);
+    Frame2 = new QGroupBox(tr(info::ProgramFrame), this);
     Frame2->setObjectName(QStringLiteral("Frame2"));
     Frame2->setMouseTracking(true);
-    Image1 = picture("Image1", ":/about/quovara.svg", 64, QStringLiteral("Quovara"), Frame2);
-    Label3 = label("Label3", QString::fromLatin1(info::AuthorLine), Frame2);
-    Label4 = label("Label4", QString::fromLatin1(info::FreeNote), Frame2);
-    Label5 = label("Label5", QString::fromLatin1(info::WebSiteLabel), Frame2);
-    Label6 = label("Label6", QString::fromLatin1(info::EmailLabel), Frame2);
+    Image1 = picture("Image1", ":/about/quovara.svg", 64, tr("Quovara"), Frame2);
+    Label3 = label("Label3", tr(info::AuthorLine), Frame2);
+    Label4 = label("Label4", tr(info::FreeNote), Frame2);
+    Label5 = label("Label5", tr(info::WebSiteLabel), Frame2);
+    Label6 = label("Label6", tr(info::EmailLabel), Frame2);
 
     // The engine: its picture and notes.
-    Frame1 = new QGroupBox(QString::fromLatin1(info::EngineFrame), this);
+    Frame1 = new QGroupBox(tr(info::EngineFrame), this);
     Frame1->setObjectName(QStringLiteral("Frame1"));
-    Picture1 =
-        picture("Picture1", ":/about/engine.svg", 48, QStringLiteral("UHARC engine"), Frame1);
-    Label2 = label("Label2", QString::fromLatin1(info::EngineNote), Frame1);
-    Label1 = label("Label1", QString::fromLatin1(info::EngineNotice), Frame1);
+    Picture1 = picture("Picture1", ":/about/engine.svg", 48, tr("UHARC engine"), Frame1);
+    Label2 = label("Label2", tr(info::EngineNote), Frame1);
+    Label1 = label("Label1", tr(info::EngineNotice), Frame1);
     Label1->setWordWrap(true);
 
     const char* captions[3] = {info::HomePage, info::Contact, info::EnginePage};
-    const char* roles[3] = {"Web site ", "E-mail ", "Engine page "};
+    // %1 is the link's caption.
+    const QString roles[3] = {tr("Web site %1"), tr("E-mail %1"), tr("Engine page %1")};
     QWidget* owners[3] = {Frame2, Frame2, this};
     for (int i = 0; i < 3; ++i) {
         auto* link = new LinkLabel(QString::fromLatin1(captions[i]), owners[i]);
@@ -115,22 +115,22 @@ frmInfo::frmInfo(QWidget* parent) : QDialog(parent) {
         SetHandCursor(link, true);
         link->setFocusPolicy(Qt::StrongFocus);
         link->setAutoFillBackground(false);
-        link->setAccessibleName(QLatin1String(roles[i]) + link->text());
+        link->setAccessibleName(roles[i].arg(link->text()));
         link->installEventFilter(this);
         links_[i] = link;
         setHot(i, false);
     }
-    links_[0]->setAccessibleDescription(QStringLiteral("Opens the web site in the browser"));
-    links_[1]->setAccessibleDescription(QStringLiteral("Writes an e-mail in the mail program"));
-    links_[2]->setAccessibleDescription(QStringLiteral("Opens the web page in the browser"));
+    links_[0]->setAccessibleDescription(tr("Opens the web site in the browser"));
+    links_[1]->setAccessibleDescription(tr("Writes an e-mail in the mail program"));
+    links_[2]->setAccessibleDescription(tr("Opens the web page in the browser"));
 
-    Label7 = label("Label7", QString::fromLatin1(info::Motto), this);
+    Label7 = label("Label7", tr(info::Motto), this);
     QFont bold = Label7->font();
     bold.setBold(true);
     Label7->setFont(bold);
-    Label8 = label("Label8", QString::fromLatin1(info::Dedication), this);
+    Label8 = label("Label8", tr(info::Dedication), this);
 
-    Command1 = new QPushButton(QStringLiteral("OK"), this);
+    Command1 = new QPushButton(tr("OK"), this);
     Command1->setObjectName(QStringLiteral("Command1"));
     Command1->setDefault(true);
 

@@ -5,6 +5,7 @@
 #include <QColor>
 #include <QDialog>
 #include <QString>
+#include <QtGlobal>
 
 class QGroupBox;
 class QLabel;
@@ -14,24 +15,30 @@ namespace quovara {
 
 // Texts of the window.
 namespace info {
-inline constexpr char Caption[] = "Quovara v 2.0";
-inline constexpr char ProgramFrame[] = "Quovara v 2.0 UHARC GUI";
-inline constexpr char EngineFrame[] =
-    "UHARC 0.6a BETA VERSION High Compression Multimedia Archiver";
-inline constexpr char WebSiteLabel[] = "Web Site: ";
-inline constexpr char EmailLabel[] = "E-mai: ";
-inline constexpr char FreeNote[] = "IT IS FREE, NOT FOR COMMERCIAL USE";
-inline constexpr char EngineNote[] = "FOR TESTING AND EVALUATION ONLY, NOT FOR COMMERCIAL USE";
-inline constexpr char Motto[] = "FORZA NAPOLI";
+inline constexpr char Caption[] = QT_TRANSLATE_NOOP("quovara::frmInfo", "Quovara v 2.0");
+inline constexpr char ProgramFrame[] =
+    QT_TRANSLATE_NOOP("quovara::frmInfo", "Quovara v 2.0 UHARC GUI");
+inline constexpr char EngineFrame[] = QT_TRANSLATE_NOOP(
+    "quovara::frmInfo", "UHARC 0.6a BETA VERSION High Compression Multimedia Archiver");
+inline constexpr char WebSiteLabel[] = QT_TRANSLATE_NOOP("quovara::frmInfo", "Web Site: ");
+inline constexpr char EmailLabel[] = QT_TRANSLATE_NOOP("quovara::frmInfo", "E-mai: ");
+inline constexpr char FreeNote[] =
+    QT_TRANSLATE_NOOP("quovara::frmInfo", "IT IS FREE, NOT FOR COMMERCIAL USE");
+inline constexpr char EngineNote[] = QT_TRANSLATE_NOOP(
+    "quovara::frmInfo", "FOR TESTING AND EVALUATION ONLY, NOT FOR COMMERCIAL USE");
+inline constexpr char Motto[] = QT_TRANSLATE_NOOP("quovara::frmInfo", "FORZA NAPOLI");
 // The links, written without their scheme: the home page, the contact address and the page
 // on getting the engine.
 inline constexpr char HomePage[] = "quovara.example.org";
 inline constexpr char Contact[] = "quovara@example.org";
 inline constexpr char EnginePage[] = "quovara.example.org/engine";
-inline constexpr char AuthorLine[] = "Written by the Quovara developers";
-inline constexpr char EngineNotice[] =
-    "UHARC is a separate program by its own author. Quovara does not include it.";
-inline constexpr char Dedication[] = "For everyone who keeps old archives alive.";
+inline constexpr char AuthorLine[] =
+    QT_TRANSLATE_NOOP("quovara::frmInfo", "Written by the Quovara developers");
+inline constexpr char EngineNotice[] = QT_TRANSLATE_NOOP(
+    "quovara::frmInfo",
+    "UHARC is a separate program by its own author. Quovara does not include it.");
+inline constexpr char Dedication[] =
+    QT_TRANSLATE_NOOP("quovara::frmInfo", "For everyone who keeps old archives alive.");
 } // namespace info
 
 // Colours of the links: at rest and under the pointer.

@@ -6,6 +6,7 @@
 #include "core/jobprocess.h"
 #include "core/places.h"
 #include "core/scriptexec.h"
+#include "engine/progress.h"
 #include "ui/browser/frmapri.h"
 
 #include <QCloseEvent>
@@ -41,13 +42,13 @@ constexpr int px(int twips) {
 // clang-format off
 const ProgressKind kKinds[] = {
     // kind             form             caption            script              icon
-    {JobKind::Add,     "frmAdding",     "Adding ...",     names::AddScript,     ":/icons/toolbar/102-add.svg",
+    {JobKind::Add,     "frmAdding",     QT_TRANSLATE_NOOP("quovara::frmProgress", "Adding ..."),     names::AddScript,     ":/icons/toolbar/102-add.svg",
      ConsoleJob::Add,     true,  false, true,  nullptr,              false, true,  false,
      5055, 2175, 1440, 840},
-    {JobKind::Extract, "frmExtracting", "Extracting ...", names::ExtractScript, ":/icons/toolbar/103-extract.svg",
+    {JobKind::Extract, "frmExtracting", QT_TRANSLATE_NOOP("quovara::frmProgress", "Extracting ..."), names::ExtractScript, ":/icons/toolbar/103-extract.svg",
      ConsoleJob::Extract, false, true,  false, nullptr,              true,  false, false,
      5055, 1935, 1200, 600},
-    {JobKind::Test,    "frmTesting",    "Testing ...",    names::TestScript,    ":/icons/toolbar/105-verify.svg",
+    {JobKind::Test,    "frmTesting",    QT_TRANSLATE_NOOP("quovara::frmProgress", "Testing ..."),    names::TestScript,    ":/icons/toolbar/105-verify.svg",
      ConsoleJob::Test,    false, true,  false, progress::TestPassed, true,  false, true,
      5025, 1905, 1200, 600},
 };
@@ -114,7 +115,7 @@ frmProgress::frmProgress(const ProgressKind& kind, frmApri& main, const QString&
     // Load.
     SetTrayUsed(false);
     setObjectName(QLatin1String(kind.formName));
-    setWindowTitle(QLatin1String(kind.caption));
+    setWindowTitle(tr(kind.caption));
     setWindowIcon(KindIcon(kind.icon));
     setAttribute(Qt::WA_QuitOnClose, false);
     time_.startTime = QDateTime::currentDateTime();
@@ -168,7 +169,7 @@ void frmProgress::buildControls() {
     setFixedSize(px(kind_.clientWidth), px(kind_.clientHeight));
 
     const int frame1Height = kind_.pbTop + 255 + 120;
-    Frame1 = new QGroupBox(QStringLiteral("Progress"), this);
+    Frame1 = new QGroupBox(tr("Progress"), this);
     Frame1->setObjectName(QStringLiteral("Frame1"));
     Frame1->setGeometry(px(120), px(120), px(4815), px(frame1Height));
     JobTxt = textBox("JobTxt", Frame1, QRect(120, 240, 4575, 195));
@@ -184,11 +185,13 @@ void frmProgress::buildControls() {
     PB->setTextVisible(false);
     PB->setGeometry(px(120), px(kind_.pbTop), px(4575), px(255));
 
-    Frame2 = new QGroupBox(QStringLiteral("Time"), this);
+    Frame2 = new QGroupBox(tr("Time"), this);
     Frame2->setObjectName(QStringLiteral("Frame2"));
     Frame2->setGeometry(px(120), px(kind_.frame2Top), px(4815), px(615));
     TimeTxt = textBox("TimeTxt", Frame2, QRect(120, 240, 4575, 285));
-    TimeTxt->setText(QString::fromLatin1(InitialTimeText));
+    // The time line before the first estimate (InitialTimeText), made as every later one is, so
+    // that it reads in the user's language as they do.
+    TimeTxt->setText(TimeLineText(0, 0, 0));
     TimeTxt->setCursorPosition(0);
     // The time line was made to fit its box: with a wider face the box's font is made smaller
     // until it does (down to 9 pixels).

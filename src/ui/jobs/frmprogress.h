@@ -15,6 +15,7 @@
 #include <QPointer>
 #include <QString>
 #include <QWidget>
+#include <QtGlobal>
 
 #include <functional>
 #include <memory>
@@ -66,32 +67,40 @@ struct JobWindowRun {
 };
 bool RunJobWindow(JobKind kind, frmApri& main, JobWindowRun& run);
 
-// Texts of the windows.
+// Texts of the windows; their translation context is the window's.
 namespace progress {
-inline constexpr char TestPassed[] = "No errors found during test operation";
+inline constexpr char TestPassed[] =
+    QT_TRANSLATE_NOOP("quovara::frmProgress", "No errors found during test operation");
 // The window's own limit to the wait for first output: the job's process has ended and das.txt
 // is still empty or absent. %1 is the job script's path.
-inline constexpr char NoOutput[] =
+inline constexpr char NoOutput[] = QT_TRANSLATE_NOOP(
+    "quovara::frmProgress",
     "The engine ended without writing any output, so the job cannot be followed.\n"
-    "Job script: %1";
+    "Job script: %1");
 // The job script could not be started. %1 says why.
-inline constexpr char NotStarted[] = "The job could not be started: %1";
+inline constexpr char NotStarted[] =
+    QT_TRANSLATE_NOOP("quovara::frmProgress", "The job could not be started: %1");
 // The job did not finish: the engine was ended by a signal, or ended with a non-zero exit code
 // and no error line, or its output was removed or cut while it ran. %1 is the archive, %2 why.
-inline constexpr char AbnormalEnd[] = "The engine ended abnormally (%2).\n"
-                                      "Archive: %1\n"
-                                      "The job did not finish; do not rely on its result.";
+inline constexpr char AbnormalEnd[] =
+    QT_TRANSLATE_NOOP("quovara::frmProgress", "The engine ended abnormally (%2).\n"
+                                              "Archive: %1\n"
+                                              "The job did not finish; do not rely on its result.");
 // The engine waits at its console for a key. %1 is its question as it wrote it.
-inline constexpr char ArchiveExistsQuestion[] =
+inline constexpr char ArchiveExistsQuestion[] = QT_TRANSLATE_NOOP(
+    "quovara::frmProgress",
     "The engine asks:\n\n%1\n\n"
     "Yes: the archive is replaced by a new one that holds only the files of this job; "
     "everything the archive holds now is lost (the engine cannot add to an existing archive).\n"
-    "No: the job stops and the archive stays as it is.";
+    "No: the job stops and the archive stays as it is.");
 // After the user's No to the engine's question whether to replace the archive.
-inline constexpr char ArchiveKept[] = "The archive was left as it was.";
-inline constexpr char OtherQuestion[] = "The engine asks:\n\n%1\n\n"
-                                        "Yes answers \"y\", No answers \"n\".";
-// How the engine's questions end: the last, unfinished line of its output.
+inline constexpr char ArchiveKept[] =
+    QT_TRANSLATE_NOOP("quovara::frmProgress", "The archive was left as it was.");
+inline constexpr char OtherQuestion[] =
+    QT_TRANSLATE_NOOP("quovara::frmProgress", "The engine asks:\n\n%1\n\n"
+                                              "Yes answers \"y\", No answers \"n\".");
+// How the engine's questions end: the last, unfinished line of its output (compared with
+// the engine's own words, so never translated).
 inline constexpr char QuestionEnding[] = "(y/n) ?";
 } // namespace progress
 
@@ -99,7 +108,7 @@ inline constexpr char QuestionEnding[] = "(y/n) ?";
 struct ProgressKind {
     JobKind kind;
     const char* formName;    // object name of the window
-    const char* caption;     // "Adding ...", ...
+    const char* caption;     // "Adding ...", ... (translated in the window's context)
     const char* script;      // job script in the WorkFolder
     const char* icon;        // the window's own icon
     ConsoleJob lineRules;    // how the lines of das.txt are read

@@ -77,7 +77,7 @@ void frmProgress::startJob() {
     if (!job_->start(scriptPath_, workingFolder())) {
         const QString why = job_->errorText();
         job_.reset();
-        endWithMessage(QString::fromLatin1(progress::NotStarted).arg(why));
+        endWithMessage(tr(progress::NotStarted).arg(why));
         return;
     }
     // Step 5: wait for output; step 6: follow it.
@@ -96,7 +96,7 @@ void frmProgress::pollRound() {
         if (!FileExists(consolePath_)) {
             if (ended) {
                 // The Part would wait here for ever; the window reports the silent engine.
-                endWithMessage(QString::fromLatin1(progress::NoOutput).arg(scriptPath_));
+                endWithMessage(tr(progress::NoOutput).arg(scriptPath_));
             }
             return;
         }
@@ -115,7 +115,7 @@ void frmProgress::pollRound() {
             // A job that did not finish is never reported as a success.
             const QString why = abnormalEnd();
             if (!why.isEmpty()) {
-                endWithMessage(QString::fromLatin1(progress::AbnormalEnd).arg(archivePath_, why));
+                endWithMessage(tr(progress::AbnormalEnd).arg(archivePath_, why));
                 return;
             }
             normalEnding();
@@ -159,7 +159,7 @@ void frmProgress::handleError(const ConsoleState& state) {
         // The engine's error is what the user asked for: no error box.
         stopFollowing();
         tellEnd(JobOutcome::Stopped);
-        main_.prompter().information(QString::fromLatin1(progress::ArchiveKept));
+        main_.prompter().information(tr(progress::ArchiveKept));
         if (unloaded_)
             return;
         main_.setVisible(true);
@@ -191,9 +191,8 @@ void frmProgress::answerEngineQuestion(const QString& line) {
     // The line may begin with the blanks and carriage returns of a cleared progress line.
     const QString question = shown(line.mid(line.lastIndexOf(QLatin1Char('\r')) + 1)).trimmed();
     const bool archiveExists = question.contains(QLatin1String("already exists"));
-    const QString text = QString::fromLatin1(archiveExists ? progress::ArchiveExistsQuestion
-                                                           : progress::OtherQuestion)
-                             .arg(question);
+    const QString text =
+        tr(archiveExists ? progress::ArchiveExistsQuestion : progress::OtherQuestion).arg(question);
     qCDebug(lcJobWindow) << "the engine asks:" << question;
     asking_ = true;
     const bool yes = main_.prompter().question(text);
@@ -211,18 +210,16 @@ QString frmProgress::abnormalEnd() const {
     if (job_->crashed()) {
         const int signal = job_->exitCode();
         const char* name = ::strsignal(signal);
-        return name ? QStringLiteral("signal %1, %2").arg(signal).arg(QString::fromLocal8Bit(name))
-                    : QStringLiteral("signal %1").arg(signal);
+        return name ? tr("signal %1, %2").arg(signal).arg(QString::fromLocal8Bit(name))
+                    : tr("signal %1").arg(signal);
     }
     if (job_->exitCode() != 0) {
         const QString words = lastEngineWords();
-        return words.isEmpty()
-                   ? QStringLiteral("exit code %1").arg(job_->exitCode())
-                   : QStringLiteral("exit code %1; it said: %2").arg(job_->exitCode()).arg(words);
+        return words.isEmpty() ? tr("exit code %1").arg(job_->exitCode())
+                               : tr("exit code %1; it said: %2").arg(job_->exitCode()).arg(words);
     }
     if (reader_->outputLost())
-        return QStringLiteral("its output %1 was removed or cut short while it ran")
-            .arg(consolePath_);
+        return tr("its output %1 was removed or cut short while it ran").arg(consolePath_);
     return QString();
 }
 
@@ -301,7 +298,7 @@ void frmProgress::normalEnding() {
     succeeded_ = true;
     tellEnd(JobOutcome::Finished);
     if (kind_.endMessage)
-        main_.prompter().information(QString::fromLatin1(kind_.endMessage));
+        main_.prompter().information(tr(kind_.endMessage));
     if (unloaded_)
         return;
     main_.setVisible(true);

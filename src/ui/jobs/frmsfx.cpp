@@ -130,7 +130,8 @@ QLabel* buddyLabel(const char* name, const QString& text, QWidget* buddy, QWidge
 
 QString SfxSaveFilterForQt() {
     // "Application (*.exe)|*.exe": the description already names its pattern.
-    return QString::fromLatin1(sfxdlg::SaveFilter).section(QLatin1Char('|'), 0, 0);
+    return QCoreApplication::translate("quovara::frmSFX", sfxdlg::SaveFilter)
+        .section(QLatin1Char('|'), 0, 0);
 }
 
 void SetSfxSaveDialog(SfxSaveDialog dialog) {
@@ -142,11 +143,11 @@ frmSFX::frmSFX(const QString& archivePath, QLabel* stato, QLabel* consiglio, Pro
     : QDialog(parent), archivePath_(archivePath), stato_(stato), consiglio_(consiglio),
       prompter_(prompter) {
     setObjectName(QStringLiteral("frmSFX"));
-    setWindowTitle(QString::fromLatin1(sfxdlg::Caption));
+    setWindowTitle(tr(sfxdlg::Caption));
 
     TabStrip1 = new QTabBar(this);
     TabStrip1->setObjectName(QStringLiteral("TabStrip1"));
-    TabStrip1->setAccessibleName(QStringLiteral("Pages"));
+    TabStrip1->setAccessibleName(tr("Pages"));
 
     // The pages share one area under the tabs.
     auto* area = new QWidget(this);
@@ -159,25 +160,25 @@ frmSFX::frmSFX(const QString& archivePath, QLabel* stato, QLabel* consiglio, Pro
     pic[0]->setObjectName(QStringLiteral("pic(0)"));
     auto* general = new QVBoxLayout(pic[0]);
     general->setContentsMargins(8, 8, 8, 8);
-    Frame1 = new QGroupBox(QStringLiteral("&Path To Extract"), pic[0]);
+    Frame1 = new QGroupBox(tr("&Path To Extract"), pic[0]);
     Frame1->setObjectName(QStringLiteral("Frame1"));
     cmbPath = new QComboBox(Frame1);
     cmbPath->setObjectName(QStringLiteral("cmbPath"));
     cmbPath->setEditable(true);
     cmbPath->setInsertPolicy(QComboBox::NoInsert);
-    cmbPath->setAccessibleName(QStringLiteral("Path To Extract"));
+    cmbPath->setAccessibleName(tr("Path To Extract"));
     auto* frame1Layout = new QVBoxLayout(Frame1);
     frame1Layout->addWidget(cmbPath);
     general->addWidget(Frame1);
 
-    Frame2 = new QGroupBox(QStringLiteral("Setup Program"), pic[0]);
+    Frame2 = new QGroupBox(tr("Setup Program"), pic[0]);
     Frame2->setObjectName(QStringLiteral("Frame2"));
     TxTRunB = new QLineEdit(Frame2);
     TxTRunB->setObjectName(QStringLiteral("TxTRunB"));
-    Label2 = buddyLabel("Label2", QStringLiteral("Run &Before Extraction"), TxTRunB, Frame2);
+    Label2 = buddyLabel("Label2", tr("Run &Before Extraction"), TxTRunB, Frame2);
     TxTRunA = new QLineEdit(Frame2);
     TxTRunA->setObjectName(QStringLiteral("TxTRunA"));
-    Label1 = buddyLabel("Label1", QStringLiteral("Run &After Extraction"), TxTRunA, Frame2);
+    Label1 = buddyLabel("Label1", tr("Run &After Extraction"), TxTRunA, Frame2);
     auto* frame2Layout = new QVBoxLayout(Frame2);
     frame2Layout->addWidget(Label2);
     frame2Layout->addWidget(TxTRunB);
@@ -192,18 +193,17 @@ frmSFX::frmSFX(const QString& archivePath, QLabel* stato, QLabel* consiglio, Pro
     pic[1]->setObjectName(QStringLiteral("pic(1)"));
     auto* text = new QVBoxLayout(pic[1]);
     text->setContentsMargins(8, 8, 8, 8);
-    Frame3 = new QGroupBox(QStringLiteral("Text of SFX"), pic[1]);
+    Frame3 = new QGroupBox(tr("Text of SFX"), pic[1]);
     Frame3->setObjectName(QStringLiteral("Frame3"));
     TxtCaptionSFX = new QLineEdit(Frame3);
     TxtCaptionSFX->setObjectName(QStringLiteral("TxtCaptionSFX"));
-    Label5 = buddyLabel("Label5", QStringLiteral("Tit&le of SFX window"), TxtCaptionSFX, Frame3);
+    Label5 = buddyLabel("Label5", tr("Tit&le of SFX window"), TxtCaptionSFX, Frame3);
     TextSFX = new QPlainTextEdit(Frame3);
     TextSFX->setObjectName(QStringLiteral("TextSFX"));
     TextSFX->setTabChangesFocus(true);
     TextSFX->setFixedHeight(72);
-    Label3 =
-        buddyLabel("Label3", QStringLiteral("Text to display in &SFX window (Max lenght 156) "),
-                   TextSFX, Frame3);
+    Label3 = buddyLabel("Label3", tr("Text to display in &SFX window (Max lenght 156) "), TextSFX,
+                        Frame3);
     auto* frame3Layout = new QVBoxLayout(Frame3);
     frame3Layout->addWidget(Label5);
     frame3Layout->addWidget(TxtCaptionSFX);
@@ -211,12 +211,11 @@ frmSFX::frmSFX(const QString& archivePath, QLabel* stato, QLabel* consiglio, Pro
     frame3Layout->addWidget(TextSFX);
     text->addWidget(Frame3);
 
-    Frame4 = new QGroupBox(QStringLiteral("License Text"), pic[1]);
+    Frame4 = new QGroupBox(tr("License Text"), pic[1]);
     Frame4->setObjectName(QStringLiteral("Frame4"));
     TxtCaptionLicense = new QLineEdit(Frame4);
     TxtCaptionLicense->setObjectName(QStringLiteral("TxtCaptionLicense"));
-    Label6 =
-        buddyLabel("Label6", QStringLiteral("Title of L&icense window"), TxtCaptionLicense, Frame4);
+    Label6 = buddyLabel("Label6", tr("Title of L&icense window"), TxtCaptionLicense, Frame4);
     TextLicense = new QPlainTextEdit(Frame4);
     TextLicense->setObjectName(QStringLiteral("TextLicense"));
     TextLicense->setTabChangesFocus(true);
@@ -224,8 +223,7 @@ frmSFX::frmSFX(const QString& archivePath, QLabel* stato, QLabel* consiglio, Pro
     TextLicense->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     TextLicense->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     TextLicense->setMinimumHeight(120);
-    Label4 = buddyLabel("Label4", QStringLiteral("Text to display in License &window"), TextLicense,
-                        Frame4);
+    Label4 = buddyLabel("Label4", tr("Text to display in License &window"), TextLicense, Frame4);
     auto* frame4Layout = new QVBoxLayout(Frame4);
     frame4Layout->addWidget(Label6);
     frame4Layout->addWidget(TxtCaptionLicense);
@@ -246,10 +244,10 @@ frmSFX::frmSFX(const QString& archivePath, QLabel* stato, QLabel* consiglio, Pro
     tabbedLayout->setContentsMargins(2, 2, 2, 2);
     tabbedLayout->addWidget(area);
 
-    cmdOk = new QPushButton(QStringLiteral("&Create"), this);
+    cmdOk = new QPushButton(tr("&Create"), this);
     cmdOk->setObjectName(QStringLiteral("cmdOk"));
     cmdOk->setDefault(true);
-    cmdCancel = new QPushButton(QStringLiteral("Cancel"), this);
+    cmdCancel = new QPushButton(tr("Cancel"), this);
     cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
     auto* buttons = new QHBoxLayout;
     buttons->addStretch(1);
@@ -292,6 +290,7 @@ frmSFX::frmSFX(const QString& archivePath, QLabel* stato, QLabel* consiglio, Pro
 frmSFX::~frmSFX() = default;
 
 void frmSFX::Form_Load() {
+    // The SFX reads these names as the special folders they stand for: they stay as written.
     cmbPath->addItems({QStringLiteral("Start Menu"), QStringLiteral("Favorites"),
                        QStringLiteral("Programs"), QStringLiteral("Desktop"),
                        QStringLiteral("StartUp")});
@@ -300,16 +299,18 @@ void frmSFX::Form_Load() {
     cmbPath->setEditText(QString());
 
     // Each tab's key is its caption.
-    const char* tabs[][2] = {{"&General", "General"}, {"&Text", "Text"}, {"Ad&vanced", "Advanced"}};
+    const char* tabs[][2] = {{QT_TR_NOOP("&General"), "General"},
+                             {QT_TR_NOOP("&Text"), "Text"},
+                             {QT_TR_NOOP("Ad&vanced"), "Advanced"}};
     const QSignalBlocker block(TabStrip1);
     for (const auto& tab : tabs) {
-        const int index = TabStrip1->addTab(QString::fromLatin1(tab[0]));
+        const int index = TabStrip1->addTab(tr(tab[0]));
         TabStrip1->setTabData(index, QString::fromLatin1(tab[1]));
     }
 
     for (QWidget* page : pic)
         page->hide();
-    TextSFX->setPlainText(QString::fromLatin1(sfxdlg::InitialSfxText));
+    TextSFX->setPlainText(tr(sfxdlg::InitialSfxText));
     TabStrip1->setCurrentIndex(0);
     pic[0]->show();
 }
@@ -374,7 +375,7 @@ SfxSettings frmSFX::settings() const {
 
 void frmSFX::cmdOk_Click() {
     SfxSaveRequest request;
-    request.title = QString::fromLatin1(sfxdlg::SaveTitle);
+    request.title = tr(sfxdlg::SaveTitle);
     request.filter = SfxSaveFilterForQt();
     request.suffix = QStringLiteral("exe");
     if (!archivePath_.isEmpty()) {
@@ -394,8 +395,7 @@ void frmSFX::cmdOk_Click() {
           ResolveEngineFile(folder, QStringLiteral("uharc.exe"))}) {
         if (!source.isEmpty() && sameFile(output, source)) {
             prompter_.critical(
-                QStringLiteral("Cannot create the SFX: %1 is one of the files it is made from.")
-                    .arg(output));
+                tr("Cannot create the SFX: %1 is one of the files it is made from.").arg(output));
             return;
         }
     }

@@ -8,6 +8,7 @@
 #include <QDialog>
 #include <QPointer>
 #include <QString>
+#include <QtGlobal>
 
 #include <functional>
 
@@ -23,15 +24,18 @@ namespace quovara {
 
 class Prompter;
 
-// Texts of the dialog.
+// Texts of the dialog; their translation context is the dialog's.
 namespace sfxdlg {
-inline constexpr char Caption[] = "Make SFX";
-inline constexpr char SaveTitle[] = "Save the SFX";
+inline constexpr char Caption[] = QT_TRANSLATE_NOOP("quovara::frmSFX", "Make SFX");
+inline constexpr char SaveTitle[] = QT_TRANSLATE_NOOP("quovara::frmSFX", "Save the SFX");
 // The save dialog's filter as written in the form: description, bar, pattern.
-inline constexpr char SaveFilter[] = "Application (*.exe)|*.exe";
-inline constexpr char InitialSfxText[] =
+//: Only the description before the bar is translated; the bar and the pattern stay.
+inline constexpr char SaveFilter[] =
+    QT_TRANSLATE_NOOP("quovara::frmSFX", "Application (*.exe)|*.exe");
+inline constexpr char InitialSfxText[] = QT_TRANSLATE_NOOP(
+    "quovara::frmSFX",
     "Setup will install PROGRAM NAME HERE into the following folder. To continue, click "
-    "Install.If you would like to select a different folder, click Browse";
+    "Install.If you would like to select a different folder, click Browse");
 // The longest window text the stub shows, counted as it is written (a line break is CR LF).
 inline constexpr int MaxSfxText = 156;
 } // namespace sfxdlg

@@ -85,9 +85,13 @@ QByteArray TrayTipField(const QString& tip) {
 }
 
 QString TrayTipShown(const QString& tip) {
-    const QByteArray field = TrayTipField(tip);
-    const qsizetype nul = field.indexOf('\0');
-    return QString::fromLatin1(nul < 0 ? field : field.left(nul));
+    // The field's characters, taken from the text itself rather than from its Latin-1 bytes:
+    // a tip in the user's language keeps its letters, whatever the script.
+    QString shown = tip.left(TrayTipFieldSize);
+    if (shown.size() == TrayTipFieldSize && shown.back().isHighSurrogate())
+        shown.chop(1);
+    const qsizetype nul = shown.indexOf(QChar(u'\0'));
+    return nul < 0 ? shown : shown.left(nul);
 }
 
 bool TrayUsed() {

@@ -57,7 +57,8 @@ std::unique_ptr<TrayIcon> MakeTrayIcon();
 // a tip of 64 characters or more fills it with its first 64 characters and has no NUL.
 inline constexpr int TrayTipFieldSize = 64;
 QByteArray TrayTipField(const QString& tip);
-// The text the platform shows for a tip: the field up to its NUL.
+// The text the platform shows for a tip: the field up to its NUL (its first 64 characters in
+// any script).
 QString TrayTipShown(const QString& tip);
 
 // trayUsed: set once a progress window has been hidden to or restored from the notification
