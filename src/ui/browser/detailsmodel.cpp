@@ -7,6 +7,7 @@
 #include <QLocale>
 #include <QMimeData>
 #include <QTimer>
+#include <QtGlobal>
 
 #include <algorithm>
 
@@ -23,27 +24,36 @@ namespace details_cell {
 
 QString sizeText(quint64 bytes) {
     if (bytes == 1)
-        return QStringLiteral("1 byte");
+        return DetailsModel::tr("1 byte");
     if (bytes < 1024)
-        return QStringLiteral("%1 bytes").arg(bytes);
+        return DetailsModel::tr("%n bytes", nullptr, int(bytes));
     // Steps of 1024 with one decimal, as file managers have long written them.
-    static const char* const units[] = {"KB", "MB", "GB", "TB", "PB", "EB"};
+    static const char* const units[] = {QT_TRANSLATE_NOOP("quovara::DetailsModel", "%1 KB"),
+                                        QT_TRANSLATE_NOOP("quovara::DetailsModel", "%1 MB"),
+                                        QT_TRANSLATE_NOOP("quovara::DetailsModel", "%1 GB"),
+                                        QT_TRANSLATE_NOOP("quovara::DetailsModel", "%1 TB"),
+                                        QT_TRANSLATE_NOOP("quovara::DetailsModel", "%1 PB"),
+                                        QT_TRANSLATE_NOOP("quovara::DetailsModel", "%1 EB")};
     double value = double(bytes) / 1024.0;
     int unit = 0;
     while (value >= 1024.0 && unit < 5) {
         value /= 1024.0;
         ++unit;
     }
-    return QLocale().toString(value, 'f', 1) + QLatin1Char(' ') + QLatin1String(units[unit]);
+    return DetailsModel::tr(units[unit]).arg(QLocale().toString(value, 'f', 1));
 }
 
 QString sizeToolTip(quint64 bytes) {
-    return QLocale().toString(qulonglong(bytes)) +
-           (bytes == 1 ? QStringLiteral(" byte") : QStringLiteral(" bytes"));
+    // The count may pass the range of a plural form's number: the words are chosen here.
+    if (bytes == 1)
+        return DetailsModel::tr("1 byte");
+    return DetailsModel::tr("%1 bytes", "the exact size, its digits grouped")
+        .arg(QLocale().toString(qulonglong(bytes)));
 }
 
 QString countText(int entries) {
-    return entries == 1 ? QStringLiteral("1 item") : QStringLiteral("%1 items").arg(entries);
+    return entries == 1 ? DetailsModel::tr("1 item")
+                        : DetailsModel::tr("%n items", nullptr, entries);
 }
 
 QVariant data(const EntryDetails* entry, std::optional<int> count, int column, int role) {
@@ -76,15 +86,15 @@ QVariant data(const EntryDetails* entry, std::optional<int> count, int column, i
 QString header(int column) {
     switch (column) {
     case DetailsModel::Name:
-        return QStringLiteral("Name");
+        return DetailsModel::tr("Name");
     case DetailsModel::Size:
-        return QStringLiteral("Size");
+        return DetailsModel::tr("Size");
     case DetailsModel::Modified:
-        return QStringLiteral("Modified");
+        return DetailsModel::tr("Modified");
     case DetailsModel::Attributes:
-        return QStringLiteral("Attributes");
+        return DetailsModel::tr("Attributes");
     case DetailsModel::Crc:
-        return QStringLiteral("CRC-32");
+        return DetailsModel::tr("CRC-32");
     default:
         return QString();
     }

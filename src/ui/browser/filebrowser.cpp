@@ -71,8 +71,8 @@ FileBrowser::FileBrowser(QWidget* parent) : QWidget(parent) {
                 if (tree_->model() == model_)
                     namesInOrder_ = column == 0 && order == Qt::AscendingOrder;
             });
-    list_->setAccessibleName(QStringLiteral("Files"));
-    tree_->setAccessibleName(QStringLiteral("Files"));
+    list_->setAccessibleName(tr("Files"));
+    tree_->setAccessibleName(tr("Files"));
     stack_ = new QStackedWidget(this);
     stack_->addWidget(list_);
     stack_->addWidget(tree_);

@@ -68,7 +68,7 @@ frmApri::frmApri(QWidget* parent)
 
     ucToolbar1 = new ucToolbar(central);
     ucToolbar1->setObjectName(QStringLiteral("ucToolbar1"));
-    ucToolbar1->setAccessibleName(QStringLiteral("Commands"));
+    ucToolbar1->setAccessibleName(tr("Commands"));
     outer->addWidget(ucToolbar1);
 
     auto* body = new QHBoxLayout();
@@ -78,7 +78,7 @@ frmApri::frmApri(QWidget* parent)
 
     Barra = new TaskPaneBar(central);
     Barra->setObjectName(QStringLiteral("Barra"));
-    Barra->setAccessibleName(QStringLiteral("Archive tasks"));
+    Barra->setAccessibleName(tr("Archive tasks"));
     Barra->setFixedWidth(250);
     body->addWidget(Barra);
 
@@ -91,8 +91,8 @@ frmApri::frmApri(QWidget* parent)
     ShComboBox1->setObjectName(QStringLiteral("ShComboBox1"));
     ShComboBox1->setEditable(true);
     ShComboBox1->setInsertPolicy(QComboBox::NoInsert);
-    ShComboBox1->setAccessibleName(QStringLiteral("Folder"));
-    ShComboBox1->lineEdit()->setAccessibleName(QStringLiteral("Folder"));
+    ShComboBox1->setAccessibleName(tr("Folder"));
+    ShComboBox1->lineEdit()->setAccessibleName(tr("Folder"));
     right->addWidget(ShComboBox1);
 
     FileView1 = new FileBrowser(central);
@@ -109,7 +109,7 @@ frmApri::frmApri(QWidget* parent)
     Trovati->setAllColumnsShowFocus(true);
     // Every row is one line: the list need not measure each of thousands of results.
     Trovati->setUniformRowHeights(true);
-    Trovati->setAccessibleName(QStringLiteral("Search results"));
+    Trovati->setAccessibleName(tr("Search results"));
     // Name and folder share what the details leave of the list's width, as in the Report view.
     details_cell::fitColumns(Trovati->header(), 2);
     Trovati->hide();
@@ -171,7 +171,7 @@ frmApri::~frmApri() = default;
 
 bool frmApri::prepare() {
     if (AnotherInstanceRunning(lockPath_)) {
-        prompter_->exclamation(QString::fromLatin1(apri::AlreadyRunning));
+        prompter_->exclamation(apri::Text(apri::AlreadyRunning));
         return false;
     }
     SetIdlePriority();
@@ -188,9 +188,8 @@ bool frmApri::prepare() {
         return false;
     const QString engine = ResolveEngineFile(ProgramFolder(), QStringLiteral("uharc.exe"));
     demonstrationEngine_ = !IsWindowsExecutable(engine);
-    baseTitle_ = demonstrationEngine_
-                     ? ApplicationTitle() + QStringLiteral(" \u2014 demonstration engine")
-                     : ApplicationTitle();
+    baseTitle_ = demonstrationEngine_ ? tr("%1 \u2014 demonstration engine").arg(ApplicationTitle())
+                                      : ApplicationTitle();
     setWindowTitle(baseTitle_);
     return true;
 }
@@ -267,7 +266,7 @@ bool frmApri::Form_Load(const QString& commandLine) {
         pointBrowserAt(request.path);
         OpenItem(request.path);
         if (!lister_.listing().password.isEmpty())
-            prompter_->information(QString::fromLatin1(apri::SfxProtected));
+            prompter_->information(apri::Text(apri::SfxProtected));
         else
             showSfxDialog();
         break;
@@ -292,9 +291,8 @@ void frmApri::openArchiveWithDialog() {
 }
 
 QString frmApri::askArchiveToOpen() {
-    return QFileDialog::getOpenFileName(this, QStringLiteral("Open an archive"),
-                                        FileView1->folder(),
-                                        QStringLiteral("UHARC archives (*.uha)"));
+    return QFileDialog::getOpenFileName(this, tr("Open an archive"), FileView1->folder(),
+                                        tr("UHARC archives (*.uha)"));
 }
 
 void frmApri::pointBrowserAt(const QString& path) {
@@ -326,7 +324,8 @@ void frmApri::Uha() {
 }
 
 QString frmApri::titleWith(const QString& head) const {
-    return head + QStringLiteral(" \u2014 ") + baseTitle_;
+    // "archive.uha — Quovara": what the window shows, then the program.
+    return tr("%1 \u2014 %2").arg(head, baseTitle_);
 }
 
 void frmApri::NoUha() {
@@ -422,12 +421,12 @@ QStringList frmApri::selectedStoredNames() const {
 }
 
 void frmApri::MsgNessuno() {
-    prompter_->exclamation(QString::fromLatin1(apri::NoItemSelected));
+    prompter_->exclamation(apri::Text(apri::NoItemSelected));
 }
 
 void frmApri::setStatus(const char* stato, const char* consiglio) {
-    Stato->setText(QString::fromLatin1(stato));
-    Consiglio->setText(QString::fromLatin1(consiglio));
+    Stato->setText(apri::Text(stato));
+    Consiglio->setText(apri::Text(consiglio));
 }
 
 void frmApri::StartSearch() {
@@ -435,8 +434,8 @@ void frmApri::StartSearch() {
     ShComboBox1->hide();
     Trovati->show();
     results_->clear();
-    Stato->setText(QStringLiteral("Quovara is searching"));
-    Consiglio->setText(QStringLiteral("Back stops the search"));
+    Stato->setText(tr("Quovara is searching"));
+    Consiglio->setText(tr("Back stops the search"));
     search_.start(CompleteSearchPattern(TxtCerca->text()), ScratchFolder());
 }
 
@@ -469,14 +468,14 @@ void frmApri::ButtonClick(int index) {
         } else if (!FileView1->hasSelection()) {
             MsgNessuno();
         } else if (!Like(FileView1->selectedPath(), QStringLiteral("*.uha"))) {
-            prompter_->exclamation(QString::fromLatin1(apri::NoArchiveSelected));
+            prompter_->exclamation(apri::Text(apri::NoArchiveSelected));
         } else {
             showExtractDialog(false);
         }
         break;
     case IdSfx:
         if (!lister_.listing().password.isEmpty())
-            prompter_->information(QString::fromLatin1(apri::SfxProtected));
+            prompter_->information(apri::Text(apri::SfxProtected));
         else
             showSfxDialog();
         break;
@@ -507,7 +506,7 @@ void frmApri::PopViewChoose(int index) {
 }
 
 void frmApri::notAvailable(const QString& what) {
-    prompter_->information(what + QStringLiteral(" is not available in this version yet."));
+    prompter_->information(tr("%1 is not available in this version yet.").arg(what));
 }
 
 bool frmApri::archiveLayout() const {

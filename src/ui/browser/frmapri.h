@@ -11,7 +11,9 @@
 #include "engine/listing.h"
 #include "ui/common/messageprompter.h"
 
+#include <QCoreApplication>
 #include <QMainWindow>
+#include <QtGlobal>
 
 class QShortcut;
 class QUrl;
@@ -33,26 +35,36 @@ class TaskPaneBar;
 class XP_ProgressBar;
 class ucToolbar;
 
-// Texts of the window.
+// Texts of the window, translated where they are shown (context "quovara::frmApri").
 namespace apri {
-inline constexpr char AlreadyRunning[] = "Quovara is already running";
-inline constexpr char NoItemSelected[] = "No item selected";
-inline constexpr char NoArchiveSelected[] = "No .uha archive selected";
-inline constexpr char SfxProtected[] =
-    "You cannot create a SFX with an archive protected by a password";
-inline constexpr char Ready[] = "Quovara is ready";
-inline constexpr char SelectAction[] = "Select an action";
-inline constexpr char Skipping[] = "Quovara is skipping";
-inline constexpr char PleaseWait[] = "Please wait ...";
+inline constexpr char AlreadyRunning[] =
+    QT_TRANSLATE_NOOP("quovara::frmApri", "Quovara is already running");
+inline constexpr char NoItemSelected[] = QT_TRANSLATE_NOOP("quovara::frmApri", "No item selected");
+inline constexpr char NoArchiveSelected[] =
+    QT_TRANSLATE_NOOP("quovara::frmApri", "No .uha archive selected");
+inline constexpr char SfxProtected[] = QT_TRANSLATE_NOOP(
+    "quovara::frmApri", "You cannot create a SFX with an archive protected by a password");
+inline constexpr char Ready[] = QT_TRANSLATE_NOOP("quovara::frmApri", "Quovara is ready");
+inline constexpr char SelectAction[] = QT_TRANSLATE_NOOP("quovara::frmApri", "Select an action");
+inline constexpr char Skipping[] = QT_TRANSLATE_NOOP("quovara::frmApri", "Quovara is skipping");
+inline constexpr char PleaseWait[] = QT_TRANSLATE_NOOP("quovara::frmApri", "Please wait ...");
 // While an archive is listed: the state texts and the window title (%1: the archive's name).
-inline constexpr char Reading[] = "Quovara is reading the archive";
-inline constexpr char EscapeStops[] = "Press Escape to stop";
-inline constexpr char ReadingCount[] = "Quovara is reading the archive: %1";
-inline constexpr char ReadingTitle[] = "Reading %1 \u2026";
-inline constexpr char ReadingTitleCount[] = "Reading %1 \u2026 %2";
+inline constexpr char Reading[] =
+    QT_TRANSLATE_NOOP("quovara::frmApri", "Quovara is reading the archive");
+inline constexpr char EscapeStops[] = QT_TRANSLATE_NOOP("quovara::frmApri", "Press Escape to stop");
+inline constexpr char ReadingCount[] =
+    QT_TRANSLATE_NOOP("quovara::frmApri", "Quovara is reading the archive: %1");
+inline constexpr char ReadingTitle[] = QT_TRANSLATE_NOOP("quovara::frmApri", "Reading %1 \u2026");
+inline constexpr char ReadingTitleCount[] =
+    QT_TRANSLATE_NOOP("quovara::frmApri", "Reading %1 \u2026 %2");
+// One of the texts above as the user reads it.
+inline QString Text(const char* source) {
+    return QCoreApplication::translate("quovara::frmApri", source);
+}
 // "1 entry", "2 entries".
 inline QString EntriesText(qint64 n) {
-    return n == 1 ? QStringLiteral("1 entry") : QStringLiteral("%1 entries").arg(n);
+    return n == 1 ? QCoreApplication::translate("quovara::frmApri", "1 entry")
+                  : QCoreApplication::translate("quovara::frmApri", "%n entries", nullptr, int(n));
 }
 // The version page: the product's web server, a fixed path and a fixed query.
 inline constexpr char VersionPage[] =

@@ -52,14 +52,14 @@ void frmApri::buildPanels() {
     auto* details = new QGridLayout(pDettagli);
     details->setContentsMargins(8, 6, 8, 8);
     details->setVerticalSpacing(3);
-    NomeAr = label(QStringLiteral("Files Number:"), "NomeAr", pDettagli);
-    GranNorm = label(QStringLiteral("Grandezza normale:"), "GranNorm", pDettagli);
-    GranComp = label(QStringLiteral("Grandezza compresso:"), "GranComp", pDettagli);
-    MetodoC = label(QStringLiteral("Metodo:"), "MetodoC", pDettagli);
-    RatioP = label(QStringLiteral("Ratio:"), "RatioP", pDettagli);
+    NomeAr = label(tr("Files Number:"), "NomeAr", pDettagli);
+    GranNorm = label(tr("Grandezza normale:"), "GranNorm", pDettagli);
+    GranComp = label(tr("Grandezza compresso:"), "GranComp", pDettagli);
+    MetodoC = label(tr("Metodo:"), "MetodoC", pDettagli);
+    RatioP = label(tr("Ratio:"), "RatioP", pDettagli);
     RatioBar = new XP_ProgressBar(pDettagli);
     RatioBar->setObjectName(QStringLiteral("RatioBar"));
-    RatioBar->setAccessibleName(QStringLiteral("Ratio"));
+    RatioBar->setAccessibleName(tr("Ratio"));
     RatioBar->setMinimumHeight(18);
     details->addWidget(NomeAr, 0, 0, 1, 2);
     details->addWidget(GranNorm, 1, 0, 1, 2);
@@ -76,11 +76,11 @@ void frmApri::buildPanels() {
     auto* ops = new QGridLayout(pOperazioni);
     ops->setContentsMargins(8, 6, 8, 8);
     ops->setVerticalSpacing(4);
-    LBCerca = label(QStringLiteral("Search file in archive"), "LBCerca", pOperazioni);
+    LBCerca = label(tr("Search file in archive"), "LBCerca", pOperazioni);
     TxtCerca = new QLineEdit(pOperazioni);
     TxtCerca->setObjectName(QStringLiteral("TxtCerca"));
-    TxtCerca->setAccessibleName(QStringLiteral("Search file in archive"));
-    TxtCerca->setToolTip(QStringLiteral("Search file in archive (Ctrl+F)"));
+    TxtCerca->setAccessibleName(tr("Search file in archive"));
+    TxtCerca->setToolTip(tr("Search file in archive (Ctrl+F)"));
     LBCerca->setBuddy(TxtCerca);
     ImgCerca = new QToolButton(pOperazioni);
     ImgCerca->setObjectName(QStringLiteral("ImgCerca"));
@@ -88,10 +88,10 @@ void frmApri::buildPanels() {
     ImgCerca->setIconSize(QSize(20, 20));
     ImgCerca->setAutoRaise(true);
     SetHandCursor(ImgCerca, true);
-    ImgCerca->setAccessibleName(QStringLiteral("Search"));
-    ImgCerca->setToolTip(QStringLiteral("Search (Ctrl+F)"));
-    EstFile = linkButton(QStringLiteral("Extract selected item"), "EstFile", pOperazioni);
-    EseFile = linkButton(QStringLiteral("Run selected file"), "EseFile", pOperazioni);
+    ImgCerca->setAccessibleName(tr("Search"));
+    ImgCerca->setToolTip(tr("Search (Ctrl+F)"));
+    EstFile = linkButton(tr("Extract selected item"), "EstFile", pOperazioni);
+    EseFile = linkButton(tr("Run selected file"), "EseFile", pOperazioni);
     ops->addWidget(LBCerca, 0, 0, 1, 2);
     ops->addWidget(TxtCerca, 1, 0);
     ops->addWidget(ImgCerca, 1, 1);
@@ -105,11 +105,11 @@ void frmApri::buildPanels() {
     pStato->setObjectName(QStringLiteral("pStato"));
     auto* state = new QVBoxLayout(pStato);
     state->setContentsMargins(8, 6, 8, 8);
-    Stato = label(QString::fromLatin1(apri::Ready), "Stato", pStato);
+    Stato = label(apri::Text(apri::Ready), "Stato", pStato);
     QFont bold = Stato->font();
     bold.setBold(true);
     Stato->setFont(bold);
-    Consiglio = label(QString::fromLatin1(apri::SelectAction), "Consiglio", pStato);
+    Consiglio = label(apri::Text(apri::SelectAction), "Consiglio", pStato);
     // The state texts wrap rather than being cut ("Quovara is reading the archive: N entries"
     // is wider than the pane); the room they may need is kept below them.
     Stato->setWordWrap(true);
@@ -120,9 +120,9 @@ void frmApri::buildPanels() {
 
     PopView = new QMenu(this);
     PopView->setObjectName(QStringLiteral("PopView"));
-    const char* modes[] = {"Large Icon", "Report", "Small Icon", "List"};
+    const QString modes[] = {tr("Large Icon"), tr("Report"), tr("Small Icon"), tr("List")};
     for (int i = 0; i < 4; ++i) {
-        QAction* a = PopView->addAction(QString::fromLatin1(modes[i]));
+        QAction* a = PopView->addAction(modes[i]);
         a->setCheckable(true);
         connect(a, &QAction::triggered, this, [this, i] { PopViewChoose(i); });
     }
@@ -138,23 +138,20 @@ void frmApri::buildToolbar() {
     for (const char* icon : icons)
         ucToolbar1->AddIcon(
             QIcon(QStringLiteral(":/icons/toolbar/%1.svg").arg(QLatin1String(icon))));
-    ucToolbar1->AddButton(QStringLiteral("Back"), 0, QStringLiteral("Back (Backspace, Alt+Left)"));
+    ucToolbar1->AddButton(tr("Back"), 0, tr("Back (Backspace, Alt+Left)"));
     ucToolbar1->AddButton(QString(), -1, QString(), ucToolbar::tbrSeparator);
-    ucToolbar1->AddButton(QStringLiteral("Add"), 1, QStringLiteral("Add files to an archive"));
-    ucToolbar1->AddButton(QStringLiteral("Extract"), 2, QStringLiteral("Extract an archive"));
-    ucToolbar1->AddButton(QStringLiteral("SFX"), 3,
-                          QStringLiteral("Make a self-extracting program of the archive"));
-    ucToolbar1->AddButton(QStringLiteral("Verify"), 4, QStringLiteral("Test an archive"));
+    ucToolbar1->AddButton(tr("Add"), 1, tr("Add files to an archive"));
+    ucToolbar1->AddButton(tr("Extract"), 2, tr("Extract an archive"));
+    ucToolbar1->AddButton(tr("SFX"), 3, tr("Make a self-extracting program of the archive"));
+    ucToolbar1->AddButton(tr("Verify"), 4, tr("Test an archive"));
     ucToolbar1->AddButton(QString(), -1, QString(), ucToolbar::tbrSeparator);
-    ucToolbar1->AddButton(QStringLiteral("View"), 5, QStringLiteral("Change the view"),
-                          ucToolbar::tbrDropDown);
+    ucToolbar1->AddButton(tr("View"), 5, tr("Change the view"), ucToolbar::tbrDropDown);
     ucToolbar1->AddButton(QString(), -1, QString(), ucToolbar::tbrSeparator);
-    ucToolbar1->AddButton(QStringLiteral("Update"), 6, QStringLiteral("Look for a newer version"));
+    ucToolbar1->AddButton(tr("Update"), 6, tr("Look for a newer version"));
     // The keys that have no button of their own are named in the last button's tip.
     ucToolbar1->AddButton(
-        QStringLiteral("About"), 7,
-        QStringLiteral(
-            "About Quovara. Keys: Ctrl+O open an archive, F5 read it again, Ctrl+Q quit"));
+        tr("About"), 7,
+        tr("About Quovara. Keys: Ctrl+O open an archive, F5 read it again, Ctrl+Q quit"));
     ucToolbar1->SetButtonEnabled(IdSfx, false);
     ucToolbar1->setFixedHeight(ucToolbar1->ToolbarHeight() + 4);
     connect(ucToolbar1, &ucToolbar::ButtonClick, this, &frmApri::ButtonClick);
@@ -184,9 +181,9 @@ void frmApri::buildShortcuts() {
 
 void frmApri::buildTaskPane() {
     Barra->DisableUpdates(true);
-    Barra->AddGroup(QStringLiteral("Dettagli"), QStringLiteral("Details"));
-    Barra->AddGroup(QStringLiteral("Operazioni"), QStringLiteral("File and Folder Operations"));
-    Barra->AddGroup(QStringLiteral("Stato"), QStringLiteral("State"));
+    Barra->AddGroup(QStringLiteral("Dettagli"), tr("Details"));
+    Barra->AddGroup(QStringLiteral("Operazioni"), tr("File and Folder Operations"));
+    Barra->AddGroup(QStringLiteral("Stato"), tr("State"));
     // Each group's content takes the height it needs; its width follows the pane (narrower
     // when the pane shows its scroll bar), so nothing in it is cut.
     for (QWidget* w : {pDettagli, pOperazioni, pStato}) {
@@ -204,11 +201,10 @@ void frmApri::buildTaskPane() {
             .height();
     };
     pStato->setFixedHeight(
-        m.top() +
-        wrapped(Stato, QString::fromLatin1(apri::ReadingCount).arg(apri::EntriesText(9999999))) +
+        m.top() + wrapped(Stato, apri::Text(apri::ReadingCount).arg(apri::EntriesText(9999999))) +
         pStato->layout()->spacing() +
-        std::max(wrapped(Consiglio, QString::fromLatin1(apri::SelectAction)),
-                 wrapped(Consiglio, QString::fromLatin1(apri::EscapeStops))) +
+        std::max(wrapped(Consiglio, apri::Text(apri::SelectAction)),
+                 wrapped(Consiglio, apri::Text(apri::EscapeStops))) +
         m.bottom());
     Barra->SetGroupChild(QStringLiteral("Dettagli"), pDettagli);
     Barra->SetGroupChild(QStringLiteral("Operazioni"), pOperazioni);

@@ -13,17 +13,17 @@ namespace quovara {
 void frmApri::buildEntryMenu() {
     entryMenu_ = new QMenu(this);
     entryMenu_->setObjectName(QStringLiteral("EntryMenu"));
-    entryMenu_->setAccessibleName(QStringLiteral("Entry"));
-    QAction* open = entryMenu_->addAction(QStringLiteral("&Open"));
+    entryMenu_->setAccessibleName(tr("Entry"));
+    QAction* open = entryMenu_->addAction(tr("&Open"));
     open->setObjectName(QStringLiteral("EntryOpen"));
-    QAction* extract = entryMenu_->addAction(QStringLiteral("&Extract…"));
+    QAction* extract = entryMenu_->addAction(tr("&Extract…"));
     extract->setObjectName(QStringLiteral("EntryExtract"));
     // The whole archive, whatever is selected: into an open format.
-    QAction* convert = entryMenu_->addAction(QStringLiteral("&Convert…"));
+    QAction* convert = entryMenu_->addAction(tr("&Convert…"));
     convert->setObjectName(QStringLiteral("EntryConvert"));
     connect(convert, &QAction::triggered, this, &frmApri::showConvertDialog);
     entryMenu_->addSeparator();
-    PopView->setTitle(QStringLiteral("&View"));
+    PopView->setTitle(tr("&View"));
     entryMenu_->addMenu(PopView);
     connect(open, &QAction::triggered, this, &frmApri::openEntry);
     connect(extract, &QAction::triggered, this, [this] {

@@ -101,8 +101,7 @@ void frmApri::OpenItem(const QString& path) {
         stopReading_->setEnabled(true);
         titleBeforeReading_ = windowTitle();
         readingShown_ = true;
-        setWindowTitle(
-            titleWith(QString::fromUtf8(apri::ReadingTitle).arg(QFileInfo(path).fileName())));
+        setWindowTitle(titleWith(apri::Text(apri::ReadingTitle).arg(QFileInfo(path).fileName())));
         setStatus(apri::Reading, apri::EscapeStops);
     }
     // The count of entries made so far, while the folder view is built: in the state group,
@@ -113,8 +112,8 @@ void frmApri::OpenItem(const QString& path) {
         if (!readingShown_)
             return;
         if (const qint64 n = lister_.entriesPlaced(); n > 0) {
-            Stato->setText(QString::fromLatin1(apri::ReadingCount).arg(apri::EntriesText(n)));
-            setWindowTitle(titleWith(QString::fromUtf8(apri::ReadingTitleCount)
+            Stato->setText(apri::Text(apri::ReadingCount).arg(apri::EntriesText(n)));
+            setWindowTitle(titleWith(apri::Text(apri::ReadingTitleCount)
                                          .arg(QFileInfo(path).fileName(), apri::EntriesText(n))));
         }
     });
@@ -136,8 +135,7 @@ void frmApri::OpenItem(const QString& path) {
         return;
     }
     if (!lister_.startError().isEmpty()) {
-        prompter_->critical(QStringLiteral("The engine could not be started.\n\n") +
-                            lister_.startError());
+        prompter_->critical(tr("The engine could not be started.\n\n%1").arg(lister_.startError()));
         return;
     }
     if (lister_.listing().status == ListStatus::Opened) {

@@ -23,7 +23,7 @@ bool frmApri::writeTestScript() {
     } else {
         archive = FileView1->selectedPath();
         if (!Like(archive, QStringLiteral("*.uha"))) {
-            prompter_->exclamation(QString::fromLatin1(apri::NoArchiveSelected));
+            prompter_->exclamation(apri::Text(apri::NoArchiveSelected));
             return false;
         }
     }

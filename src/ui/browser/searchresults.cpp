@@ -69,9 +69,9 @@ QVariant SearchResults::headerData(int section, Qt::Orientation orientation, int
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return QVariant();
     if (section == 0)
-        return QStringLiteral("File Name");
+        return tr("File Name");
     if (section == 1)
-        return QStringLiteral("File Path");
+        return tr("File Path");
     return details_cell::header(section - 1);
 }
 

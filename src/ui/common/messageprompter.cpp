@@ -1,6 +1,7 @@
 #include "messageprompter.h"
 
 #include <QApplication>
+#include <QCoreApplication>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -8,7 +9,8 @@
 namespace quovara {
 
 QString ApplicationTitle() {
-    return QStringLiteral("Quovara");
+    // The product's name, translatable for the scripts that write it in their own letters.
+    return QCoreApplication::translate("MessagePrompter", "Quovara");
 }
 
 namespace {
