@@ -51,9 +51,12 @@ protected:
     // The environment of a terminal without any display.
     QProcessEnvironment environment() const {
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM",
-                                 "QUOVARA_PROGRAM_DIR", "QUOVARA_WINE", "QT_QPA_GENERIC_PLUGINS"})
+        for (const char* name :
+             {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "QUOVARA_PROGRAM_DIR",
+              "QUOVARA_WINE", "QT_QPA_GENERIC_PLUGINS", "LANGUAGE", "LC_ALL", "LC_MESSAGES"})
             env.remove(name);
+        // The texts as written, whatever the language of the machine that runs the tests.
+        env.insert("LANG", "C.UTF-8");
         env.insert("TMPDIR", tempRoot());
         env.insert("XDG_DATA_HOME", dir_.path() + "/data");
         env.insert("XDG_RUNTIME_DIR", dir_.path() + "/run");
@@ -155,6 +158,37 @@ TEST_F(CommandLine, HelpPrintsTheUsageAndEndsWithoutADisplay) {
         EXPECT_TRUE(r.out.contains("      --install-engine FILE...\n"));
         expectNoTrace();
     }
+}
+
+TEST_F(CommandLine, HelpSpeaksTheLanguageOfTheLocaleAndEnglishUnderC) {
+    QProcessEnvironment env = environment();
+    for (const char* name : {"LANGUAGE", "LC_ALL", "LC_MESSAGES"})
+        env.remove(name);
+    env.insert("LANG", "ru_RU.UTF-8");
+    const Result ru = run({"--help"}, env);
+    EXPECT_EQ(ru.exitCode, 0) << ru.err.toStdString();
+    EXPECT_TRUE(ru.out.startsWith(QString::fromUtf8("Использование: quovara [ARCHIVE.uha]\n")))
+        << ru.out.toStdString();
+    EXPECT_TRUE(ru.out.contains(QString::fromUtf8("\nПараметры:\n")));
+    EXPECT_TRUE(ru.out.contains("      --install-engine FILE...\n"));
+    EXPECT_FALSE(ru.out.contains("Usage:"));
+    for (const QString& line : ru.out.split('\n'))
+        EXPECT_LE(line.size(), 79) << line.toStdString();
+    // A misuse too.
+    const Result wrong = run({"--extract-hre"}, env);
+    EXPECT_EQ(wrong.exitCode, 2);
+    EXPECT_TRUE(wrong.err.startsWith("quovara: ")) << wrong.err.toStdString();
+    EXPECT_FALSE(wrong.err.contains("unrecognized option")) << wrong.err.toStdString();
+    EXPECT_TRUE(wrong.err.contains("'--extract-hre'"));
+    // LANGUAGE first, as desktop programs read it: German before the Russian locale.
+    env.insert("LANGUAGE", "eo:de");
+    const Result de = run({"--help"}, env);
+    EXPECT_FALSE(de.out.contains("Usage:"));
+    EXPECT_FALSE(de.out.contains(QString::fromUtf8("Параметры")));
+    // Under the C locale LANGUAGE is not read: the texts as written.
+    env.insert("LANG", "C");
+    const Result c = run({"--help"}, env);
+    EXPECT_EQ(c.out, HelpText());
 }
 
 TEST_F(CommandLine, HelpWinsWhereverItStandsBeforeTheEndOfOptions) {

@@ -19,8 +19,9 @@ import sys
 import tempfile
 import xml.etree.ElementTree as ET
 
+# As Qt counts them (Turkish puts a noun after a number in the singular: one form).
 PLURAL_FORMS = {"cs": 3, "de": 2, "es": 2, "fr": 2, "it": 2, "ja": 1, "pl": 3, "pt_BR": 2,
-                "ru": 3, "tr": 2, "uk": 3, "zh_CN": 1}
+                "ru": 3, "tr": 1, "uk": 3, "zh_CN": 1}
 PLACEHOLDER = re.compile(r"%(?:n|L?\d+)")
 ACCELERATOR = re.compile(r"&(?!&)(\w)")
 
