@@ -36,12 +36,14 @@ QStringList RequestedLanguages(const QProcessEnvironment& environment) {
     }
     if (isPlainC(locale))
         return {};
+    // LANGUAGE, when set, is the whole list (the locale's own language is not added after it:
+    // "LANGUAGE=en" under a Russian locale asks for English).
     QStringList languages;
     for (const QString& entry :
          environment.value(QStringLiteral("LANGUAGE")).split(QLatin1Char(':'), Qt::SkipEmptyParts))
-        if (!isPlainC(entry))
-            languages << bare(entry);
-    languages << bare(locale);
+        languages << bare(entry);
+    if (languages.isEmpty())
+        languages << bare(locale);
     languages.removeDuplicates();
     return languages;
 }

@@ -1,8 +1,8 @@
 // The language of the program's texts, chosen as desktop programs choose it (GNU gettext's
-// order): the list in LANGUAGE ("pt_BR:pt:de"), then the locale of messages, the first set of
-// LC_ALL, LC_MESSAGES and LANG. Under the C (or POSIX) locale LANGUAGE is not read and the texts
-// stay as written. The first language of the list that has a catalogue wins: "pt_BR" takes
-// pt_BR, "de_AT" takes de, a bare "zh" or "pt" takes the one catalogue of that language; none
+// rules): the list in LANGUAGE ("pt_BR:pt:de") when it is set, else the locale of messages, the
+// first set of LC_ALL, LC_MESSAGES and LANG. Under the C (or POSIX) locale LANGUAGE is not read
+// and the texts stay as written. The first language of the list that has a catalogue wins: "pt_BR"
+// takes pt_BR, "de_AT" takes de, a bare "zh" or "pt" takes the one catalogue of that language; none
 // gives the source texts.
 #pragma once
 

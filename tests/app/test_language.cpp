@@ -17,10 +17,13 @@ QProcessEnvironment environment(std::initializer_list<std::pair<const char*, con
 const QStringList kAvailable{"cs", "de",    "es", "fr", "it", "ja",
                              "pl", "pt_BR", "ru", "tr", "uk", "zh_CN"};
 
-TEST(Language, TheListOfLanguageComesFirstThenTheLocaleOfMessages) {
+TEST(Language, TheListOfLanguageComesFirstElseTheLocaleOfMessages) {
     EXPECT_EQ(
         RequestedLanguages(environment({{"LANGUAGE", "pt_BR:pt:de"}, {"LANG", "ru_RU.UTF-8"}})),
-        QStringList({"pt_BR", "pt", "de", "ru_RU"}));
+        QStringList({"pt_BR", "pt", "de"}));
+    // A list that names no language with a catalogue ends in the texts as written.
+    EXPECT_EQ(RequestedLanguages(environment({{"LANGUAGE", "en"}, {"LANG", "ru_RU.UTF-8"}})),
+              QStringList({"en"}));
     EXPECT_EQ(RequestedLanguages(environment(
                   {{"LC_ALL", "ja_JP.UTF-8"}, {"LC_MESSAGES", "de_DE"}, {"LANG", "fr_FR"}})),
               QStringList({"ja_JP"}));

@@ -73,6 +73,8 @@ protected:
         env.insert("QUOVARA_ENGINE_CHECK_TIMEOUT", checkTimeout_);
         env.remove("LC_CTYPE");
         env.insert("LC_ALL", locale_);
+        // The messages in English, as the checks below read them, under any locale.
+        env.insert("LANGUAGE", "en");
         // wine cannot be found on the PATH of these runs.
         env.insert("PATH", dir_.path() + "/empty-path:/usr/bin:/bin");
         if (!launcher.isEmpty())
