@@ -100,6 +100,10 @@ public:
     void DisableUpdates(bool bDisable);
     void SetDetailsImage(const QPixmap& detailsImage);
     QString GetControlVersion() const;
+    // The narrowest width at which every group's caption and a child `childWidth` wide show
+    // whole, also beside the pane's scroll bar: hosts widen the pane to it for long
+    // (translated) texts.
+    int WidthToShowWhole(int childWidth) const;
 
     // Read access for hosts, accessibility and tests.
     int ResolveGroup(const QVariant& Group) const;

@@ -142,6 +142,27 @@ int TaskPaneBar::layoutGroup(Group& g, int index, int top, int left, int width) 
     return y;
 }
 
+int TaskPaneBar::WidthToShowWhole(int childWidth) const {
+    const QFontMetrics bfm(boldFont(font()));
+    // The caption's room in paintHeader: from 12 (or beside the special picture) to the
+    // expand button; a group's child sits inside the group's frame and a 6-pixel border.
+    int widest = childWidth + 2 + 12;
+    auto take = [&](const Group& g, int textLeft) {
+        if (!g.caption.isEmpty())
+            widest =
+                std::max(widest, textLeft + bfm.horizontalAdvance(g.caption) + kButton + 10 + 1);
+    };
+    if (m_special.visible)
+        take(m_special, m_special.icon.isNull() ? 12 : 4 + kSpecialIcon + 6);
+    for (int i = 1; i < m_groups.size(); ++i)
+        take(m_groups[i], 12);
+    if (m_details.visible)
+        take(m_details, 12);
+    const int sbw = m_ScrollBar ? m_ScrollBar->sizeHint().width() : 0;
+    // A few pixels more: the advance is rounded, the drawn text is not.
+    return widest + 2 * kMargin + sbw + 4;
+}
+
 void TaskPaneBar::relayout() {
     if (m_inLayout || !m_ScrollBar)
         return;

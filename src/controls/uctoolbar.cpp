@@ -330,31 +330,49 @@ void ucToolbar::relayout() {
         if (b.style != tbrSeparator && !b.autosize && !(b.state & tbrHidden))
             uniform = std::max(uniform, naturalWidth(b));
 
-    int x = 0;
-    for (auto& b : m_buttons) {
-        if (b.state & tbrHidden) {
-            b.rect = QRect();
-            continue;
+    // Buttons are as wide as the widest caption needs, as platform toolbars make them. When
+    // that does not fit (long translated captions, a narrow window) each button takes only
+    // what its own caption needs, and what still does not fit goes behind the arrow.
+    auto place = [&](bool compact) {
+        int x = 0;
+        for (auto& b : m_buttons) {
+            if (b.state & tbrHidden) {
+                b.rect = QRect();
+                continue;
+            }
+            int w = 0;
+            if (b.style == tbrSeparator)
+                w = kSeparatorWidth;
+            else
+                w = (b.autosize || compact ? naturalWidth(b) : uniform) +
+                    ((b.style & tbrDropDown) ? kArrowWidth : 0);
+            b.rect = QRect(x, 0, w, height);
+            x += w;
         }
-        int w = 0;
-        if (b.style == tbrSeparator)
-            w = kSeparatorWidth;
-        else
-            w = (b.autosize ? naturalWidth(b) : uniform) +
-                ((b.style & tbrDropDown) ? kArrowWidth : 0);
-        b.rect = QRect(x, 0, w, height);
-        x += w;
-    }
+        return x;
+    };
+    const int preferred = place(false);
+    int x = preferred;
+    if (preferred > width() && width() > 0)
+        x = place(true);
+    const bool hintChanged = preferred != m_preferredWidth || height != m_contentSize.height();
+    m_preferredWidth = preferred;
     m_contentSize = QSize(x, height);
     placeOverflow();
-    updateGeometry();
+    if (hintChanged)
+        updateGeometry();
     update();
+}
+
+bool ucToolbar::behindArrow(const Button& b) const {
+    return m_overflow->isVisibleTo(this) && b.style != tbrSeparator && !b.rect.isEmpty() &&
+           b.rect.right() >= width() - kOverflowWidth;
 }
 
 QSize ucToolbar::sizeHint() const {
     if (!m_initialised)
         return QSize(0, 0);
-    return QSize(m_contentSize.width(), m_contentSize.height() + clientTop());
+    return QSize(m_preferredWidth, m_contentSize.height() + clientTop());
 }
 
 QSize ucToolbar::minimumSizeHint() const {
@@ -363,7 +381,7 @@ QSize ucToolbar::minimumSizeHint() const {
 
 int ucToolbar::buttonAt(const QPoint& pos) const {
     for (const auto& b : m_buttons) {
-        if (b.style == tbrSeparator || b.rect.isEmpty())
+        if (b.style == tbrSeparator || b.rect.isEmpty() || behindArrow(b))
             continue;
         if (widgetRect(b).contains(pos))
             return b.id;

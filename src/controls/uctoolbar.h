@@ -164,6 +164,8 @@ private:
     QRect widgetRect(const Button& b) const;
     QRect arrowRect(const Button& b) const;
     int buttonAt(const QPoint& pos) const;
+    // A button that does not fit and is offered by the overflow arrow instead.
+    bool behindArrow(const Button& b) const;
     void setHot(int id, bool fromKeyboard = false);
     void moveHot(int step, bool toEnd = false);
     void paintButton(class QPainter& p, const Button& b) const;
@@ -181,6 +183,7 @@ private:
     int m_hot = 0;
     int m_pressedId = 0;
     QSize m_contentSize;
+    int m_preferredWidth = 0; // every button as wide as the widest
 };
 
 } // namespace quovara

@@ -111,6 +111,8 @@ QAccessible::State ToolbarButtonAccessible::state() const {
     const int style = m_toolbar->ButtonStyleOf(m_id);
     s.disabled = !m_toolbar->ButtonEnabled(m_id);
     s.invisible = !m_toolbar->ButtonVisible(m_id) || !m_toolbar->isVisible();
+    // Behind the overflow arrow: still there, reached through the arrow's menu.
+    s.offscreen = m_toolbar->OverflowButtons().contains(m_id);
     s.checkable = (style & ucToolbar::tbrCheck) != 0;
     s.checked = m_toolbar->ButtonChecked(m_id);
     s.pressed = m_toolbar->ButtonPressed(m_id);

@@ -115,8 +115,7 @@ bool ucToolbar::event(QEvent* e) {
 
 void ucToolbar::resizeEvent(QResizeEvent* e) {
     QWidget::resizeEvent(e);
-    placeOverflow();
-    update();
+    relayout();
 }
 
 void ucToolbar::mouseMoveEvent(QMouseEvent* e) {

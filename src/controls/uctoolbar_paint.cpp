@@ -26,7 +26,7 @@ void ucToolbar::paintEvent(QPaintEvent*) {
     }
     p.setFont(m_font);
     for (const auto& b : m_buttons)
-        if (!b.rect.isEmpty())
+        if (!b.rect.isEmpty() && !behindArrow(b))
             paintButton(p, b);
     if (hasFocus() && m_hot == 0) {
         // Focused, no button chosen yet: a frame round the buttons.

@@ -3,6 +3,7 @@
 #include "controls/uctoolbar.h"
 #include "test_helpers.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QHelpEvent>
@@ -358,7 +359,9 @@ TEST_F(ToolbarFixture, ButtonsThatDoNotFitStayReachableThroughTheOverflowArrow) 
     ASSERT_NE(overflow, nullptr);
     EXPECT_FALSE(overflow->isVisible());
     EXPECT_TRUE(tb->OverflowButtons().isEmpty());
-    // Narrower than its buttons: the last ones are offered by the arrow.
+    // Narrower than its buttons: they take only what their captions need, and the last ones
+    // are offered by the arrow.
+    tb->resize(tb->sizeHint().width() - 1, tb->height());
     tb->resize(tb->ButtonRect(3).right() + 10, tb->height());
     EXPECT_TRUE(overflow->isVisible());
     EXPECT_EQ(tb->OverflowButtons(), QList<int>({3, 4, 5, 6}));
@@ -387,4 +390,65 @@ TEST_F(ToolbarFixture, ButtonsThatDoNotFitStayReachableThroughTheOverflowArrow) 
     // Wide enough again: no arrow.
     tb->resize(tb->sizeHint().width() + 10, tb->height());
     EXPECT_FALSE(overflow->isVisible());
+}
+
+TEST(ToolbarLongCaptions, NarrowerThanItsButtonsEachTakesWhatItsCaptionNeeds) {
+    QWidget host;
+    host.resize(900, 80);
+    auto* tb = new ucToolbar(&host);
+    tb->Initialize(32, true, true, true);
+    tb->AddIcon(solidIcon(Qt::red));
+    // One long caption, as translations make them, among short ones.
+    tb->AddButton(QStringLiteral("Back"), 0, QString());
+    tb->AddButton(QStringLiteral("Add"), 0, QString());
+    tb->AddButton(QStringLiteral("Durchsuchen und hinzufügen"), 0, QString());
+    tb->AddButton(QStringLiteral("View"), 0, QString());
+    tb->AddButton(QStringLiteral("Test"), 0, QString());
+    const int preferred = tb->sizeHint().width();
+    tb->resize(preferred, tb->sizeHint().height());
+    ShowAndWait(&host);
+    // Wide enough: every button as wide as the widest, as platform toolbars draw them.
+    EXPECT_EQ(tb->ButtonRect(1).width(), tb->ButtonRect(3).width());
+    EXPECT_TRUE(tb->OverflowButtons().isEmpty());
+
+    // Narrower: the short buttons shrink to their captions and all five still fit.
+    tb->resize(preferred * 2 / 3, tb->height());
+    QApplication::processEvents();
+    EXPECT_LT(tb->ButtonRect(1).width(), tb->ButtonRect(3).width());
+    EXPECT_TRUE(tb->OverflowButtons().isEmpty());
+    EXPECT_LE(tb->ButtonRect(5).right(), tb->width() - 1);
+    // The hint stays what the toolbar would like: every button at the common width.
+    EXPECT_EQ(tb->sizeHint().width(), preferred);
+
+    // Narrower still: what does not fit is behind the arrow and is neither drawn nor
+    // clickable; the screen reader hears it as off the screen.
+    tb->resize(tb->ButtonRect(3).right() + 10, tb->height());
+    QApplication::processEvents();
+    EXPECT_EQ(tb->OverflowButtons(), QList<int>({3, 4, 5}));
+    const QImage shown = tb->grab().toImage();
+    // Nothing is painted between the last whole button and the arrow.
+    const QRect gap(tb->ButtonRect(2).right() + 1, 2,
+                    tb->width() - 18 - tb->ButtonRect(2).right() - 1, tb->height() - 4);
+    const QColor background = shown.pixelColor(gap.left() + 1, gap.top() + 1);
+    int painted = 0;
+    for (int y = gap.top(); y <= gap.bottom(); ++y)
+        for (int x = gap.left(); x <= gap.right(); ++x)
+            painted += shown.pixelColor(x, y) != background;
+    EXPECT_EQ(painted, 0);
+    QStringList clicks;
+    QObject::connect(tb, &ucToolbar::ButtonClick, [&](int id) { clicks << QString::number(id); });
+    QTest::mouseClick(tb, Qt::LeftButton, {}, tb->ButtonRect(3).topLeft() + QPoint(4, 10));
+    EXPECT_TRUE(clicks.isEmpty());
+    QAccessibleInterface* access = QAccessible::queryAccessibleInterface(tb);
+    ASSERT_NE(access, nullptr);
+    bool thirdOffscreen = false, firstOffscreen = true;
+    for (int i = 0; i < access->childCount(); ++i) {
+        QAccessibleInterface* c = access->child(i);
+        if (c->text(QAccessible::Name) == tb->ButtonCaption(3))
+            thirdOffscreen = c->state().offscreen;
+        if (c->text(QAccessible::Name) == "Back")
+            firstOffscreen = c->state().offscreen;
+    }
+    EXPECT_TRUE(thirdOffscreen);
+    EXPECT_FALSE(firstOffscreen);
 }

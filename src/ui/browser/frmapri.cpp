@@ -183,6 +183,15 @@ bool frmApri::prepare() {
     RatioBar->SetShowText(true);
     buildToolbar();
     buildTaskPane();
+    // A window not yet shown is made wide enough for every toolbar button of the user's
+    // language side by side, as far as the screen allows; narrower, the toolbar's arrow
+    // offers the rest.
+    if (!isVisible()) {
+        const int wanted = ucToolbar1->sizeHint().width();
+        const int room = screen() ? screen()->availableGeometry().width() : wanted;
+        if (wanted > width())
+            resize(std::min(wanted, room), height());
+    }
     // The engine check and the start-up switch to engine 0.6.
     if (!PrepareEngine(*prompter_))
         return false;

@@ -184,6 +184,12 @@ void frmApri::buildTaskPane() {
     Barra->AddGroup(QStringLiteral("Dettagli"), tr("Details"));
     Barra->AddGroup(QStringLiteral("Operazioni"), tr("File and Folder Operations"));
     Barra->AddGroup(QStringLiteral("Stato"), tr("State"));
+    // Wide enough for the longest caption of the user's language and for the groups' own
+    // labels and links, also beside the pane's scroll bar; never narrower than 250.
+    int contentNeeds = 0;
+    for (QWidget* w : {pDettagli, pOperazioni, pStato})
+        contentNeeds = std::max(contentNeeds, w->minimumSizeHint().width());
+    Barra->setFixedWidth(std::max(250, Barra->WidthToShowWhole(contentNeeds)));
     // Each group's content takes the height it needs; its width follows the pane (narrower
     // when the pane shows its scroll bar), so nothing in it is cut.
     for (QWidget* w : {pDettagli, pOperazioni, pStato}) {
