@@ -1763,7 +1763,7 @@ Zadaný klíč položky neodpovídá žádné z existujících položek</transla
     </message>
     <message>
         <source>Back (Backspace, Alt+Left)</source>
-        <translation>Zpět (Backspace, Alt+Left)</translation>
+        <translation>Zpět (Backspace, Alt+←)</translation>
     </message>
     <message>
         <source>Add</source>

@@ -1726,7 +1726,7 @@ Item Key Especified doesn&apos;t match with the existing Items</source>
     </message>
     <message>
         <source>Back (Backspace, Alt+Left)</source>
-        <translation>戻る (Backspace、Alt+Left)</translation>
+        <translation>戻る (Backspace、Alt+←)</translation>
     </message>
     <message>
         <source>Add</source>

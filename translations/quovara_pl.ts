@@ -1763,7 +1763,7 @@ Podany klucz elementu nie pasuje do żadnego z istniejących elementów</transla
     </message>
     <message>
         <source>Back (Backspace, Alt+Left)</source>
-        <translation>Wstecz (Backspace, Alt+Left)</translation>
+        <translation>Wstecz (Backspace, Alt+←)</translation>
     </message>
     <message>
         <source>Add</source>

@@ -1763,7 +1763,7 @@ Item Key Especified doesn&apos;t match with the existing Items</source>
     </message>
     <message>
         <source>Back (Backspace, Alt+Left)</source>
-        <translation>Назад (Backspace, Alt+Left)</translation>
+        <translation>Назад (Backspace, Alt+←)</translation>
     </message>
     <message>
         <source>Add</source>

@@ -1719,7 +1719,7 @@ Item Key Especified doesn&apos;t match with the existing Items</source>
     </message>
     <message>
         <source>Back (Backspace, Alt+Left)</source>
-        <translation>后退 (Backspace、Alt+Left)</translation>
+        <translation>后退 (Backspace、Alt+←)</translation>
     </message>
     <message>
         <source>Add</source>
