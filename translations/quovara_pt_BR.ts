@@ -204,6 +204,16 @@
     </message>
 </context>
 <context>
+    <name>EngineError</name>
+    <message>
+        <source>%1</source>
+        <extracomment>%1 is the engine&apos;s own error text, in English as the engine writes it, e.g. &quot;Can&apos;t read from archive file / Unexpected end of file (maybe corrupt)&quot;. The English source shows it alone; a translation puts it after a sentence saying the engine reported it.</extracomment>
+        <translation>O mecanismo relatou um erro:
+
+%1</translation>
+    </message>
+</context>
+<context>
     <name>EngineInstall</name>
     <message>
         <source>cannot set the permissions of %1</source>

@@ -105,6 +105,13 @@ QString ListingFailedMessage(const QString& archive, const QString& problem) {
         .arg(archive, problem);
 }
 
+QString EngineErrorText(const QString& engineText) {
+    //: %1 is the engine's own error text, in English as the engine writes it, e.g. "Can't read
+    //: from archive file / Unexpected end of file (maybe corrupt)". The English source shows
+    //: it alone; a translation puts it after a sentence saying the engine reported it.
+    return QCoreApplication::translate("EngineError", "%1").arg(engineText);
+}
+
 namespace {
 
 constexpr qsizetype kLongestLine = 64 * 1024;
@@ -471,7 +478,7 @@ ListStatus ArchiveLister::SpecificaErrore(const QString& message) {
         return ListStatus::PasswordRequired;
     }
     if (!t.isEmpty()) {
-        prompter_->critical(t);
+        prompter_->critical(EngineErrorText(t));
         return ListStatus::Failed;
     }
     return ListStatus::Opened;

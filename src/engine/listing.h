@@ -136,6 +136,10 @@ bool IsArchiveName(const QString& path);
 // The message for an archive whose listing cannot be shown.
 QString ListingFailedMessage(const QString& archive, const QString& problem);
 
+// An error the engine reported, as the user is shown it: in English, as the engine wrote it,
+// alone; in another language inside a sentence of that language that says the engine wrote it.
+QString EngineErrorText(const QString& engineText);
+
 // The totals of the log's lines; empty when the log has no separator and totals.
 std::optional<ArchiveTotals> ReadTotals(const QStringList& lines);
 

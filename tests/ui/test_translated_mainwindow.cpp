@@ -59,6 +59,23 @@ protected:
     QString archive_;
 };
 
+TEST_P(TranslatedMainWindow, AnEngineErrorIsQuotedInASentenceOfTheLanguage) {
+    // A damaged archive: its start kept, the rest cut.
+    const QString damaged = places_.path() + "/Сломанный.uha";
+    QFile in(archive_);
+    ASSERT_TRUE(in.open(QIODevice::ReadOnly));
+    writeFile(damaged, in.read(in.size() / 2));
+    window_.Form_Load(damaged);
+    ASSERT_TRUE(waitFor([&] { return !prompter_.shown.isEmpty(); }));
+    const QString engineText =
+        "Can't read from archive file / Unexpected end of file (maybe corrupt)";
+    const QMap<QString, QString> sentence{{"ru", "Движок сообщил об ошибке:"},
+                                          {"ja", "エンジンがエラーを報告しました:"},
+                                          {"de", "Die Engine hat einen Fehler gemeldet:"}};
+    EXPECT_EQ(prompter_.shown.first(),
+              "critical: " + sentence.value(GetParam()) + "\n\n" + engineText);
+}
+
 // Read for English left: the languages written in other scripts.
 class MainWindowInOtherScripts : public TranslatedMainWindow {};
 

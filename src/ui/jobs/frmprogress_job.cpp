@@ -8,6 +8,7 @@
 #include "core/places.h"
 #include "core/processcontrol.h"
 #include "core/scriptexec.h"
+#include "engine/listing.h"
 #include "engine/versionswitch.h"
 #include "ui/browser/frmapri.h"
 
@@ -284,8 +285,9 @@ void frmProgress::stopFollowing() {
 
 void frmProgress::errorEnding(const QString& message, bool showMain) {
     stopFollowing();
-    tellEnd(JobOutcome::Failed, shown(message));
-    main_.prompter().critical(shown(message));
+    const QString text = EngineErrorText(shown(message));
+    tellEnd(JobOutcome::Failed, text);
+    main_.prompter().critical(text);
     if (unloaded_)
         return; // closed while the message was up
     if (showMain)

@@ -1,6 +1,7 @@
 // Endings other than the plain one: engine errors in the header and after it, the engine
 // version request (switch, second run, undo), a window closed during its job, an engine that
 // writes nothing, a job that cannot start.
+#include "english_left.h"
 #include "progress_fixture.h"
 
 #include "core/places.h"
@@ -65,6 +66,19 @@ TEST_F(ProgressErrors, ATestThatFindsDamageShowsTheErrorAndNotTheSuccessMessage)
     ASSERT_TRUE(bench.waitUnloaded(w));
     EXPECT_EQ(bench.prompter.shown, QStringList({"critical:  CRC-failure (file \"f02.bin\")"}));
     EXPECT_FALSE(QFile::exists(WorkFile(names::ConsoleOutput)));
+}
+
+TEST_F(ProgressErrors, InAnotherLanguageTheEnginesErrorIsQuotedInASentenceOfIt) {
+    LanguageForTest russian(QStringLiteral("ru"));
+    ASSERT_TRUE(russian.loaded());
+    const QString archive = damagedArchive();
+    bench.writeTestScript(archive);
+    bench.main->show();
+    frmProgress* w = bench.open(JobKind::Test);
+    ASSERT_TRUE(bench.waitUnloaded(w));
+    EXPECT_EQ(
+        bench.prompter.shown,
+        QStringList({"critical: Движок сообщил об ошибке:\n\n CRC-failure (file \"f02.bin\")"}));
 }
 
 TEST_F(ProgressErrors, AnErrorAfterTheHeaderLeavesAHiddenMainWindowHidden) {
