@@ -5,20 +5,8 @@
 # (Debian's fonts-noto-cjk). Needs a build (scripts/build.sh).
 set -euo pipefail
 cd "$(dirname "$0")/.."
-if [ "${1:-}" != "--inside" ]; then
-    for p in xdotool openbox; do
-        if ! command -v "$p" >/dev/null; then
-            sudo=""
-            [ "$(id -u)" -ne 0 ] && sudo=sudo
-            $sudo apt-get install -y -qq "$p" >/dev/null
-        fi
-    done
-    bash scripts/prepare-demo.sh >/dev/null
-    exec xvfb-run -a -s "-screen 0 1280x900x24" bash "$0" --inside
-fi
+source scripts/demo-display.sh "$0" "$@"
 demo=$PWD/build/demo
-export QUOVARA_PROGRAM_DIR=$demo/program HOME=$demo
-export XDG_RUNTIME_DIR=$(mktemp -d)
 place=$demo/Архив
 mkdir -p "$place"/{Загрузки,Документы,Музыка,写真} "$place/Проекты/данные/Документы/Отчёты" \
     "$place/Проекты/данные/写真"
@@ -28,15 +16,16 @@ printf 'readme\n' >"$data/readme.txt"
 printf 'report\n' >"$data/Документы/Отчёты/Годовой.txt"
 seq 1 5000 >"$data/写真/一覧.txt"
 (cd "$data" && "$OLDPWD/build/bin/uharc-standin-0.6" a -r+ -y+ -d0 "$place/Отпуск.uha" "*" >/dev/null)
-openbox >/dev/null 2>&1 &
-sleep 1
 shot() { # <language> <LANG> <name in docs> <arguments...>
     local language=$1 lang=$2 name=$3
     shift 3
     LANGUAGE=$language LANG=$lang build/bin/quovara "$@" >/dev/null 2>&1 &
     local pid=$!
+    # Its window once it is on the screen, and a moment to be painted.
+    local window
+    window=$(timeout 60 xdotool search --sync --onlyvisible --pid "$pid" | head -n 1)
     sleep 4
-    import -frame -window "$(xdotool getactivewindow)" "docs/$name"
+    import -frame -window "$window" "docs/$name"
     kill "$pid"
     wait "$pid" 2>/dev/null || true
 }

@@ -4,21 +4,7 @@
 # Needs a build (scripts/build.sh).
 set -euo pipefail
 cd "$(dirname "$0")/.."
-if [ "${1:-}" != "--inside" ]; then
-    for p in xdotool openbox; do
-        if ! command -v "$p" >/dev/null; then
-            sudo=""
-            [ "$(id -u)" -ne 0 ] && sudo=sudo
-            $sudo apt-get install -y -qq "$p" >/dev/null
-        fi
-    done
-    bash scripts/prepare-demo.sh >/dev/null
-    exec xvfb-run -a -s "-screen 0 1280x900x24" bash "$0" --inside
-fi
-export QUOVARA_PROGRAM_DIR=$PWD/build/demo/program HOME=$PWD/build/demo
-export XDG_RUNTIME_DIR=$(mktemp -d)
-openbox >/dev/null 2>&1 &
-sleep 1
+source scripts/demo-display.sh "$0" "$@"
 build/bin/quovara >/dev/null 2>&1 &
 sleep 3
 W=$(xdotool search --onlyvisible --name "Quovara")
