@@ -1,6 +1,9 @@
 #include "unsafenames.h"
 
+#include "core/jobscript.h"
+
 #include <QCoreApplication>
+#include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
 #include <atomic>
@@ -127,7 +130,7 @@ QString TooManyUnsafeMessage(qsizetype count) {
                                        nullptr, int(count));
 }
 
-QString AddSourceProblem(const QString& source, bool recurse) {
+QString AddSourceProblem(const QString& source, bool recurse, const EngineTextCodecs& engine) {
     auto refused = [](const QString& name) {
         return name.contains(QLatin1Char('\\')) || name.contains(QLatin1Char(':'));
     };
@@ -150,6 +153,16 @@ QString AddSourceProblem(const QString& source, bool recurse) {
         const QString path = it.next();
         if (refused(it.fileName()))
             return message(path);
+        // The engine reads each name below the source as "source\sub\name"; the folders on
+        // the way were looked at before the entries they hold.
+        if (engine.windows &&
+            !ValueProblemForEngine(it.fileName(), QStringLiteral("name"), false, engine)
+                 .isEmpty()) {
+            const QString seen =
+                info.fileName() + QLatin1Char('\\') +
+                QDir(source).relativeFilePath(path).replace(QLatin1Char('/'), QLatin1Char('\\'));
+            return ValueProblemForEngine(seen, QStringLiteral("name"), false, engine);
+        }
     }
     return QString();
 }

@@ -5,6 +5,8 @@
 // a safe name, and no extraction ever hands one to the engine.
 #pragma once
 
+#include "core/enginelocale.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -51,8 +53,11 @@ QString TooManyUnsafeMessage(qsizetype count);
 // Why an Add of `source` must not run, or empty: a file or folder whose name holds "\" or ":"
 // (possible on Linux) would be stored as another path, one that may climb out of a folder when
 // extracted. The source itself is looked at, and for a folder what it holds (below its
-// sub-folders too when `recurse`).
-QString AddSourceProblem(const QString& source, bool recurse);
+// sub-folders too when `recurse`). For a Windows `engine`, a name inside the folder with a
+// letter the engine's code pages lack is refused too, before the engine would fail on it
+// ("Can't read file"): the message names the letters and a locale that has them.
+QString AddSourceProblem(const QString& source, bool recurse,
+                         const EngineTextCodecs& engine = EngineTextCodecs());
 
 // Said when the user asks for one unsafe entry by name.
 QString UnsafeItemMessage(const QString& stored);

@@ -220,3 +220,31 @@ TEST(StrayFolders, TheFoldersOfExcludedNamesThatDidNotStandAreRemovedWhenEmpty) 
     EXPECT_TRUE(QFileInfo::exists(d + "/stage/kept.txt"));
     EXPECT_TRUE(QFileInfo(d + "/sub").isDir());
 }
+
+TEST(AddSourceProblem, ANameInsideTheFolderThatTheEnginesCodePagesLackIsRefusedBeforeTheJob) {
+    QTemporaryDir dir;
+    const QString source = dir.path() + QString::fromUtf8("/Документы");
+    QDir().mkpath(source + QString::fromUtf8("/Отчёты/Łódź"));
+    auto touch = [](const QString& path) {
+        QFile f(path);
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    };
+    touch(source + QString::fromUtf8("/Годовой.txt"));
+    touch(source + QString::fromUtf8("/Отчёты/Łódź/plan.txt"));
+    const EngineTextCodecs russian = WindowsEngineCodecs("ru_RU.UTF-8");
+    // Not looked into without its sub-folders: everything at the top has Cyrillic names.
+    EXPECT_EQ(AddSourceProblem(source, false, russian), QString());
+    // With them, the Polish folder is named as the engine would read it, with its letters.
+    EXPECT_TRUE(AddSourceProblem(source, true, russian)
+                    .startsWith(QString::fromUtf8(
+                        "The name\nДокументы\\Отчёты\\Łódź\nholds letters that the engine "
+                        "cannot take under the locale ru_RU.UTF-8: \"Ł\" (LATIN CAPITAL LETTER L "
+                        "WITH STROKE)")))
+        << AddSourceProblem(source, true, russian).toStdString();
+    // Under a Polish locale, the Cyrillic names are the ones refused.
+    EXPECT_TRUE(AddSourceProblem(source, true, WindowsEngineCodecs("pl_PL.UTF-8"))
+                    .startsWith(QString::fromUtf8("The name\nДокументы\\")));
+    // An engine that runs natively takes every name.
+    EXPECT_EQ(AddSourceProblem(source, true), QString());
+    EXPECT_EQ(AddSourceProblem(source, true, EngineTextCodecs()), QString());
+}

@@ -266,7 +266,8 @@ void frmAggiungi::Command3_Click() {
         return;
     }
     // A name holding "\\" or ":" would be stored as another path.
-    if (const QString problem = AddSourceProblem(SourcePath, Check1->isChecked());
+    if (const QString problem =
+            AddSourceProblem(SourcePath, Check1->isChecked(), ActiveEngineCodecs());
         !problem.isEmpty()) {
         prompter_.critical(problem);
         return;
