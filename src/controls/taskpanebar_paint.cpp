@@ -34,6 +34,13 @@ QFont boldFont(const QFont& f) {
     return b;
 }
 
+// Where a header's caption begins, from the header's left edge: beside the special group's
+// picture, else 12 pixels in. It ends kButton + 10 pixels before the header's right edge.
+int captionInset(bool besidePicture) {
+    return besidePicture ? 4 + kSpecialIcon + 5 : 12;
+}
+constexpr int kCaptionRightGap = kButton + 10;
+
 int headerHeight(const QFont& f) {
     return std::max(25, QFontMetrics(boldFont(f)).height() + 10);
 }
@@ -144,20 +151,20 @@ int TaskPaneBar::layoutGroup(Group& g, int index, int top, int left, int width) 
 
 int TaskPaneBar::WidthToShowWhole(int childWidth) const {
     const QFontMetrics bfm(boldFont(font()));
-    // The caption's room in paintHeader: from 12 (or beside the special picture) to the
-    // expand button; a group's child sits inside the group's frame and a 6-pixel border.
+    // A group's child sits inside the group's frame and a 6-pixel border; a caption has the
+    // header's width less its inset and the expand button (paintHeader).
     int widest = childWidth + 2 + 12;
-    auto take = [&](const Group& g, int textLeft) {
+    auto take = [&](const Group& g, bool besidePicture) {
         if (!g.caption.isEmpty())
-            widest =
-                std::max(widest, textLeft + bfm.horizontalAdvance(g.caption) + kButton + 10 + 1);
+            widest = std::max(widest, captionInset(besidePicture) +
+                                          bfm.horizontalAdvance(g.caption) + kCaptionRightGap + 1);
     };
     if (m_special.visible)
-        take(m_special, m_special.icon.isNull() ? 12 : 4 + kSpecialIcon + 6);
+        take(m_special, !m_special.icon.isNull());
     for (int i = 1; i < m_groups.size(); ++i)
-        take(m_groups[i], 12);
+        take(m_groups[i], false);
     if (m_details.visible)
-        take(m_details, 12);
+        take(m_details, false);
     const int sbw = m_ScrollBar ? m_ScrollBar->sizeHint().width() : 0;
     // A few pixels more: the advance is rounded, the drawn text is not.
     return widest + 2 * kMargin + sbw + 4;
@@ -356,14 +363,13 @@ void TaskPaneBar::paintHeader(QPainter& p, const TaskPanePalette& pal, const Gro
                r.height());
     p.restore();
 
-    int textLeft = r.left() + 12;
-    if (special && !g.icon.isNull()) {
-        const QRect iconRect(r.left() + 4, r.bottom() + 1 - kSpecialIcon - 2, kSpecialIcon,
-                             kSpecialIcon);
-        p.drawPixmap(iconRect, g.icon);
-        textLeft = iconRect.right() + 6;
-    }
-    const QRect textRect(textLeft, r.top(), r.right() - kButton - 10 - textLeft, r.height());
+    const bool besidePicture = special && !g.icon.isNull();
+    if (besidePicture)
+        p.drawPixmap(
+            QRect(r.left() + 4, r.bottom() + 1 - kSpecialIcon - 2, kSpecialIcon, kSpecialIcon),
+            g.icon);
+    const int textLeft = r.left() + captionInset(besidePicture);
+    const QRect textRect(textLeft, r.top(), r.right() - kCaptionRightGap - textLeft, r.height());
     p.setFont(boldFont(font()));
     p.setPen(special ? (hot ? pal.specialHotText : pal.specialText)
                      : (hot ? pal.headerHotText : pal.headerText));

@@ -33,19 +33,25 @@ ucToolbar::ucToolbar(QWidget* parent) : QWidget(parent) {
     connect(m_overflow, &QToolButton::clicked, this, &ucToolbar::showOverflowMenu);
 }
 
+bool ucToolbar::overflowing() const {
+    return m_initialised && m_contentSize.width() > width();
+}
+
+bool ucToolbar::behindArrow(const Button& b) const {
+    return overflowing() && b.style != tbrSeparator && !b.rect.isEmpty() &&
+           b.rect.right() >= width() - kOverflowWidth;
+}
+
 QList<int> ucToolbar::OverflowButtons() const {
     QList<int> out;
-    if (!m_initialised || m_contentSize.width() <= width())
-        return out;
-    const int limit = width() - kOverflowWidth;
     for (const auto& b : m_buttons)
-        if (b.style != tbrSeparator && !b.rect.isEmpty() && b.rect.right() >= limit)
+        if (behindArrow(b))
             out << b.id;
     return out;
 }
 
 void ucToolbar::placeOverflow() {
-    const bool needed = m_initialised && m_contentSize.width() > width();
+    const bool needed = overflowing();
     if (needed) {
         m_overflow->setGeometry(width() - kOverflowWidth, clientTop(), kOverflowWidth,
                                 m_contentSize.height());
@@ -362,11 +368,6 @@ void ucToolbar::relayout() {
     if (hintChanged)
         updateGeometry();
     update();
-}
-
-bool ucToolbar::behindArrow(const Button& b) const {
-    return m_overflow->isVisibleTo(this) && b.style != tbrSeparator && !b.rect.isEmpty() &&
-           b.rect.right() >= width() - kOverflowWidth;
 }
 
 QSize ucToolbar::sizeHint() const {

@@ -164,6 +164,8 @@ private:
     QRect widgetRect(const Button& b) const;
     QRect arrowRect(const Button& b) const;
     int buttonAt(const QPoint& pos) const;
+    // The buttons are wider than the toolbar: the overflow arrow is shown.
+    bool overflowing() const;
     // A button that does not fit and is offered by the overflow arrow instead.
     bool behindArrow(const Button& b) const;
     void setHot(int id, bool fromKeyboard = false);
